@@ -1,0 +1,39 @@
+# Settings shared by every target: language levels, warnings, visibility, build types.
+
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+set(CMAKE_CXX_VISIBILITY_PRESET hidden)
+set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
+
+set(CMAKE_CXX_FLAGS_DEV "-O1 -g1" CACHE STRING "Flags of the Dev build type")
+set(CMAKE_CXX_FLAGS_RELEASE "-O3")
+
+option(TINTMILL_SANITIZE "Build with the address and undefined-behaviour sanitizers" OFF)
+
+add_compile_options(-Wall -Wextra -Wshadow -Wundef -Wsuggest-override -Werror)
+if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+    # Unique symbols would keep a module's library mapped after it is unloaded.
+    add_compile_options(-fno-gnu-unique)
+endif()
+if(TINTMILL_SANITIZE)
+    add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
+    add_link_options(-fsanitize=address,undefined)
+endif()
+
+find_program(CCACHE_PROGRAM ccache)
+if(CCACHE_PROGRAM)
+    set(CMAKE_CXX_COMPILER_LAUNCHER ${CCACHE_PROGRAM})
+endif()
+
+# The build tree is laid out as an engine installation, so that programs find plug-ins relative to themselves.
+if(WIN32)
+    set(UE_PLATFORM_DIR Win64)
+else()
+    set(UE_PLATFORM_DIR Linux)
+endif()
+set(UE_ENGINE_DIR ${CMAKE_BINARY_DIR}/Engine)
+set(UE_BINARIES_DIR ${UE_ENGINE_DIR}/Binaries/${UE_PLATFORM_DIR})
+set(UE_GENERATED_DIR ${UE_ENGINE_DIR}/Intermediate/Inc)
+set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${UE_BINARIES_DIR})

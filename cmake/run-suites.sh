@@ -1,0 +1,74 @@
+#!/usr/bin/env bash
+# run-suites.sh BUILD [NAME...]: runs the test programs and the checks of the sources, sums up in one line.
+set -uo pipefail
+cd "$(dirname "${BASH_SOURCE[0]}")/.."
+build_dir=$1
+shift
+
+passed=0
+failed=0
+failures=()
+
+# wanted NAME: whether the caller asked for it.
+wanted()
+{
+    local word
+    [ ${#selection[@]} -eq 0 ] && return 0
+    for word in "${selection[@]}"; do
+        [[ "${1,,}" == *"${word,,}"* ]] && return 0
+    done
+    return 1
+}
+
+# count PASSED FAILED NAME
+count()
+{
+    passed=$((passed + $1))
+    failed=$((failed + $2))
+    [ "$2" -eq 0 ] || failures+=("$3")
+    printf '%-28s %5d passed, %d failed\n' "$3" "$1" "$2"
+}
+
+# suite NAME: one GoogleTest program; a crash counts as a failure of its own.
+suite()
+{
+    local name=$1 program="$build_dir/Engine/Binaries/Linux/$1" log="$build_dir/Results/$1.log" status ok bad
+    timeout 600 "$program" --gtest_brief=0 --gtest_output="xml:$build_dir/Results/$name.xml" >"$log" 2>&1
+    status=$?
+    ok=$(grep -c '^\[       OK \]' "$log")
+    bad=$(grep -c '^\[  FAILED  \] .* (.* ms)$' "$log")
+    if [ "$status" -ne 0 ] && [ "$bad" -eq 0 ]; then
+        bad=1
+        printf 'The program %s ended with status %d:\n' "$name" "$status"
+        tail -n 15 "$log"
+    elif [ "$bad" -ne 0 ]; then
+        grep -B 12 '^\[  FAILED  \] .* (.* ms)$' "$log"
+    fi
+    count "$ok" "$bad" "$name"
+}
+
+# check NAME SCRIPT: a check of the sources that prints what it found.
+check()
+{
+    if "$2" "$build_dir"; then
+        count 1 0 "$1"
+    else
+        count 0 1 "$1"
+    fi
+}
+
+selection=("$@")
+mkdir -p "$build_dir/Results"
+
+while read -r name; do
+    wanted "$name" && suite "$name"
+done <"$build_dir/suites.txt"
+
+for script in cmake/checks/*.sh; do
+    name="check $(basename "$script" .sh)"
+    wanted "$name" && check "$name" "$script"
+done
+
+[ ${#failures[@]} -eq 0 ] || printf 'Failed: %s\n' "${failures[*]}"
+printf '%d passed, %d failed\n' "$passed" "$failed"
+[ "$failed" -eq 0 ] && [ "$passed" -gt 0 ]

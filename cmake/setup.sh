@@ -1,0 +1,74 @@
+# Shell functions that ./run and ./test share: what a fresh Debian machine lacks, and one build.
+
+# What the build and its programs need beyond a bare Debian 12.
+PACKAGES=(
+    build-essential cmake ninja-build pkg-config ccache
+    libopencolorio-dev libcairo2-dev libpango1.0-dev libsdl2-dev libcli11-dev fonts-roboto-unhinted fonts-noto-core
+)
+
+# What the tests need on top.
+TEST_PACKAGES=(
+    libgtest-dev libgmock-dev librapidcheck-dev libbenchmark-dev clang clang-format binutils
+)
+
+# say TEXT: one line on what goes on.
+say()
+{
+    printf '== %s\n' "$*" >&2
+}
+
+# install_packages [PACKAGE...]: installs what is missing of PACKAGES and the arguments; asks nothing.
+install_packages()
+{
+    local missing=() package
+    for package in "${PACKAGES[@]}" "$@"; do
+        dpkg-query -W -f='${Status}' "$package" 2>/dev/null | grep -q 'ok installed' || missing+=("$package")
+    done
+    [ ${#missing[@]} -eq 0 ] && return 0
+
+    local sudo=()
+    if [ "$(id -u)" -ne 0 ]; then
+        command -v sudo >/dev/null || { say "Packages are missing and neither root nor sudo is here. Install: ${missing[*]}"; exit 2; }
+        sudo=(sudo)
+    fi
+    say "Installing ${#missing[@]} packages: ${missing[*]}"
+    "${sudo[@]}" env DEBIAN_FRONTEND=noninteractive apt-get update -qq >&2
+    "${sudo[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null
+}
+
+# build PRESET TARGET...: configures where needed and builds; progress on one line, the log only when something fails.
+build()
+{
+    local preset=$1 log
+    shift
+    mkdir -p "build/$preset"
+    log="build/$preset/build.log"
+    if [ ! -f "build/$preset/build.ninja" ]; then
+        say "Configuring build/$preset"
+        cmake --preset "$preset" >"$log" 2>&1 || { cat "$log" >&2; exit 1; }
+    fi
+    say "Building $* in build/$preset"
+    if [ -t 2 ]; then
+        ninja -C "build/$preset" "$@" >&2
+    else
+        progress_lines "$log" ninja -C "build/$preset" "$@"
+    fi
+}
+
+# progress_lines LOG COMMAND...: runs the command, prints a line at every tenth of its steps, all of its output if it fails.
+progress_lines()
+{
+    local log=$1 status=0
+    shift
+    NINJA_STATUS='[%f/%t] ' "$@" 2>&1 | tee "$log" | awk '
+        match($0, /^\[[0-9]+\/[0-9]+\]/) {
+            split(substr($0, 2, RLENGTH - 2), step, "/")
+            tenth = int(10 * step[1] / step[2])
+            if (tenth != last) { print "   " step[1] " of " step[2]; fflush(); last = tenth }
+        }' >&2 || true
+    status=${PIPESTATUS[0]}
+    if [ "$status" -ne 0 ]; then
+        grep -v '^\[[0-9]*/[0-9]*\] \(Building\|Linking\|Generating\)' "$log" >&2
+        exit "$status"
+    fi
+}
