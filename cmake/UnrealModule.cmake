@@ -179,3 +179,9 @@ function(ue_plugin name)
     add_custom_target(${name}Plugin ALL DEPENDS ${stamp})
     add_dependencies(${name}Plugin Tintmill TintmillEditor)
 endfunction()
+
+# ue_product_flags(TARGET FILE): include folders and definitions of the target as a response file, for checks outside the build.
+function(ue_product_flags target file)
+    file(GENERATE OUTPUT ${file} CONTENT
+        "-I$<JOIN:$<TARGET_PROPERTY:${target},INCLUDE_DIRECTORIES>,\n-I>\n-D$<JOIN:$<TARGET_PROPERTY:${target},COMPILE_DEFINITIONS>,\n-D>\n")
+endfunction()

@@ -32,32 +32,38 @@ void FViewportCapture::WritePixels(const TArray<FColor>& InPixels, TArray<uint8>
 {
 	OutBytes.Reset();
 	OutBytes.SetNumZeroed(InPixels.Num() * 4);
-	check(OutBytes.Num() == InPixels.Num() * 4);
+	SwapRedAndBlue(InPixels, OutBytes);
+}
 
-	// Whole words in blocks of fixed length: compilers vectorize this at every optimization level, a loop over bytes only at
-	// the highest. FColor keeps blue in the lowest byte, the builder wants red there.
+void FViewportCapture::SwapRedAndBlue(const TArray<FColor>& InPixels, TArray<uint8>& OutBytes)
+{
+	// One check in place of one for every element.
+	const int32 ByteCount = OutBytes.Num();
+	check(ByteCount == InPixels.Num() * 4);
+
+	// FColor keeps blue in its first byte, the builder wants red there. Four words a step: compilers make one vector of them at
+	// every level of optimization, of a loop over bytes only at the highest.
+	const int32 StepWords = 4;
+	const int32 StepBytes = 4 * StepWords;
 	const uint8* const Source = reinterpret_cast<const uint8*>(InPixels.GetData());
 	uint8* const Target = OutBytes.GetData();
-	const int32 BlockLength = 16;
-	const int32 BlockEnd = InPixels.Num() - InPixels.Num() % BlockLength;
-
-	for (int32 Index = 0; Index < BlockEnd; Index += BlockLength)
+	int32 Index = 0;
+	for (; ByteCount - Index >= StepBytes; Index += StepBytes)
 	{
-		uint32 Block[BlockLength];
-		FMemory::Memcpy(Block, Source + 4 * static_cast<SIZE_T>(Index), sizeof(Block));
-		for (int32 Offset = 0; Offset < BlockLength; ++Offset)
+		uint32 Words[StepWords];
+		FMemory::Memcpy(Words, Source + Index, StepBytes);
+		for (uint32& Word : Words)
 		{
-			const uint32 Word = Block[Offset];
-			Block[Offset] = (Word & 0xFF00FF00u) | ((Word >> 16) & 0x000000FFu) | ((Word << 16) & 0x00FF0000u);
+			const uint32 RedAndBlue = Word & 0x00FF00FFu;
+			Word = (Word & 0xFF00FF00u) | (RedAndBlue >> 16) | (RedAndBlue << 16);
 		}
-		FMemory::Memcpy(Target + 4 * static_cast<SIZE_T>(Index), Block, sizeof(Block));
+		FMemory::Memcpy(Target + Index, Words, StepBytes);
 	}
-
-	for (int32 Index = BlockEnd; Index < InPixels.Num(); ++Index)
+	for (; Index < ByteCount; Index += 4)
 	{
-		OutBytes[4 * Index] = InPixels[Index].R;
-		OutBytes[4 * Index + 1] = InPixels[Index].G;
-		OutBytes[4 * Index + 2] = InPixels[Index].B;
-		OutBytes[4 * Index + 3] = InPixels[Index].A;
+		Target[Index] = Source[Index + 2];
+		Target[Index + 1] = Source[Index + 1];
+		Target[Index + 2] = Source[Index];
+		Target[Index + 3] = Source[Index + 3];
 	}
 }

@@ -17,8 +17,11 @@ public:
 	/** Describes the picture. The description borrows the pixels and ends with this object. */
 	FTintmillAPI_ImageDesc& GetImageDesc() { return ImageDesc; }
 
-	/** Writes each pixel as red, green, blue and alpha, in the order of the pixels. */
+	/** Writes each pixel as red, green, blue and alpha, in the order of the pixels, into an array that it sizes. */
 	static void WritePixels(const TArray<FColor>& InPixels, TArray<uint8>& OutBytes);
+
+	/** The conversion alone: OutBytes has four bytes for each pixel already; anything else is fatal. */
+	static void SwapRedAndBlue(const TArray<FColor>& InPixels, TArray<uint8>& OutBytes);
 
 private:
 	TArray<uint8> Bytes;

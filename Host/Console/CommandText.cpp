@@ -1,0 +1,118 @@
+// Copyright The Tintmill authors. All rights reserved.
+
+#include "Console/CommandText.h"
+
+namespace TintmillHost
+{
+namespace
+{
+constexpr std::string_view Blanks = " \t\r";
+
+std::string Trimmed(std::string_view Text)
+{
+	const size_t First = Text.find_first_not_of(Blanks);
+	if (First == std::string_view::npos)
+	{
+		return {};
+	}
+	return std::string(Text.substr(First, Text.find_last_not_of(Blanks) - First + 1));
+}
+}
+
+std::vector<std::string> SplitCommands(std::string_view Text)
+{
+	std::vector<std::string> Commands;
+	std::string Current;
+	char Quote = 0;
+	bool bComment = false;
+
+	const auto Finish = [&] {
+		if (std::string Command = Trimmed(Current); !Command.empty())
+		{
+			Commands.push_back(std::move(Command));
+		}
+		Current.clear();
+		Quote = 0;
+	};
+
+	for (const char Character : Text)
+	{
+		if (Character == '\n')
+		{
+			Finish();
+			bComment = false;
+		}
+		else if (bComment)
+		{
+			continue;
+		}
+		else if (Quote != 0)
+		{
+			Current += Character;
+			Quote = Character == Quote ? 0 : Quote;
+		}
+		else if (Character == ';')
+		{
+			Finish();
+		}
+		else if (Character == '#')
+		{
+			bComment = true;
+		}
+		else
+		{
+			Current += Character;
+			Quote = Character == '"' || Character == '\'' ? Character : 0;
+		}
+	}
+	Finish();
+	return Commands;
+}
+
+std::vector<std::string> SplitWords(std::string_view Command)
+{
+	std::vector<std::string> Words;
+	std::string Current;
+	bool bInWord = false;
+	char Quote = 0;
+
+	for (const char Character : Command)
+	{
+		if (Quote != 0)
+		{
+			if (Character == Quote)
+			{
+				Quote = 0;
+			}
+			else
+			{
+				Current += Character;
+			}
+		}
+		else if (Character == '"' || Character == '\'')
+		{
+			Quote = Character;
+			bInWord = true;
+		}
+		else if (Blanks.find(Character) != std::string_view::npos)
+		{
+			if (bInWord)
+			{
+				Words.push_back(std::move(Current));
+				Current.clear();
+				bInWord = false;
+			}
+		}
+		else
+		{
+			Current += Character;
+			bInWord = true;
+		}
+	}
+	if (bInWord)
+	{
+		Words.push_back(std::move(Current));
+	}
+	return Words;
+}
+}

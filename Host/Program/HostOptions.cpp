@@ -1,0 +1,70 @@
+// Copyright The Tintmill authors. All rights reserved.
+
+#include "Program/HostOptions.h"
+
+#include <CLI/CLI.hpp>
+
+namespace TintmillHost
+{
+namespace
+{
+constexpr int MinPaneLength = 16;
+constexpr int MaxPaneLength = 8192;
+
+/** "640x360" as two lengths in pixels. Throws CLI::ValidationError with a sentence when it is anything else. */
+std::pair<int, int> ParseSize(const std::string& Text)
+{
+	int Width = 0;
+	int Height = 0;
+	char Rest = 0;
+	const bool bTwoNumbers = std::sscanf(Text.c_str(), "%5dx%5d%c", &Width, &Height, &Rest) == 2;
+	if (!bTwoNumbers || Width < MinPaneLength || Height < MinPaneLength || Width > MaxPaneLength || Height > MaxPaneLength)
+	{
+		throw CLI::ValidationError(
+			"--size", "'" + Text + "' is not a size: give width and height of a pane in pixels, each from 16 to 8192, as in 640x360.");
+	}
+	return {Width, Height};
+}
+}
+
+std::variant<FHostOptions, FHostExit> ParseCommandLine(const std::vector<std::string>& Arguments)
+{
+	FHostOptions Options;
+	std::string Size = "640x360";
+	std::string Exec;
+
+	CLI::App App("Opens a project of look files in an editor and shows its looks on the viewports.", "tintmill-editor");
+	App.add_option("PROJECT,--project", Options.Project, "Folder of the project; the demo project if left out");
+	App.add_flag("--headless", Options.bHeadless, "Run without a window");
+	CLI::Option* const ExecOption = App.add_option("--exec", Exec, "Console commands to run, separated by semicolons ('help' lists them)");
+	App.add_option("--tour", Options.Tour, "Tour file to play: console commands, one a line");
+	App.add_option("--out", Options.OutDir, "Folder for pictures and pages")->capture_default_str();
+	App.add_option("--size", Size, "Size of one pane in pixels")->capture_default_str();
+	App.add_flag("--list", Options.bList, "Print what is registered once everything has started, and end");
+
+	try
+	{
+		std::vector<std::string> Reversed(Arguments.rbegin(), Arguments.rend());
+		App.parse(std::move(Reversed));
+		std::tie(Options.Width, Options.Height) = ParseSize(Size);
+	}
+	catch (const CLI::CallForHelp&)
+	{
+		return FHostExit{0, App.help()};
+	}
+	catch (const CLI::ExtrasError&)
+	{
+		return FHostExit{2, "Unknown argument '" + App.remaining().front() + "': see tintmill-editor --help for what there is.\n"};
+	}
+	catch (const CLI::ParseError& Error)
+	{
+		return FHostExit{2, std::string(Error.what()) + "\n"};
+	}
+
+	if (ExecOption->count() > 0)
+	{
+		Options.Exec = Exec;
+	}
+	return Options;
+}
+}

@@ -1,0 +1,50 @@
+// Copyright The Tintmill authors. All rights reserved.
+
+#pragma once
+
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <variant>
+#include <vector>
+
+// What the command line of the host says. Pure: looks at nothing but the arguments.
+
+namespace TintmillHost
+{
+/** What the user asked the program to do. */
+struct FHostOptions
+{
+	/** Folder of the project to open; empty means the demo project. */
+	std::filesystem::path Project;
+
+	/** Run without a window. */
+	bool bHeadless = false;
+
+	/** Folder for pictures and pages; created when the first one is written. */
+	std::filesystem::path OutDir = "out";
+
+	/** Console commands to run, separated by semicolons; unset means the default road of a headless run. */
+	std::optional<std::string> Exec;
+
+	/** Tour file to play; empty means none. */
+	std::filesystem::path Tour;
+
+	/** Size of one pane's picture in pixels. */
+	int Width = 640;
+	int Height = 360;
+
+	/** Print what is registered with the engine once everything has started, and end. */
+	bool bList = false;
+};
+
+/** The program is to end without starting: what to print, and its exit code. */
+struct FHostExit
+{
+	int Code = 0;
+	std::string Text;
+};
+
+/** Reads the arguments, the program's name left out. A wrong one gives exit code 2 and one sentence. */
+std::variant<FHostOptions, FHostExit> ParseCommandLine(const std::vector<std::string>& Arguments);
+}
