@@ -1,6 +1,6 @@
 // Copyright The Tintmill authors. All rights reserved.
 
-#include "Console/CommandText.h"
+#include "Host/Console/CommandText.h"
 
 namespace TintmillHost
 {

@@ -1,8 +1,8 @@
 // Copyright The Tintmill authors. All rights reserved.
 
-#include "Console/Console.h"
+#include "Host/Console/Console.h"
 
-#include "Console/CommandText.h"
+#include "Host/Console/CommandText.h"
 
 #include <iomanip>
 

@@ -1,6 +1,6 @@
 // Copyright The Tintmill authors. All rights reserved.
 
-#include "Gallery/GalleryPage.h"
+#include "Host/Gallery/GalleryPage.h"
 
 #include <algorithm>
 #include <cerrno>

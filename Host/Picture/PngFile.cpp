@@ -1,6 +1,6 @@
 // Copyright The Tintmill authors. All rights reserved.
 
-#include "Picture/PngFile.h"
+#include "Host/Picture/PngFile.h"
 
 #include <cairo.h>
 

@@ -1,6 +1,6 @@
 // Copyright The Tintmill authors. All rights reserved.
 
-#include "Program/HostOptions.h"
+#include "Host/Program/HostOptions.h"
 
 #include <CLI/CLI.hpp>
 

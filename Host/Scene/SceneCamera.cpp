@@ -25,10 +25,10 @@ FSceneCamera DefaultSceneCamera(int PaneIndex)
 		Camera.Distance = 4.2f;
 		break;
 	default:
-		Camera.Target = {0.35f, 0.15f, 0.98f};
-		Camera.YawDegrees = 12.0f;
-		Camera.PitchDegrees = 13.0f;
-		Camera.Distance = 5.6f;
+		Camera.Target = {0.35f, 0.12f, 1.12f};
+		Camera.YawDegrees = 10.0f;
+		Camera.PitchDegrees = 7.0f;
+		Camera.Distance = 5.3f;
 		break;
 	}
 	return Camera;

@@ -87,10 +87,13 @@ std::vector<FSceneShape> BuildScene(float Seconds)
 {
 	using namespace SceneContentPrivate;
 	std::vector<FSceneShape> Shapes;
-	AddFigure(Shapes, {0.55f, -0.62f, Hop(Seconds, 0.0f)}, 1.00f, FromSrgb(186, 26, 34), FromSrgb(240, 196, 164), FromSrgb(140, 72, 30), -4.0f);
+	AddFigure(
+		Shapes, {0.55f, -0.62f, Hop(Seconds, 0.0f)}, 1.00f, FromSrgb(186, 26, 34), FromSrgb(240, 196, 164), FromSrgb(140, 72, 30), -4.0f);
 	AddFigure(Shapes, {0.20f, 0.28f, Hop(Seconds, 0.8f)}, 1.08f, FromSrgb(16, 66, 178), FromSrgb(112, 70, 46), FromSrgb(20, 15, 14), 10.0f);
-	AddFigure(Shapes, {0.75f, 1.12f, Hop(Seconds, 1.6f)}, 0.92f, FromSrgb(240, 180, 18), FromSrgb(206, 150, 104), FromSrgb(36, 24, 20), 14.0f);
-	AddFigure(Shapes, {1.60f, 0.02f, Hop(Seconds, 2.4f)}, 1.16f, FromSrgb(18, 120, 58), FromSrgb(232, 178, 150), FromSrgb(206, 160, 84), 4.0f);
+	AddFigure(
+		Shapes, {0.75f, 1.12f, Hop(Seconds, 1.6f)}, 0.92f, FromSrgb(240, 180, 18), FromSrgb(206, 150, 104), FromSrgb(36, 24, 20), 14.0f);
+	AddFigure(
+		Shapes, {1.60f, 0.02f, Hop(Seconds, 2.4f)}, 1.16f, FromSrgb(18, 120, 58), FromSrgb(232, 178, 150), FromSrgb(176, 128, 58), 4.0f);
 	AddBall(Shapes, {-0.55f, 1.12f, 0.34f}, 0.34f, ESceneMaterial::Chrome, {0.92f, 0.92f, 0.94f});
 	AddBall(Shapes, {-0.95f, 0.42f, 0.20f}, 0.20f, ESceneMaterial::Matte, {0.18f, 0.18f, 0.18f});
 	AddBall(Shapes, {-0.85f, -0.14f, 0.20f}, 0.20f, ESceneMaterial::Matte, {0.86f, 0.86f, 0.86f});
@@ -107,12 +110,12 @@ std::vector<FSceneShape> BuildScene(float Seconds)
 
 FSceneVector ScenePatch(int Index)
 {
-	static const FSceneVector Patches[ScenePatchCount] = {
-		FromSrgb(116, 78, 62), FromSrgb(200, 146, 126), FromSrgb(92, 120, 160), FromSrgb(88, 108, 62), FromSrgb(132, 126, 180),
-		FromSrgb(98, 190, 174), FromSrgb(222, 120, 40), FromSrgb(70, 88, 170), FromSrgb(196, 82, 98), FromSrgb(92, 56, 108),
-		FromSrgb(164, 192, 60), FromSrgb(228, 164, 40), FromSrgb(44, 60, 156), FromSrgb(66, 150, 72), FromSrgb(180, 44, 56),
-		FromSrgb(240, 204, 22), FromSrgb(190, 80, 156), FromSrgb(0, 138, 172), FromSrgb(245, 245, 245), FromSrgb(202, 202, 202),
-		FromSrgb(162, 162, 162), FromSrgb(120, 120, 120), FromSrgb(82, 82, 82), FromSrgb(46, 46, 46)};
+	static const FSceneVector Patches[ScenePatchCount] = {FromSrgb(116, 78, 62), FromSrgb(200, 146, 126), FromSrgb(92, 120, 160),
+		FromSrgb(88, 108, 62), FromSrgb(132, 126, 180), FromSrgb(98, 190, 174), FromSrgb(222, 120, 40), FromSrgb(70, 88, 170),
+		FromSrgb(196, 82, 98), FromSrgb(92, 56, 108), FromSrgb(164, 192, 60), FromSrgb(228, 164, 40), FromSrgb(44, 60, 156),
+		FromSrgb(66, 150, 72), FromSrgb(180, 44, 56), FromSrgb(240, 204, 22), FromSrgb(190, 80, 156), FromSrgb(0, 138, 172),
+		FromSrgb(245, 245, 245), FromSrgb(202, 202, 202), FromSrgb(162, 162, 162), FromSrgb(120, 120, 120), FromSrgb(82, 82, 82),
+		FromSrgb(46, 46, 46)};
 	return Patches[std::min(std::max(Index, 0), ScenePatchCount - 1)];
 }
 }

@@ -132,12 +132,12 @@ bool IsHair(const FSceneVector& Outward, const FSceneVector& Facing)
 
 FSceneVector BoardRight(const FSceneShape& Board)
 {
-	return Normalized(Cross({0.0f, 0.0f, 1.0f}, Board.B));
+	return Normalized(Cross(Board.B, {0.0f, 0.0f, 1.0f}));
 }
 
 FSceneVector BoardUp(const FSceneShape& Board)
 {
-	return Cross(Board.B, BoardRight(Board));
+	return Cross(BoardRight(Board), Board.B);
 }
 
 bool Intersect(const FSceneShape& Shape, const FSceneRay& Ray, FSceneHit& InOutHit)
@@ -180,15 +180,16 @@ float PassingLight(const FSceneShape& Shape, const FSceneVector& Point, const FS
 
 float PassingSky(const FSceneShape& Shape, const FSceneVector& Point, const FSceneVector& Normal)
 {
-	if (Shape.Kind == ESceneShape::Board)
+	const FSceneVector Center = Shape.Kind == ESceneShape::Capsule ? SceneShapePrivate::NearestOnAxis(Shape, Point) : Shape.A;
+	const FSceneVector ToCenter = Center - Point;
+	const float Share = Shape.Radius * Shape.Radius / std::max(Dot(ToCenter, ToCenter), Shape.Radius * Shape.Radius);
+	constexpr float Least = 1.0f / (SceneSkyReach * SceneSkyReach);
+	if (Share < Least)
 	{
 		return 1.0f;
 	}
-	const FSceneVector Center = Shape.Kind == ESceneShape::Capsule ? SceneShapePrivate::NearestOnAxis(Shape, Point) : Shape.A;
-	const FSceneVector ToCenter = Center - Point;
-	const float Squared = std::max(Dot(ToCenter, ToCenter), Shape.Radius * Shape.Radius);
-	const float Facing = Dot(Normal, ToCenter) / std::sqrt(Squared);
-	return 1.0f - 0.9f * std::max(Facing * 0.85f + 0.15f, 0.0f) * Shape.Radius * Shape.Radius / Squared;
+	const float Facing = Dot(Normal, ToCenter) * std::sqrt(Share) / Shape.Radius;
+	return 1.0f - 0.9f * std::max(Facing * 0.85f + 0.15f, 0.0f) * (Share - Least);
 }
 
 float BoundingRadius(const FSceneShape& Shape, FSceneVector& OutCenter)

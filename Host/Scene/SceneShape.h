@@ -83,6 +83,9 @@ bool Intersect(const FSceneShape& Shape, const FSceneRay& Ray, FSceneHit& InOutH
 /** How much of the light, 0..1, that comes from the direction passes the solid on its way to the point; Softness is the light's radius over its distance. */
 float PassingLight(const FSceneShape& Shape, const FSceneVector& Point, const FSceneVector& ToLight, float Softness);
 
+/** How many radii away a ball stops hiding sky that anyone would miss. */
+constexpr float SceneSkyReach = 5.8f;
+
 /** How much of the sky, 0..1, a surface still sees past the solid. */
 float PassingSky(const FSceneShape& Shape, const FSceneVector& Point, const FSceneVector& Normal);
 

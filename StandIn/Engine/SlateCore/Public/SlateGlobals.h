@@ -7,4 +7,4 @@
 // Log categories of the user-interface modules.
 
 DECLARE_LOG_CATEGORY_EXTERN(LogSlate, Log, All);
-DECLARE_LOG_CATEGORY_EXTERN(LogSlateStyles, Log, All);
+DECLARE_LOG_CATEGORY_EXTERN(LogSlateStyle, Log, All);

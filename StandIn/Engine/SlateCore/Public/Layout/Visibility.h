@@ -28,7 +28,7 @@ struct SLATECORE_API EVisibility
 	static const EVisibility All;
 
 	/** Makes Visible. */
-	EVisibility() : Value(VIS_Visible) {}
+	constexpr EVisibility() : Value(VIS_Visible) {}
 
 	/** Compares two values. */
 	bool operator==(const EVisibility& Other) const { return Value == Other.Value; }
@@ -71,7 +71,7 @@ private:
 			| VISPRIVATE_ChildrenHitTestVisible
 	};
 
-	EVisibility(Private InValue) : Value(InValue) {}
+	constexpr EVisibility(Private InValue) : Value(InValue) {}
 
 	Private Value;
 };

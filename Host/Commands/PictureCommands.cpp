@@ -1,0 +1,77 @@
+// Copyright The Tintmill authors. All rights reserved.
+
+#include "Host/Commands/PictureCommands.h"
+
+#include "Host/Console/Console.h"
+#include "Host/Editor/Panes.h"
+#include "Host/Picture/PngFile.h"
+#include "Host/Program/HostProgram.h"
+#include "Host/Program/Strings.h"
+
+#include "LevelEditorViewport.h"
+#include "SLevelViewport.h"
+#include "StandIn/LevelEditorPanes.h"
+#include "TintmillDisplayConfiguration.h"
+
+#include <algorithm>
+
+namespace TintmillHost
+{
+namespace
+{
+std::filesystem::path Save(const FPicture& Picture, const std::filesystem::path& File, std::ostream& Output)
+{
+	if (const std::string Problem = WritePng(Picture, File); !Problem.empty())
+	{
+		throw FCommandError(Problem);
+	}
+	Output << "  " << File.string() << '\n';
+	return File;
+}
+
+/** The pane's key as a file name: "FourPanes2x2.Viewport 1.Viewport0" is "FourPanes2x2-Viewport1-Viewport0". */
+std::string MakeFileStem(const FName& ConfigKey)
+{
+	std::string Stem = ToUtf8(ConfigKey.ToString());
+	Stem.erase(std::remove(Stem.begin(), Stem.end(), ' '), Stem.end());
+	std::replace(Stem.begin(), Stem.end(), '.', '-');
+	return Stem;
+}
+
+/** Saves every pane's picture without and with its look, side by side on the page. */
+void SavePictures(FHostProgram& Program, std::ostream& Output)
+{
+	for (const TSharedPtr<SLevelViewport>& Pane : StandIn::GetPanes())
+	{
+		const std::string Stem = MakeFileStem(Pane->GetConfigKey());
+		const std::string Caption = ToUtf8(Pane->GetConfigKey().ToString()) + ": " + DescribeRecord(GetPaneRecord(*Pane));
+		const std::filesystem::path Without =
+			Save(DrawPaneWithLook(*Pane, false), Program.GetOutDir() / (Stem + "-without-look.png"), Output);
+		const std::filesystem::path With = Save(DrawPaneWithLook(*Pane, true), Program.GetOutDir() / (Stem + "-with-look.png"), Output);
+		Program.GetGallery().AddComparison(Caption, Without, With);
+	}
+}
+}
+
+void AddPictureCommands(FConsole& Console, FHostProgram& Program)
+{
+	Console.Add("draw [PANE]", "draw a pane, or all of them", [](const FArguments& Words, std::ostream&) {
+		for (const TSharedPtr<SLevelViewport>& Pane : StandIn::GetPanes())
+		{
+			if (Words.empty() || Pane == FindPane(Words[0]))
+			{
+				DrawPane(*Pane);
+			}
+		}
+	});
+	Console.Add("picture PANE [FILE]", "draw a pane and save its picture as a PNG in the folder of --out",
+		[&Program](const FArguments& Words, std::ostream& Output) {
+			const TSharedRef<SLevelViewport> Pane = FindPane(Words[0]);
+			const std::string Name = Words.size() > 1 ? Words[1] : MakeFileStem(Pane->GetConfigKey()) + ".png";
+			const std::filesystem::path File = Save(DrawPane(*Pane), Program.GetOutDir() / Name, Output);
+			Program.GetGallery().AddPicture(ToUtf8(Pane->GetConfigKey().ToString()) + ": " + DescribeRecord(GetPaneRecord(*Pane)), File);
+		});
+	Console.Add("pictures", "save every pane's picture without and with its look",
+		[&Program](const FArguments&, std::ostream& Output) { SavePictures(Program, Output); });
+}
+}

@@ -1,0 +1,38 @@
+// Copyright The Tintmill authors. All rights reserved.
+
+#pragma once
+
+#include "CoreMinimal.h"
+#include "Host/Picture/PngFile.h"
+#include "Templates/SharedPointer.h"
+
+#include <string>
+
+class SLevelViewport;
+struct FTintmillDisplayConfiguration;
+
+// The level editor's panes as people speak of them: by number, by name ("Viewport1"), or by the key of their place in the layout.
+
+namespace TintmillHost
+{
+/** The pane of a number, name or key in the first tab. Throws FCommandError, with the panes there are, when there is none. */
+TSharedRef<SLevelViewport> FindPane(const std::string& Word);
+
+/** The pane that is worked in. Throws FCommandError when there is none. */
+TSharedRef<SLevelViewport> GetActivePane();
+
+/** Gives every pane the same size in pixels, whatever the window's. */
+void SetPaneSize(const FIntPoint& Size);
+
+/** The pane's live display configuration. */
+FTintmillDisplayConfiguration& GetPaneRecord(SLevelViewport& Pane);
+
+/** Draws the pane and reads its picture. */
+FPicture DrawPane(SLevelViewport& Pane);
+
+/** Draws the pane once with its look switched on or off; the record is as before afterwards. */
+FPicture DrawPaneWithLook(SLevelViewport& Pane, bool bEnable);
+
+/** "Monochrome at 0.8", "Monochrome (off)", "no look" …: the record in words. */
+std::string DescribeRecord(const FTintmillDisplayConfiguration& Record);
+}

@@ -1,0 +1,30 @@
+// Copyright The Tintmill authors. All rights reserved.
+
+#pragma once
+
+#include "Host/Scene/SceneCamera.h"
+
+#include <map>
+
+class FViewportClient;
+
+// What each viewport sees of the scene.
+
+namespace TintmillHost
+{
+/** Paints the scene for all viewports while it lives; every viewport keeps its own camera. */
+class FSceneViews
+{
+public:
+	FSceneViews();
+	~FSceneViews();
+	FSceneViews(const FSceneViews&) = delete;
+	FSceneViews& operator=(const FSceneViews&) = delete;
+
+	/** The viewport's camera; at first the one that suits the pane's kind of view, or the game's. */
+	FSceneCamera& GetCamera(FViewportClient& Client);
+
+private:
+	std::map<const FViewportClient*, FSceneCamera> Cameras;
+};
+}

@@ -1,0 +1,142 @@
+// Copyright The Tintmill authors. All rights reserved.
+
+#include "Host/Program/HostProgram.h"
+
+#include "Host/Commands/EditorCommands.h"
+#include "Host/Commands/ListCommands.h"
+#include "Host/Commands/PictureCommands.h"
+#include "Host/Commands/RecordCommands.h"
+#include "Host/Console/CommandText.h"
+#include "Host/Editor/Panes.h"
+
+#include "Misc/OutputDeviceRedirector.h"
+#include "StandIn/LookFiles.h"
+
+#include <algorithm>
+#include <cmath>
+#include <fstream>
+#include <iostream>
+#include <iterator>
+
+namespace TintmillHost
+{
+namespace
+{
+/** What a run without a window does when nothing else was asked for. */
+constexpr const char* DefaultCommands = "panes; pictures; notices";
+
+constexpr double FrameSeconds = 1.0 / 60.0;
+}
+
+FHostProgram::FHostProgram(const FHostOptions& InOptions)
+	: Options(InOptions)
+{
+	GLog->AddOutputDevice(&StandardOutput);
+}
+
+FHostProgram::~FHostProgram()
+{
+	GLog->RemoveOutputDevice(&StandardOutput);
+}
+
+int FHostProgram::Run()
+{
+	if (const std::string Problem = Project.Open(Options.Project); !Problem.empty())
+	{
+		std::cerr << Problem << '\n';
+		return 2;
+	}
+
+	StartEditor();
+	RegisterCommands();
+	const bool bCommandsDone = RunCommands();
+	const bool bGalleryWritten = WriteGallery();
+	ExitEditor();
+	return bCommandsDone && bGalleryWritten ? 0 : 2;
+}
+
+void FHostProgram::TickEditor(double Seconds)
+{
+	StandIn::PollLookFiles();
+	const int Frames = std::max(1, static_cast<int>(std::lround(Seconds / FrameSeconds)));
+	for (int Frame = 0; Frame < Frames; ++Frame)
+	{
+		EngineLoop.TickFrame(static_cast<float>(FrameSeconds));
+	}
+}
+
+void FHostProgram::StartEditor()
+{
+	Project.Mount();
+
+	StandIn::FEngineLoopOptions LoopOptions;
+	LoopOptions.MaximizedPane = NAME_None;
+	EngineLoop.PreInit(LoopOptions);
+	EngineLoop.Init();
+	SceneViews.emplace();
+	EngineLoop.InitEditor();
+	SetPaneSize(GetPaneSize());
+	TickEditor(FrameSeconds);
+}
+
+void FHostProgram::RegisterCommands()
+{
+	AddEditorCommands(Console, *this);
+	AddListCommands(Console);
+	AddPictureCommands(Console, *this);
+	AddRecordCommands(Console);
+}
+
+bool FHostProgram::RunCommands()
+{
+	std::string Commands = Options.bList ? "registered" : Options.Exec.value_or(DefaultCommands);
+	if (!Options.Tour.empty())
+	{
+		std::ifstream Tour(Options.Tour);
+		if (!Tour)
+		{
+			std::cerr << "The tour " << Options.Tour.string() << " cannot be read; give a text file of console commands with --tour.\n";
+			return false;
+		}
+		Commands.assign(std::istreambuf_iterator<char>(Tour), std::istreambuf_iterator<char>());
+	}
+
+	for (const std::string& Command : SplitCommands(Commands))
+	{
+		try
+		{
+			Console.Run(Command, std::cout);
+			std::cout.flush();
+		}
+		catch (const FCommandError& Error)
+		{
+			std::cerr << Error.what() << '\n';
+			return false;
+		}
+	}
+	return true;
+}
+
+bool FHostProgram::WriteGallery()
+{
+	if (Gallery.IsEmpty())
+	{
+		return true;
+	}
+	const std::filesystem::path File = Options.OutDir / "index.html";
+	if (const std::string Problem = Gallery.Write(File, Project.GetName(), Log.GetText()); !Problem.empty())
+	{
+		std::cerr << Problem << '\n';
+		return false;
+	}
+	std::cout << "All pictures: " << File.string() << '\n';
+	return true;
+}
+
+void FHostProgram::ExitEditor()
+{
+	EngineLoop.CloseMainFrame();
+	SceneViews.reset();
+	EngineLoop.Exit();
+}
+}

@@ -1,0 +1,60 @@
+// Copyright The Tintmill authors. All rights reserved.
+
+#pragma once
+
+#include "Host/Console/Console.h"
+#include "Host/Editor/SceneViews.h"
+#include "Host/Gallery/GalleryPage.h"
+#include "Host/Program/HostLog.h"
+#include "Host/Program/HostOptions.h"
+#include "Host/Program/Project.h"
+
+#include "StandIn/EngineLoop.h"
+#include "StandIn/StdOutOutputDevice.h"
+
+#include <memory>
+#include <optional>
+
+// One run of the program, from the project to the engine's exit.
+
+namespace TintmillHost
+{
+/** Opens a project in the editor, runs commands, and leaves as the engine does. */
+class FHostProgram
+{
+public:
+	explicit FHostProgram(const FHostOptions& InOptions);
+	~FHostProgram();
+
+	/** Runs to the end. Returns 0, or 2 when something that the user asked for could not be done; the reason was printed. */
+	int Run();
+
+	/** The size of a pane's picture in pixels. */
+	FIntPoint GetPaneSize() const { return FIntPoint(Options.Width, Options.Height); }
+
+	/** The folder for pictures and pages. */
+	const std::filesystem::path& GetOutDir() const { return Options.OutDir; }
+
+	/** The page that the run leaves behind. */
+	FGalleryPage& GetGallery() { return Gallery; }
+
+	/** Runs frames of the editor, for Seconds at 60 frames a second, at least one. */
+	void TickEditor(double Seconds);
+
+private:
+	void StartEditor();
+	void RegisterCommands();
+	bool RunCommands();
+	bool WriteGallery();
+	void ExitEditor();
+
+	FHostOptions Options;
+	StandIn::FStdOutOutputDevice StandardOutput;
+	FHostLog Log;
+	FProject Project;
+	FConsole Console;
+	FGalleryPage Gallery;
+	StandIn::FEngineLoop EngineLoop;
+	std::optional<FSceneViews> SceneViews;
+};
+}

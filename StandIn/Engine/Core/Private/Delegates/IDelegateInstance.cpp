@@ -1,0 +1,11 @@
+// Copyright The Tintmill authors. All rights reserved.
+
+#include "Delegates/IDelegateInstance.h"
+
+#include <atomic>
+
+uint64 FDelegateHandle::GenerateNewID()
+{
+	static std::atomic<uint64> LastID(0);
+	return ++LastID;
+}

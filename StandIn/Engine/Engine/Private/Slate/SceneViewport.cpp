@@ -1,0 +1,134 @@
+// Copyright The Tintmill authors. All rights reserved.
+
+#include "Slate/SceneViewport.h"
+
+#include "Widgets/SViewport.h"
+
+FSceneViewport::FSceneViewport(FViewportClient* InViewportClient, TSharedPtr<SViewport> InViewportWidget)
+	: FViewport(InViewportClient)
+	, ViewportWidget(InViewportWidget)
+	, bForceViewportSize(false)
+{
+}
+
+FSceneViewport::~FSceneViewport()
+{
+	FSceneViewport::Destroy();
+}
+
+void FSceneViewport::Destroy()
+{
+	ViewportClient = nullptr;
+	UpdateSize(0, 0);
+}
+
+void FSceneViewport::Invalidate()
+{
+	InvalidateDisplay();
+}
+
+void FSceneViewport::InvalidateDisplay()
+{
+	InvalidateScene();
+	if (ViewportClient != nullptr)
+	{
+		ViewportClient->RedrawRequested(this);
+	}
+}
+
+void FSceneViewport::SetFixedViewportSize(uint32 NewViewportSizeX, uint32 NewViewportSizeY)
+{
+	bForceViewportSize = NewViewportSizeX > 0 && NewViewportSizeY > 0;
+	if (bForceViewportSize)
+	{
+		UpdateSize(NewViewportSizeX, NewViewportSizeY);
+	}
+	else if (ViewportWidget.IsValid())
+	{
+		const FVector2D WidgetSize = ViewportWidget.Pin()->GetCachedGeometry().GetDrawSize();
+		UpdateSize(static_cast<uint32>(FMath::Max(0, FMath::RoundToInt(WidgetSize.X))),
+			static_cast<uint32>(FMath::Max(0, FMath::RoundToInt(WidgetSize.Y))));
+	}
+}
+
+TWeakPtr<SWidget> FSceneViewport::GetWidget()
+{
+	return ViewportWidget;
+}
+
+void FSceneViewport::OnDrawViewport(const FGeometry& AllottedGeometry, const FSlateRect&, FSlateWindowElementList&, int32,
+	const FWidgetStyle&, bool)
+{
+	if (!bForceViewportSize)
+	{
+		const FVector2D DrawSize = AllottedGeometry.GetDrawSize();
+		const uint32 NewSizeX = static_cast<uint32>(FMath::Max(0, FMath::RoundToInt(DrawSize.X)));
+		const uint32 NewSizeY = static_cast<uint32>(FMath::Max(0, FMath::RoundToInt(DrawSize.Y)));
+		if (FIntPoint(static_cast<int32>(NewSizeX), static_cast<int32>(NewSizeY)) != FViewport::GetSizeXY())
+		{
+			UpdateSize(NewSizeX, NewSizeY);
+			InvalidateDisplay();
+		}
+	}
+}
+
+FReply FSceneViewport::OnMouseButtonDown(const FGeometry&, const FPointerEvent& MouseEvent)
+{
+	if (ViewportClient == nullptr)
+	{
+		return FReply::Unhandled();
+	}
+	ViewportClient->InputKey(this, 0, MouseEvent.GetEffectingButton(), IE_Pressed);
+	FReply Reply = FReply::Handled();
+	if (ViewportWidget.IsValid())
+	{
+		Reply.SetUserFocus(ViewportWidget.Pin().ToSharedRef(), EFocusCause::Mouse);
+	}
+	return Reply;
+}
+
+FReply FSceneViewport::OnMouseButtonUp(const FGeometry&, const FPointerEvent& MouseEvent)
+{
+	if (ViewportClient == nullptr)
+	{
+		return FReply::Unhandled();
+	}
+	ViewportClient->InputKey(this, 0, MouseEvent.GetEffectingButton(), IE_Released);
+	return FReply::Handled();
+}
+
+FReply FSceneViewport::OnKeyDown(const FGeometry&, const FKeyEvent& InKeyEvent)
+{
+	const EInputEvent Event = InKeyEvent.IsRepeat() ? IE_Repeat : IE_Pressed;
+	if (ViewportClient != nullptr && ViewportClient->InputKey(this, 0, InKeyEvent.GetKey(), Event))
+	{
+		return FReply::Handled();
+	}
+	return FReply::Unhandled();
+}
+
+FReply FSceneViewport::OnKeyUp(const FGeometry&, const FKeyEvent& InKeyEvent)
+{
+	if (ViewportClient != nullptr && ViewportClient->InputKey(this, 0, InKeyEvent.GetKey(), IE_Released))
+	{
+		return FReply::Handled();
+	}
+	return FReply::Unhandled();
+}
+
+FReply FSceneViewport::OnFocusReceived(const FFocusEvent&)
+{
+	if (ViewportClient != nullptr)
+	{
+		ViewportClient->ReceivedFocus(this);
+	}
+	return FReply::Handled();
+}
+
+void FSceneViewport::OnFocusLost(const FFocusEvent&)
+{
+	if (ViewportClient != nullptr)
+	{
+		ViewportClient->LostFocus(this);
+	}
+}

@@ -1,0 +1,5 @@
+// Copyright The Tintmill authors. All rights reserved.
+
+#include "Modules/ModuleManager.h"
+
+IMPLEMENT_MODULE(FDefaultModuleImpl, PropertyEditor)

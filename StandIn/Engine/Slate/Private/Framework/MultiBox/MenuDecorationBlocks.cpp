@@ -1,0 +1,56 @@
+// Copyright The Tintmill authors. All rights reserved.
+
+#include "Framework/MultiBox/MenuDecorationBlocks.h"
+#include "Framework/MultiBox/MenuLook.h"
+#include "Framework/MultiBox/SMenuHeading.h"
+#include "Widgets/Images/SImage.h"
+#include "Widgets/Layout/SBorder.h"
+#include "Widgets/Layout/SBox.h"
+#include "Widgets/SBoxPanel.h"
+#include "Widgets/Text/STextBlock.h"
+
+void SMenuHeading::Construct(const FArguments& InArgs)
+{
+	Text = InArgs._Text;
+	ChildSlot.Padding(FMargin(4.0f, 4.0f, 4.0f, 2.0f))[SNew(STextBlock)
+														   .Text(InArgs._Text)
+														   .Font(FMenuLook::HeadingFont())
+														   .ColorAndOpacity(FMenuLook::HeadingColor())];
+}
+
+TSharedRef<SWidget> FHeadingBlock::MakeWidget(const TSharedRef<SMultiBoxWidget>&) const
+{
+	return SNew(SMenuHeading).Text(HeadingText);
+}
+
+TSharedRef<SWidget> FSeparatorBlock::MakeWidget(const TSharedRef<SMultiBoxWidget>&) const
+{
+	return SNew(SBox).HeightOverride(1.0f).Padding(FMargin(0.5f))[SNew(SImage).Image(FMenuLook::Separator())];
+}
+
+TSharedRef<SWidget> FWidgetBlock::MakeWidget(const TSharedRef<SMultiBoxWidget>&) const
+{
+	const FMargin Padding = bNoIndent ? FMargin(2.0f, 2.0f, 4.0f, 4.0f) : FMargin(18.0f, 2.0f, 4.0f, 4.0f);
+	const EVisibility LabelVisibility = Label.IsEmpty() ? EVisibility::Collapsed : EVisibility::HitTestInvisible;
+	// clang-format off
+	return SNew(SHorizontalBox)
+		+ SHorizontalBox::Slot()
+		.AutoWidth()
+		.VAlign(VAlign_Center)
+		.Padding(FMargin(Padding.Left, Padding.Top, 0.0f, Padding.Bottom))
+		[
+			SNew(STextBlock)
+			.Visibility(LabelVisibility)
+			.Text(Label)
+			.Font(FMenuLook::LabelFont())
+			.ColorAndOpacity(FMenuLook::TextColor())
+		]
+		+ SHorizontalBox::Slot()
+		.FillWidth(1.0f)
+		.VAlign(bNoIndent ? VAlign_Fill : VAlign_Center)
+		.Padding(FMargin(Label.IsEmpty() ? 0.0f : 4.0f, Padding.Top, Padding.Right, Padding.Bottom))
+		[
+			Content
+		];
+	// clang-format on
+}

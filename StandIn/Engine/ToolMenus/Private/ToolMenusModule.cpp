@@ -1,0 +1,14 @@
+// Copyright The Tintmill authors. All rights reserved.
+
+#include "Modules/ModuleInterface.h"
+#include "Modules/ModuleManager.h"
+#include "ToolMenus.h"
+
+/** Module of the tool menus; the manager is there while the module is loaded. */
+class FToolMenusModule : public IModuleInterface
+{
+public:
+	virtual void StartupModule() override { UToolMenus::AddToRegistrations(); }
+};
+
+IMPLEMENT_MODULE(FToolMenusModule, ToolMenus)

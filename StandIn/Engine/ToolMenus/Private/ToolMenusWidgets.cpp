@@ -1,0 +1,272 @@
+// Copyright The Tintmill authors. All rights reserved.
+
+#include "Containers/Ticker.h"
+#include "Framework/Application/SlateApplication.h"
+#include "Framework/MultiBox/MultiBox.h"
+#include "Framework/MultiBox/MultiBoxBuilder.h"
+#include "StandIn/FatalHandler.h"
+#include "StandIn/MenuEntryArguments.h"
+#include "Styling/CoreStyle.h"
+#include "Styling/SlateStyleRegistry.h"
+#include "ToolMenus.h"
+
+namespace ToolMenusWidgetsPrivate
+{
+FUIAction BindContext(const FToolUIAction& Source, const FToolMenuContext& Context)
+{
+	FUIAction Action;
+	if (Source.ExecuteAction.IsBound())
+	{
+		const FToolMenuExecuteAction Execute = Source.ExecuteAction;
+		Action.ExecuteAction = FExecuteAction::CreateLambda([Execute, Context]() { Execute.ExecuteIfBound(Context); });
+	}
+	if (Source.CanExecuteAction.IsBound())
+	{
+		const FToolMenuCanExecuteAction CanExecute = Source.CanExecuteAction;
+		Action.CanExecuteAction =
+			FCanExecuteAction::CreateLambda([CanExecute, Context]() { return !CanExecute.IsBound() || CanExecute.Execute(Context); });
+	}
+	if (Source.GetActionCheckState.IsBound())
+	{
+		const FToolMenuGetActionCheckState GetState = Source.GetActionCheckState;
+		Action.GetActionCheckState = FGetActionCheckState::CreateLambda(
+			[GetState, Context]() { return GetState.IsBound() ? GetState.Execute(Context) : ECheckBoxState::Unchecked; });
+	}
+	if (Source.IsActionVisibleDelegate.IsBound())
+	{
+		const FToolMenuIsActionButtonVisible IsVisible = Source.IsActionVisibleDelegate;
+		Action.IsActionVisibleDelegate =
+			FIsActionButtonVisible::CreateLambda([IsVisible, Context]() { return !IsVisible.IsBound() || IsVisible.Execute(Context); });
+	}
+	return Action;
+}
+
+FUIAction ActionOf(const FToolUIActionChoice& Choice, const FToolMenuContext& Context)
+{
+	if (const FUIAction* Action = Choice.GetUIAction())
+	{
+		return *Action;
+	}
+	const FToolUIAction* ToolAction = Choice.GetToolUIAction();
+	return ToolAction ? BindContext(*ToolAction, Context) : FUIAction();
+}
+
+bool IsInPopUp(const TSharedRef<SWidget>& Widget)
+{
+	FWidgetPath Path;
+	FSlateApplication& Application = FSlateApplication::Get();
+	return Application.GeneratePathToWidgetUnchecked(Widget, Path) && Application.FindMenuInWidgetPath(Path).IsValid();
+}
+}
+
+TSharedRef<SWidget> UToolMenus::GenerateWidget(const FName Name, const FToolMenuContext& InMenuContext)
+{
+	return GenerateWidget(GenerateMenu(Name, InMenuContext));
+}
+
+TSharedRef<SWidget> UToolMenus::GenerateWidget(const TArray<UToolMenu*>& Hierarchy, const FToolMenuContext& InMenuContext)
+{
+	const FName Name = Hierarchy.Num() > 0 ? Hierarchy.Last()->MenuName : FName();
+	return GenerateWidget(Assemble(Hierarchy, Name, InMenuContext));
+}
+
+TSharedRef<SWidget> UToolMenus::GenerateWidget(UToolMenu* GeneratedMenu)
+{
+	check(GeneratedMenu);
+	const TSharedRef<FMultiBox> MultiBox = MakeMultiBox(GeneratedMenu);
+	const TSharedRef<SMultiBoxWidget> Widget = MultiBox->MakeWidget();
+	AddLiveMenu(GeneratedMenu, MultiBox, Widget, FindMenu(GeneratedMenu->MenuName) != nullptr);
+	return Widget;
+}
+
+TSharedRef<FMultiBox> UToolMenus::MakeMultiBox(UToolMenu* GeneratedMenu)
+{
+	if (GeneratedMenu->MenuType != EMultiBoxType::Menu)
+	{
+		STANDIN_MISSING(TEXT("UToolMenus::GenerateWidget of a menu that is not of type EMultiBoxType::Menu"));
+	}
+	const ISlateStyle* Style = GeneratedMenu->StyleName.IsNone() ? nullptr : FSlateStyleRegistry::FindSlateStyle(GeneratedMenu->StyleName);
+	FMenuBuilder MenuBuilder(GeneratedMenu->bShouldCloseWindowAfterMenuSelection, TSharedPtr<const FUICommandList>(),
+		GeneratedMenu->Context.GetAllExtenders(), GeneratedMenu->bCloseSelfOnly, Style ? Style : &FCoreStyle::Get(),
+		GeneratedMenu->bSearchable, GeneratedMenu->MenuName);
+	PopulateMenuBuilder(MenuBuilder, GeneratedMenu);
+	return MenuBuilder.GetMultiBox();
+}
+
+void UToolMenus::PopulateMenuBuilder(FMenuBuilder& MenuBuilder, UToolMenu* MenuData)
+{
+	for (int32 Index = 0; Index < MenuData->Sections.Num(); ++Index)
+	{
+		const FToolMenuSection Section = MenuData->Sections[Index];
+		if (Section.Construct.NewToolBarDelegateLegacy.IsBound())
+		{
+			STANDIN_MISSING(TEXT("FNewToolBarDelegateLegacy"));
+		}
+		if (Section.Construct.NewToolMenuDelegateLegacy.IsBound())
+		{
+			Section.Construct.NewToolMenuDelegateLegacy.Execute(MenuBuilder, MenuData);
+			continue;
+		}
+		MenuBuilder.BeginSection(Section.Name, Section.Label);
+		for (const FToolMenuEntry& Block : Section.Blocks)
+		{
+			PopulateEntry(MenuBuilder, MenuData, Block);
+		}
+		MenuBuilder.EndSection();
+	}
+}
+
+void UToolMenus::PopulateEntry(FMenuBuilder& MenuBuilder, UToolMenu* MenuData, const FToolMenuEntry& Block)
+{
+	if (Block.ConstructLegacy.IsBound())
+	{
+		Block.ConstructLegacy.Execute(MenuBuilder, MenuData);
+		return;
+	}
+	switch (Block.Type)
+	{
+	case EMultiBlockType::None:
+		return;
+	case EMultiBlockType::Separator:
+		MenuBuilder.AddMenuSeparator(Block.Name);
+		return;
+	case EMultiBlockType::Widget:
+		if (Block.MakeWidget.IsBound())
+		{
+			MenuBuilder.AddWidget(Block.MakeWidget.Execute(MenuData->Context), Block.Label.Get(), Block.WidgetData.bNoIndent,
+				Block.WidgetData.bSearchable);
+		}
+		return;
+	case EMultiBlockType::MenuEntry:
+		break;
+	default:
+		STANDIN_MISSING(TEXT("A tool menu entry in a menu that is neither a menu entry, a separator nor a widget"));
+	}
+
+	FMenuEntryArguments Arguments;
+	Arguments.ExtensionHook = Block.Name;
+	Arguments.Label = Block.Label;
+	Arguments.ToolTip = Block.ToolTip;
+	Arguments.Icon = Block.Icon.IsSet() ? Block.Icon.Get() : FSlateIcon();
+	Arguments.Action = ToolMenusWidgetsPrivate::ActionOf(Block.Action, MenuData->Context);
+	Arguments.UserInterfaceActionType = Block.UserInterfaceActionType;
+	Arguments.bShouldCloseWindowAfterMenuSelection = Block.bShouldCloseWindowAfterMenuSelection;
+	if (Block.MakeWidget.IsBound())
+	{
+		Arguments.Contents = Block.MakeWidget.Execute(MenuData->Context);
+	}
+	if (Block.Command.IsValid())
+	{
+		Arguments.Command = Block.Command;
+		Block.GetActionForCommand(MenuData->Context, Arguments.CommandList);
+	}
+	if (Block.IsSubMenu())
+	{
+		const FNewToolMenuChoice& Choice = Block.SubMenuData.ConstructMenu;
+		Arguments.bIsSubMenu = true;
+		Arguments.bOpenSubMenuOnClick = Block.SubMenuData.bOpenSubMenuOnClick;
+		if (Choice.NewMenuLegacy.IsBound())
+		{
+			Arguments.FillSubMenu = Choice.NewMenuLegacy;
+		}
+		else if (Choice.NewToolMenuWidget.IsBound())
+		{
+			const FNewToolMenuWidget NewWidget = Choice.NewToolMenuWidget;
+			const FToolMenuContext Context = MenuData->Context;
+			Arguments.MakeSubMenu = FOnGetContent::CreateLambda([NewWidget, Context]() { return NewWidget.Execute(Context); });
+		}
+		else if (Choice.OnGetContent.IsBound())
+		{
+			Arguments.MakeSubMenu = Choice.OnGetContent;
+		}
+		else
+		{
+			Arguments.FillSubMenu =
+				FNewMenuDelegate::CreateUObject(this, &UToolMenus::PopulateSubMenu, TWeakObjectPtr<UToolMenu>(MenuData), Block.Name);
+		}
+	}
+	MenuBuilder.AddEntry(Arguments);
+}
+
+void UToolMenus::PopulateSubMenu(FMenuBuilder& MenuBuilder, TWeakObjectPtr<UToolMenu> InParent, FName InBlockName)
+{
+	UToolMenu* SubMenu = InParent.IsValid() ? GenerateSubMenu(InParent.Get(), InBlockName) : nullptr;
+	if (SubMenu)
+	{
+		AddLiveMenu(SubMenu, MenuBuilder.GetMultiBox(), nullptr, false);
+		PopulateMenuBuilder(MenuBuilder, SubMenu);
+	}
+}
+
+void UToolMenus::AddLiveMenu(
+	UToolMenu* Menu, const TSharedRef<FMultiBox>& MultiBox, const TSharedPtr<SMultiBoxWidget>& Widget, const bool bRegistered)
+{
+	LiveMenus.RemoveAll([](const FLiveMenu& LiveMenu) { return !LiveMenu.MultiBox.IsValid(); });
+	FLiveMenu LiveMenu;
+	LiveMenu.Menu = Menu;
+	LiveMenu.MultiBox = MultiBox;
+	LiveMenu.Widget = Widget;
+	LiveMenu.bFromRegistration = bRegistered;
+	LiveMenus.Add(LiveMenu);
+}
+
+void UToolMenus::RefreshAllWidgets()
+{
+	if (!RefreshTickHandle.IsValid())
+	{
+		RefreshTickHandle = FTicker::GetCoreTicker().AddTicker(FTickerDelegate::CreateUObject(this, &UToolMenus::OnRefreshTick));
+	}
+}
+
+bool UToolMenus::OnRefreshTick(float)
+{
+	RefreshTickHandle.Reset();
+	RefreshWidgets(NAME_None);
+	return false;
+}
+
+bool UToolMenus::RefreshMenuWidget(const FName Name)
+{
+	return !Name.IsNone() && RefreshWidgets(Name);
+}
+
+bool UToolMenus::RefreshWidgets(const FName OnlyName)
+{
+	TArray<TSharedPtr<SMultiBoxWidget>> Widgets;
+	for (const FLiveMenu& LiveMenu : LiveMenus)
+	{
+		const TSharedPtr<SMultiBoxWidget> Widget = LiveMenu.Widget.Pin();
+		if (Widget.IsValid() && LiveMenu.bFromRegistration && (OnlyName.IsNone() || OnlyName == LiveMenu.Menu->MenuName))
+		{
+			Widgets.Add(Widget);
+		}
+	}
+	for (const TSharedPtr<SMultiBoxWidget>& Widget : Widgets)
+	{
+		if (!ToolMenusWidgetsPrivate::IsInPopUp(Widget.ToSharedRef()))
+		{
+			RefreshWidget(Widget.ToSharedRef());
+		}
+	}
+	return Widgets.Num() > 0;
+}
+
+void UToolMenus::RefreshWidget(const TSharedRef<SMultiBoxWidget>& Widget)
+{
+	const auto IsWidget = [&Widget](const FLiveMenu& LiveMenu) { return LiveMenu.Widget == Widget; };
+	const FLiveMenu* Old = LiveMenus.FindByPredicate(IsWidget);
+	if (!Old || !FindMenu(Old->Menu->MenuName))
+	{
+		return;
+	}
+	UToolMenu* GeneratedMenu = GenerateMenu(Old->Menu->MenuName, Old->Menu->Context);
+	const TSharedRef<FMultiBox> MultiBox = MakeMultiBox(GeneratedMenu);
+	// The delegates may have made other menus, so the entry is looked up again.
+	if (FLiveMenu* LiveMenu = LiveMenus.FindByPredicate(IsWidget))
+	{
+		LiveMenu->Menu = GeneratedMenu;
+		LiveMenu->MultiBox = MultiBox;
+		Widget->SetMultiBox(MultiBox);
+		Widget->BuildMultiBoxWidget();
+	}
+}

@@ -1,0 +1,110 @@
+// Copyright The Tintmill authors. All rights reserved.
+
+#include "SEditorViewportToolbarMenu.h"
+#include "Brushes/SlateColorBrush.h"
+#include "Framework/Application/IMenu.h"
+#include "Framework/Application/SlateApplication.h"
+#include "InputCoreTypes.h"
+#include "Layout/WidgetPath.h"
+#include "Styling/CoreStyle.h"
+#include "Widgets/Layout/SBorder.h"
+#include "Widgets/Text/STextBlock.h"
+
+void SViewportToolBar::Construct(const FArguments&) {}
+
+TSharedPtr<SEditorViewportToolbarMenu> SViewportToolBar::GetOpenMenu() const
+{
+	const TSharedPtr<SEditorViewportToolbarMenu> Button = OpenMenu.Pin();
+	return Button.IsValid() && Button->IsMenuOpen() ? Button : TSharedPtr<SEditorViewportToolbarMenu>();
+}
+
+void SEditorViewportToolbarMenu::Construct(const FArguments& Declaration)
+{
+	Label = Declaration._Label;
+	OnGetMenuContent = Declaration._OnGetMenuContent;
+	ParentToolBar = Declaration._ParentToolBar;
+	// clang-format off
+	ChildSlot
+	[
+		SNew(SBorder)
+		.BorderImage(this, &SEditorViewportToolbarMenu::GetBackground)
+		.Padding(FMargin(6.0f, 2.0f))
+		.VAlign(VAlign_Center)
+		[
+			SNew(STextBlock)
+			.Visibility(EVisibility::HitTestInvisible)
+			.Text(Declaration._Label)
+			.Font(FCoreStyle::GetDefaultFontStyle(TEXT("Regular"), 9))
+			.ColorAndOpacity(FSlateColor(FLinearColor(0.72f, 0.72f, 0.72f)))
+			.ShadowOffset(FVector2D(1.0f, 1.0f))
+			.ShadowColorAndOpacity(FLinearColor(0.0f, 0.0f, 0.0f, 0.7f))
+		]
+	];
+	// clang-format on
+}
+
+const FSlateBrush* SEditorViewportToolbarMenu::GetBackground() const
+{
+	static const FSlateColorBrush Idle(FLinearColor(0.02f, 0.02f, 0.02f, 0.55f));
+	static const FSlateColorBrush Hovered(FLinearColor(0.1f, 0.1f, 0.1f, 0.7f));
+	static const FSlateColorBrush Open(FLinearColor(0.701f, 0.225f, 0.003f));
+	return IsMenuOpen() ? &Open : (IsHovered() ? &Hovered : &Idle);
+}
+
+void SEditorViewportToolbarMenu::SetMenuOpen(const bool bOpen)
+{
+	const TSharedPtr<IMenu> Current = Menu.Pin();
+	if (bOpen == Current.IsValid())
+	{
+		return;
+	}
+	if (!bOpen)
+	{
+		Menu.Reset();
+		Current->Dismiss();
+		return;
+	}
+	if (!OnGetMenuContent.IsBound())
+	{
+		return;
+	}
+	OnMenuOpening();
+	const FGeometry& Geometry = GetCachedGeometry();
+	Menu = FSlateApplication::Get().PushMenu(AsShared(), FWidgetPath(), OnGetMenuContent.Execute(), Geometry.GetAbsolutePosition(),
+		FPopupTransitionEffect(FPopupTransitionEffect::ComboButton), true, Geometry.GetAbsoluteSize());
+	if (const TSharedPtr<SViewportToolBar> ToolBar = ParentToolBar.Pin())
+	{
+		ToolBar->SetOpenMenu(SharedThis(this));
+	}
+}
+
+void SEditorViewportToolbarMenu::OnMouseEnter(const FGeometry& MyGeometry, const FPointerEvent& MouseEvent)
+{
+	SCompoundWidget::OnMouseEnter(MyGeometry, MouseEvent);
+	const TSharedPtr<SViewportToolBar> ToolBar = ParentToolBar.Pin();
+	const TSharedPtr<SEditorViewportToolbarMenu> Open = ToolBar.IsValid() ? ToolBar->GetOpenMenu() : nullptr;
+	if (Open.IsValid() && Open.Get() != this && OnGetMenuContent.IsBound())
+	{
+		Open->SetMenuOpen(false);
+		SetMenuOpen(true);
+	}
+}
+
+FReply SEditorViewportToolbarMenu::OnMouseButtonDown(const FGeometry&, const FPointerEvent& MouseEvent)
+{
+	if (MouseEvent.GetEffectingButton() == EKeys::LeftMouseButton)
+	{
+		SetMenuOpen(!IsMenuOpen());
+	}
+	return FReply::Handled();
+}
+
+FReply SEditorViewportToolbarMenu::OnMouseButtonUp(const FGeometry&, const FPointerEvent&)
+{
+	return FReply::Handled();
+}
+
+FReply SEditorViewportToolbarMenu::OnMouseButtonDoubleClick(const FGeometry& InMyGeometry, const FPointerEvent& InMouseEvent)
+{
+	return OnMouseButtonDown(InMyGeometry, InMouseEvent);
+}

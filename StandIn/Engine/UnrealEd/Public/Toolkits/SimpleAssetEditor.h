@@ -1,0 +1,22 @@
+// Copyright The Tintmill authors. All rights reserved.
+
+#pragma once
+
+#include "CoreMinimal.h"
+#include "Toolkits/IToolkit.h"
+#include "Toolkits/IToolkitHost.h"
+
+// The editor of assets that have none of their own: a panel of their properties. Not in the stand-in; asking for it is refused.
+
+/** Editor that shows the properties of any asset. */
+class UNREALED_API FSimpleAssetEditor
+{
+public:
+	/** Opens an object; refused. */
+	static TSharedRef<FSimpleAssetEditor> CreateEditor(
+		const EToolkitMode::Type Mode, const TSharedPtr<IToolkitHost>& InitToolkitHost, UObject* ObjectToEdit);
+
+	/** Opens several objects; refused. */
+	static TSharedRef<FSimpleAssetEditor> CreateEditor(
+		const EToolkitMode::Type Mode, const TSharedPtr<IToolkitHost>& InitToolkitHost, const TArray<UObject*>& ObjectsToEdit);
+};
