@@ -121,8 +121,9 @@ void FHeaderWriter::WriteEnhancedConstructors(const FReflectedType& Type)
 	if (!bOwn)
 	{
 		Result += ConstructorComment;
-		Result += Fill("\t$0 $1(const FObjectInitializer& ObjectInitializer = FObjectInitializer::Get())$2 { }; \\\n",
-			{GetMemberApi(Type), Type.CppName, BaseTakesInitializer(Type) ? " : Super(ObjectInitializer)" : ""});
+		const bool bHandOn = BaseTakesInitializer(Type);
+		Result += Fill("\t$0 $1(const FObjectInitializer&$2 = FObjectInitializer::Get())$3 { }; \\\n",
+			{GetMemberApi(Type), Type.CppName, bHandOn ? " ObjectInitializer" : "", bHandOn ? " : Super(ObjectInitializer)" : ""});
 	}
 	Result += Fill("$0 \\\n$1\t$2\n\n\n",
 		{GetPrivateCopies(Type), GetHelperConstructors(Type), GetConstructorCall(Type, !bOwn || Type.bDeclaresInitializerConstructor)});

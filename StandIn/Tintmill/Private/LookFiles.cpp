@@ -142,7 +142,7 @@ FString GetLookFileName(const UTintmillObject* Asset)
 FString GetLookNoticeKey(const UTintmillObject* Asset)
 {
 	check(Asset);
-	return TEXT("LookFile:") + Asset->GetPathName();
+	return FString(TEXT("LookFile:")) + Asset->GetPathName();
 }
 
 bool ApplyLookToPixels(const UTintmillObject* Asset, uint8* Pixels, int32 PixelCount)

@@ -34,12 +34,12 @@ ILookGraderMaker::~ILookGraderMaker()
 	}
 }
 
-std::shared_ptr<const ILookGrader> MakeLookGrader(const LookFile::FCheckedFile& File, std::string& OutReason)
+std::shared_ptr<const ILookGrader> MakeLookGrader(const LookFile::FCheckedFile& File, std::string& OutReason, int HighestRank)
 {
 	OutReason = "this build has nothing that can apply ." + File.Extension + " files";
 	for (const ILookGraderMaker* Maker = LookGraderPrivate::FirstMaker; Maker != nullptr; Maker = Maker->NextMaker)
 	{
-		if (!Maker->CanMake(File))
+		if (Maker->Rank > HighestRank || !Maker->CanMake(File))
 		{
 			continue;
 		}

@@ -6,6 +6,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <limits>
 #include <memory>
 #include <string>
 
@@ -14,6 +15,12 @@
 
 namespace LookGrading
 {
+/** Rank of makers that read every format with the help of a library. */
+constexpr int LibraryRank = 0;
+
+/** Rank of makers for formats whose tables are at hand already. */
+constexpr int TableRank = 10;
+
 /** In which order a pixel's four bytes stand. */
 enum class EByteOrder : std::uint8_t
 {
@@ -51,12 +58,13 @@ public:
 	virtual std::shared_ptr<const ILookGrader> Make(const LookFile::FCheckedFile& File, std::string& OutReason) const = 0;
 
 private:
-	friend std::shared_ptr<const ILookGrader> MakeLookGrader(const LookFile::FCheckedFile& File, std::string& OutReason);
+	friend std::shared_ptr<const ILookGrader> MakeLookGrader(const LookFile::FCheckedFile& File, std::string& OutReason, int HighestRank);
 
 	ILookGraderMaker* NextMaker;
 	int Rank;
 };
 
-/** Returns a grader from the first maker that has one for the file; null with the reason when none has. */
-std::shared_ptr<const ILookGrader> MakeLookGrader(const LookFile::FCheckedFile& File, std::string& OutReason);
+/** Returns a grader from the first maker, of at most the highest rank, that has one for the file; null with the reason when none has. */
+std::shared_ptr<const ILookGrader> MakeLookGrader(
+	const LookFile::FCheckedFile& File, std::string& OutReason, int HighestRank = std::numeric_limits<int>::max());
 }

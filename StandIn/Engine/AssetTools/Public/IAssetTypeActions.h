@@ -6,7 +6,6 @@
 #include "AssetRegistry/AssetData.h"
 #include "AssetTypeCategories.h"
 #include "Containers/ArrayView.h"
-#include "Misc/DateTime.h"
 #include "ThumbnailRendering/ThumbnailManager.h"
 
 class IToolkitHost;
@@ -17,7 +16,7 @@ struct FARFilter;
 struct FToolMenuSection;
 
 // What the editor knows about a type of assets. All virtual functions of the interface are here, in its order; those for
-// merging, source files and differences are called by nobody in the stand-in.
+// merging, source files and differences are called by nobody in the stand-in, and FRevisionInfo has no date.
 
 /** How an asset was activated in the content browser. */
 namespace EAssetTypeActivationMethod
@@ -49,7 +48,6 @@ struct FRevisionInfo
 {
 	FString Revision;
 	int32 Changelist;
-	FDateTime Date;
 };
 
 /** Name, look and behaviour of a type of assets. */

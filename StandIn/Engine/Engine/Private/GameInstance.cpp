@@ -39,7 +39,8 @@ FGameInstancePIEResult UGameInstance::InitializeForPlayInEditor(int32 PIEInstanc
 	NewContext.OwningGameInstance = this;
 	WorldContext = &NewContext;
 
-	const FString PackageName = TEXT("/Temp/") + UEngine::MakePIEWorldName(EditorWorld->GetMapName(), PIEInstanceIndex);
+	const FString PackageName
+		= FString::Printf(TEXT("/Temp/%s"), *UEngine::MakePIEWorldName(EditorWorld->GetMapName(), PIEInstanceIndex));
 	UPackage* PlayPackage = CreatePackage(*PackageName);
 	PlayPackage->SetFlags(RF_Transient);
 	UWorld* NewWorld = NewObject<UWorld>(PlayPackage, EditorWorld->GetFName());

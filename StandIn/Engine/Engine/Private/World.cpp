@@ -182,6 +182,11 @@ UGameViewportClient* UWorld::GetGameViewport() const
 	return WorldContext != nullptr ? WorldContext->GameViewport : nullptr;
 }
 
+UWorld* UWorld::GetWorld() const
+{
+	return const_cast<UWorld*>(this);
+}
+
 void UWorld::BeginDestroy()
 {
 	OnFeatureLevelChanged.Clear();

@@ -13,6 +13,7 @@
 #include "ToolMenuOwner.h"
 #include "ToolMenuSection.h"
 #include "UObject/Object.h"
+#include "UObject/WeakObjectPtrTemplates.h"
 #include "ToolMenus.generated.h"
 
 // The manager of tool menus. Menus of type Menu only: widgets of tool bars and menu bars are refused. Nothing can be customised by the

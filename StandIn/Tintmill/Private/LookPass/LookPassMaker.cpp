@@ -54,7 +54,7 @@ static OCIO_NAMESPACE::ConstCPUProcessorRcPtr MakeProcessor(const std::string& P
 class FLookPassMaker final : public LookGrading::ILookGraderMaker
 {
 public:
-	FLookPassMaker() : ILookGraderMaker(0)
+	FLookPassMaker() : ILookGraderMaker(LookGrading::LibraryRank)
 	{
 		OCIO_NAMESPACE::SetLoggingLevel(OCIO_NAMESPACE::LOGGING_LEVEL_NONE);
 	}

@@ -29,7 +29,7 @@ void AddRegistry(const TCHAR* Registry, TFunction<void(TArray<FRegistration>&)> 
 void RemoveRegistry(const TCHAR* Registry)
 {
 	const FString Name(Registry);
-	GetRegistries().RemoveAll([&Name](const FRegistry& Candidate) { return Candidate.Name == Name; });
+	GetRegistries().RemoveAll([&Name](const FRegistry& Candidate) { return Candidate.Name.Equals(Name); });
 }
 
 TArray<FRegistration> ListRegistrations()
@@ -40,5 +40,21 @@ TArray<FRegistration> ListRegistrations()
 		Registry.List(Registrations);
 	}
 	return Registrations;
+}
+
+void ListBindings(const TCHAR* Name, const FMulticastDelegateBase& Delegate, TArray<FRegistration>& OutRegistrations)
+{
+	for (const void* UserObject : Delegate.ListUserObjects())
+	{
+		OutRegistrations.Add(FRegistration{FString(TEXT("Delegates")), FString(Name), UserObject});
+	}
+}
+
+void AddDelegate(const TCHAR* Name, const FMulticastDelegateBase& Delegate)
+{
+	const FString NameCopy(Name);
+	AddRegistry(Name, [NameCopy, &Delegate](TArray<FRegistration>& OutRegistrations) {
+		ListBindings(*NameCopy, Delegate, OutRegistrations);
+	});
 }
 }

@@ -3,39 +3,51 @@
 #pragma once
 
 #include "CoreTypes.h"
+#include "Templates/TypeHash.h"
 
-// An enumerator kept in one byte, for enumerations without a fixed underlying type.
+// An unscoped enumerator kept in one byte.
 
-/** An enumerator kept in one byte. */
+/** Holds an enumerator in one byte; converts to and from it. */
 template <class TEnum>
 class TEnumAsByte
 {
 public:
 	typedef TEnum EnumType;
 
-	/** Makes an unset value. */
 	TEnumAsByte() = default;
 
-	/** Makes a value of an enumerator. */
-	TEnumAsByte(TEnum InValue) : Value(static_cast<uint8>(InValue)) {}
+	/** Holds an enumerator. */
+	TEnumAsByte(TEnum InValue)
+		: Value((uint8)InValue)
+	{
+	}
 
-	/** Makes a value of a number. */
-	explicit TEnumAsByte(int32 InValue) : Value(static_cast<uint8>(InValue)) {}
+	/** Holds the enumerator of a number. */
+	explicit TEnumAsByte(int32 InValue)
+		: Value((uint8)InValue)
+	{
+	}
 
-	/** Makes a value of a byte. */
-	explicit TEnumAsByte(uint8 InValue) : Value(InValue) {}
+	/** Holds the enumerator of a number. */
+	explicit TEnumAsByte(uint8 InValue)
+		: Value(InValue)
+	{
+	}
 
-	/** Compares with an enumerator. */
-	bool operator==(TEnum InValue) const { return static_cast<TEnum>(Value) == InValue; }
+	/** Whether the enumerators are equal. */
+	bool operator==(TEnum InValue) const { return (TEnum)Value == InValue; }
 
-	/** Compares with another value. */
+	/** Whether the enumerators are equal. */
 	bool operator==(TEnumAsByte InValue) const { return Value == InValue.Value; }
 
-	/** Converts to the enumerator. */
-	operator TEnum() const { return static_cast<TEnum>(Value); }
+	/** The enumerator. */
+	operator TEnum() const { return (TEnum)Value; }
 
-	/** Returns the enumerator. */
-	TEnum GetValue() const { return static_cast<TEnum>(Value); }
+	/** The enumerator. */
+	TEnum GetValue() const { return (TEnum)Value; }
+
+	/** Hash of the enumerator. */
+	friend uint32 GetTypeHash(const TEnumAsByte& Enum) { return Enum.Value; }
 
 private:
 	uint8 Value;

@@ -2,13 +2,11 @@
 
 #pragma once
 
-#include "CoreTypes.h"
 #include "Containers/Array.h"
 
-// An array that owns its elements one by one, so that they stay where they are while others come and go. Left out: copying,
-// serialising, removing by swapping.
+// An array that owns its elements one by one: their addresses last. Copying is left out.
 
-/** An array of elements that never move; it owns them. */
+/** Owns elements on the heap, in order. */
 template <typename T>
 class TIndirectArray
 {
@@ -16,65 +14,92 @@ public:
 	typedef T ElementType;
 
 	TIndirectArray() {}
-	~TIndirectArray() { Empty(); }
+	TIndirectArray(TIndirectArray&& Other)
+		: Array(MoveTemp(Other.Array))
+	{
+	}
+	TIndirectArray& operator=(TIndirectArray&& Other)
+	{
+		Empty();
+		Array = MoveTemp(Other.Array);
+		return *this;
+	}
 	TIndirectArray(const TIndirectArray&) = delete;
 	TIndirectArray& operator=(const TIndirectArray&) = delete;
+	~TIndirectArray() { Empty(); }
 
-	/** Returns how many elements there are. */
+	/** How many elements there are. */
 	int32 Num() const { return Array.Num(); }
 
-	/** Tells whether there is an element of an index. */
+	/** Whether there is an element at the index. */
 	bool IsValidIndex(int32 Index) const { return Array.IsValidIndex(Index); }
 
-	/** Returns an element; a wrong index is fatal. */
+	/** The element at an index, checked. */
 	T& operator[](int32 Index) { return *Array[Index]; }
 
-	/** Returns an element; a wrong index is fatal. */
+	/** The element at an index, checked. */
 	const T& operator[](int32 Index) const { return *Array[Index]; }
 
-	/** Takes over an element made with new and returns its index. */
+	/** The last element; fatal when empty. */
+	T& Last() { return *Array.Last(); }
+
+	/** Takes an element over; yields its index. */
 	int32 Add(T* Item) { return Array.Add(Item); }
 
-	/** Destroys elements and closes the gap. */
-	void RemoveAt(int32 Index, int32 Count = 1)
+	/** Takes an element over at an index. */
+	void Insert(T* Item, int32 Index) { Array.Insert(Item, Index); }
+
+	/** Deletes the elements and the memory. */
+	void Empty(int32 Slack = 0)
 	{
-		for (int32 Step = 0; Step < Count; ++Step)
+		for (int32 Index = 0; Index < Array.Num(); ++Index)
 		{
-			T* const Item = Array[Index];
-			Array.RemoveAt(Index);
-			delete Item;
+			delete Array[Index];
 		}
+		Array.Empty(Slack);
 	}
 
-	/** Destroys all elements. */
-	void Empty() { RemoveAt(0, Num()); }
+	/** Deletes the elements and keeps the memory. */
+	void Reset(int32 = 0) { Empty(); }
 
-	/** Walks over the elements. */
+	/** Deletes Count elements at an index. */
+	void RemoveAt(int32 Index, int32 Count = 1, bool bAllowShrinking = true)
+	{
+		for (int32 Offset = 0; Offset < Count; ++Offset)
+		{
+			delete Array[Index + Offset];
+		}
+		Array.RemoveAt(Index, Count, bAllowShrinking);
+	}
+
+	/** The addresses of the elements. */
+	T** GetData() { return Array.GetData(); }
+
+	/** Walks over the elements, for ranged loops. */
 	template <typename PointerType, typename ReferenceType>
-	class TIterator
+	class TElementIterator
 	{
 	public:
-		explicit TIterator(PointerType InPosition)
+		explicit TElementIterator(PointerType InPosition)
 			: Position(InPosition)
 		{
 		}
 		ReferenceType operator*() const { return **Position; }
-		TIterator& operator++()
+		TElementIterator& operator++()
 		{
 			++Position;
 			return *this;
 		}
-		bool operator!=(const TIterator& Other) const { return Position != Other.Position; }
+		bool operator!=(const TElementIterator& Other) const { return Position != Other.Position; }
 
 	private:
 		PointerType Position;
 	};
 
-	/** For ranged loops. */
-	TIterator<T**, T&> begin() { return TIterator<T**, T&>(Array.GetData()); }
-	TIterator<T* const*, const T&> begin() const { return TIterator<T* const*, const T&>(Array.GetData()); }
-	TIterator<T**, T&> end() { return TIterator<T**, T&>(Array.GetData() + Num()); }
-	TIterator<T* const*, const T&> end() const { return TIterator<T* const*, const T&>(Array.GetData() + Num()); }
+	TElementIterator<T**, T&> begin() { return TElementIterator<T**, T&>(Array.GetData()); }
+	TElementIterator<T* const*, const T&> begin() const { return TElementIterator<T* const*, const T&>(Array.GetData()); }
+	TElementIterator<T**, T&> end() { return TElementIterator<T**, T&>(Array.GetData() + Num()); }
+	TElementIterator<T* const*, const T&> end() const { return TElementIterator<T* const*, const T&>(Array.GetData() + Num()); }
 
 private:
 	TArray<T*> Array;

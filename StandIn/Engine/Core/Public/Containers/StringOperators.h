@@ -47,6 +47,14 @@ inline FString operator+(FString&& Lhs, TCHAR Rhs)
 	return MoveTemp(Lhs);
 }
 
+/** Joins two strings. */
+inline FString operator+(const TCHAR* Lhs, FString&& Rhs)
+{
+	FString Result(Lhs);
+	Result += Rhs;
+	return Result;
+}
+
 /** Joins paths with exactly one '/' between. */
 inline FString operator/(const FString& Lhs, const TCHAR* Rhs)
 {

@@ -2,15 +2,10 @@
 
 #pragma once
 
-#include "CoreTypes.h"
 #include "Delegates/DelegateCombinations.h"
-#include "Delegates/DelegateSignatureImpl.h"
 #include "Delegates/IDelegateInstance.h"
 
-// Everything about delegates in one include, with the two types that the engine itself uses everywhere.
+// Delegates: one or many bound functions. An unbound Execute is fatal here (the engine dereferences null outside Debug).
 
-/** A delegate without parameters. */
-DECLARE_DELEGATE(FSimpleDelegate);
-
-/** A multicast delegate without parameters. */
-DECLARE_MULTICAST_DELEGATE(FSimpleMulticastDelegate);
+DECLARE_DELEGATE(FSimpleDelegate)
+DECLARE_MULTICAST_DELEGATE(FSimpleMulticastDelegate)

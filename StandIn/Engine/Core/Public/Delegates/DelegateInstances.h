@@ -2,20 +2,15 @@
 
 #pragma once
 
-#include "CoreTypes.h"
 #include "Delegates/IDelegateInstance.h"
 #include "Misc/AssertionMacros.h"
-#include "StandIn/FatalHandler.h"
+#include "Templates/Invoke.h"
 #include "Templates/SharedPointer.h"
-#include "Templates/UnrealTemplate.h"
-#include "UObject/UObjectHierarchyFwd.h"
-
 #include <tuple>
-#include <type_traits>
 #include <utility>
 
-// The kinds of binding that a delegate can hold. A binding never changes once it is made. Payload values are copied at the
-// binding and handed over after the call's own arguments.
+// The kinds of bindings: static function, functor, weak functor, raw, shared-pointer and UObject member. The UObject kinds need
+// "UObject/WeakObjectPtrTemplates.h" where they are used.
 
 struct FWeakObjectPtr;
 template <class T, class TWeakObjectPtrBase>
@@ -23,203 +18,291 @@ struct TWeakObjectPtr;
 
 namespace UE4Delegates_Private
 {
-/** What every binding can do. */
-template <typename RetValType, typename... ParamTypes>
-class IBinding
+/** Calls a callable with arguments followed by a tuple's values. */
+template <typename RetType, typename Callable, typename TupleType, std::size_t... Indices, typename... ArgTypes>
+RetType CallWithPayload(Callable&& Func, TupleType& Payload, std::index_sequence<Indices...>, ArgTypes&&... Args)
+{
+	return Invoke(Func, static_cast<ArgTypes&&>(Args)..., std::get<Indices>(Payload)...);
+}
+}
+
+/** A binding of a given signature. */
+template <typename FuncType>
+class IBaseDelegateInstance;
+
+template <typename RetType, typename... ArgTypes>
+class IBaseDelegateInstance<RetType(ArgTypes...)> : public IDelegateInstance
 {
 public:
-	IBinding() : Handle(FDelegateHandle::GenerateNewHandle) {}
-	IBinding(const IBinding&) = default;
-	IBinding& operator=(const IBinding&) = delete;
-	virtual ~IBinding() {}
+	/** A copy with the same handle. */
+	virtual IBaseDelegateInstance* CreateCopy() const = 0;
 
-	/** Calls the bound function. */
-	virtual RetValType Execute(ParamTypes... Params) const = 0;
+	/** Calls the function; its object must live. */
+	virtual RetType Execute(ArgTypes... Args) const = 0;
 
-	/** Makes a binding that calls the same and has the same handle. */
-	virtual IBinding* Clone() const = 0;
+	/** Calls the function if its object lives; yields whether it did. */
+	virtual bool ExecuteIfSafe(ArgTypes... Args) const = 0;
+};
 
-	/** Says whether the object is still there, as far as the kind of binding can tell. */
-	virtual bool IsSafeToExecute() const { return true; }
+/** What the bindings share: handle and payload. */
+template <typename FuncType, typename... VarTypes>
+class TCommonDelegateInstanceState;
 
-	/** The bound object's address; null for bindings without one and for objects that are gone. */
-	virtual const void* GetUserObject() const { return nullptr; }
+template <typename RetType, typename... ArgTypes, typename... VarTypes>
+class TCommonDelegateInstanceState<RetType(ArgTypes...), VarTypes...> : public IBaseDelegateInstance<RetType(ArgTypes...)>
+{
+public:
+	explicit TCommonDelegateInstanceState(VarTypes... Vars)
+		: Payload(Vars...)
+		, Handle(FDelegateHandle::GenerateNewHandle)
+	{
+	}
 
-	/** The bound object when it is a UObject. */
-	virtual UObject* GetUObject() const { return nullptr; }
+	virtual UObject* GetUObject() const override { return nullptr; }
+	virtual const void* GetObjectForTimerManager() const override { return nullptr; }
+	virtual bool HasSameObject(const void*) const override { return false; }
+	virtual bool IsSafeToExecute() const override { return true; }
+	virtual FDelegateHandle GetHandle() const override { return Handle; }
 
-	/** The handle by which the binding is known. */
-	FDelegateHandle GetHandle() const { return Handle; }
+protected:
+	/** Calls Func (and, for members, an object) with the arguments and the payload. */
+	template <typename Callable, typename... CallArgTypes>
+	RetType Call(Callable&& Func, CallArgTypes&&... Args) const
+	{
+		return UE4Delegates_Private::CallWithPayload<RetType>(
+			Func, Payload, std::index_sequence_for<VarTypes...>(), static_cast<CallArgTypes&&>(Args)...);
+	}
 
 private:
+	mutable std::tuple<VarTypes...> Payload;
 	FDelegateHandle Handle;
 };
 
-/** A member function pointer's type for a class that may be const. */
-template <bool bConst, typename Class, typename Signature>
-struct TMemFunPtr;
-template <typename Class, typename Ret, typename... Args>
-struct TMemFunPtr<false, Class, Ret(Args...)>
-{
-	typedef Ret (Class::*Type)(Args...);
-};
-template <typename Class, typename Ret, typename... Args>
-struct TMemFunPtr<true, Class, Ret(Args...)>
-{
-	typedef Ret (Class::*Type)(Args...) const;
-};
-
-/** Adds the payload's types to the end of a signature's. */
+/** Binding of a plain function. */
 template <typename FuncType, typename... VarTypes>
-struct TWithPayload;
-template <typename Ret, typename... Params, typename... VarTypes>
-struct TWithPayload<Ret(Params...), VarTypes...>
-{
-	typedef Ret Type(Params..., VarTypes...);
-};
+class TBaseStaticDelegateInstance;
 
-/** A functor (lambda, function pointer) with payload. */
-template <typename Functor, typename Signature, typename... VarTypes>
-class TFunctorBinding;
-template <typename Functor, typename Ret, typename... Params, typename... VarTypes>
-class TFunctorBinding<Functor, Ret(Params...), VarTypes...> : public IBinding<Ret, Params...>
+template <typename RetType, typename... ArgTypes, typename... VarTypes>
+class TBaseStaticDelegateInstance<RetType(ArgTypes...), VarTypes...>
+	: public TCommonDelegateInstanceState<RetType(ArgTypes...), VarTypes...>
 {
 public:
-	template <typename InFunctor, typename... InVars>
-	explicit TFunctorBinding(InFunctor&& InFunc, InVars&&... Vars)
-		: Func(Forward<InFunctor>(InFunc))
-		, Payload(Forward<InVars>(Vars)...)
+	typedef RetType (*FFuncPtr)(ArgTypes..., VarTypes...);
+
+	explicit TBaseStaticDelegateInstance(FFuncPtr InStaticFuncPtr, VarTypes... Vars)
+		: TCommonDelegateInstanceState<RetType(ArgTypes...), VarTypes...>(Vars...)
+		, StaticFuncPtr(InStaticFuncPtr)
 	{
+		check(StaticFuncPtr != nullptr);
 	}
 
-	virtual Ret Execute(Params... InParams) const override
+	virtual TBaseStaticDelegateInstance* CreateCopy() const override { return new TBaseStaticDelegateInstance(*this); }
+	virtual RetType Execute(ArgTypes... Args) const override { return this->Call(StaticFuncPtr, static_cast<ArgTypes&&>(Args)...); }
+	virtual bool ExecuteIfSafe(ArgTypes... Args) const override
 	{
-		return Call(std::index_sequence_for<VarTypes...>(), Forward<Params>(InParams)...);
+		this->Call(StaticFuncPtr, static_cast<ArgTypes&&>(Args)...);
+		return true;
 	}
-	virtual IBinding<Ret, Params...>* Clone() const override { return new TFunctorBinding(*this); }
 
 private:
-	template <size_t... Indices>
-	Ret Call(std::index_sequence<Indices...>, Params... InParams) const
-	{
-		return Func(Forward<Params>(InParams)..., std::get<Indices>(Payload)...);
-	}
-
-	mutable typename std::decay<Functor>::type Func;
-	mutable std::tuple<VarTypes...> Payload;
+	FFuncPtr StaticFuncPtr;
 };
 
-/** Holds a raw address: the owner answers for the object's life. */
-template <typename UserClass>
-class TRawHolder
+/** Binding of a functor. */
+template <typename FuncType, typename FunctorType, typename... VarTypes>
+class TBaseFunctorDelegateInstance;
+
+template <typename RetType, typename... ArgTypes, typename FunctorType, typename... VarTypes>
+class TBaseFunctorDelegateInstance<RetType(ArgTypes...), FunctorType, VarTypes...>
+	: public TCommonDelegateInstanceState<RetType(ArgTypes...), VarTypes...>
 {
 public:
-	explicit TRawHolder(UserClass* InObject) : Object(InObject) {}
-	bool IsAlive() const { return true; }
-	const void* Identity() const { return Object; }
-	UObject* AsUObject() const { return nullptr; }
-	UserClass* Pin() const { return Object; }
-
-private:
-	UserClass* Object;
-};
-
-/** Holds a shared object weakly. */
-template <typename UserClass, ESPMode Mode>
-class TSharedHolder
-{
-public:
-	explicit TSharedHolder(const TSharedRef<UserClass, Mode>& InObject) : Object(InObject) {}
-	bool IsAlive() const { return Object.IsValid(); }
-	const void* Identity() const { return Object.Pin().Get(); }
-	UObject* AsUObject() const { return nullptr; }
-	TSharedPtr<UserClass, Mode> Pin() const { return Object.Pin(); }
-
-private:
-	TWeakPtr<UserClass, Mode> Object;
-};
-
-/** Holds an object of the object system weakly. */
-template <typename UserClass>
-class TObjectHolder
-{
-public:
-	explicit TObjectHolder(UserClass* InObject) : Object(InObject) {}
-	bool IsAlive() const { return Object.IsValid(); }
-	const void* Identity() const { return Object.Get(); }
-	UObject* AsUObject() const { return (UObject*)Object.Get(); }
-	UserClass* Pin() const { return Object.Get(); }
-
-private:
-	TWeakObjectPtr<UserClass, FWeakObjectPtr> Object;
-};
-
-/** A member function of a held object, with payload. */
-template <typename Holder, typename MethodPtrType, typename Signature, typename... VarTypes>
-class TMethodBinding;
-template <typename Holder, typename MethodPtrType, typename Ret, typename... Params, typename... VarTypes>
-class TMethodBinding<Holder, MethodPtrType, Ret(Params...), VarTypes...> : public IBinding<Ret, Params...>
-{
-public:
-	template <typename... InVars>
-	TMethodBinding(const Holder& InObject, MethodPtrType InMethod, InVars&&... Vars)
-		: Object(InObject)
-		, Method(InMethod)
-		, Payload(Forward<InVars>(Vars)...)
+	template <typename InFunctorType>
+	explicit TBaseFunctorDelegateInstance(InFunctorType&& InFunctor, VarTypes... Vars)
+		: TCommonDelegateInstanceState<RetType(ArgTypes...), VarTypes...>(Vars...)
+		, Functor(Forward<InFunctorType>(InFunctor))
 	{
 	}
 
-	virtual Ret Execute(Params... InParams) const override
+	virtual TBaseFunctorDelegateInstance* CreateCopy() const override { return new TBaseFunctorDelegateInstance(*this); }
+	virtual RetType Execute(ArgTypes... Args) const override { return this->Call(Functor, static_cast<ArgTypes&&>(Args)...); }
+	virtual bool ExecuteIfSafe(ArgTypes... Args) const override
 	{
-		return Call(std::index_sequence_for<VarTypes...>(), Forward<Params>(InParams)...);
+		this->Call(Functor, static_cast<ArgTypes&&>(Args)...);
+		return true;
 	}
-	virtual IBinding<Ret, Params...>* Clone() const override { return new TMethodBinding(*this); }
-	virtual bool IsSafeToExecute() const override { return Object.IsAlive(); }
-	virtual const void* GetUserObject() const override { return Object.Identity(); }
-	virtual UObject* GetUObject() const override { return Object.AsUObject(); }
 
 private:
-	template <size_t... Indices>
-	Ret Call(std::index_sequence<Indices...>, Params... InParams) const
-	{
-		// A shared object is kept alive for the length of the call.
-		const auto Pinned = Object.Pin();
-		return ((*Pinned).*Method)(Forward<Params>(InParams)..., std::get<Indices>(Payload)...);
-	}
-
-	Holder Object;
-	MethodPtrType Method;
-	mutable std::tuple<VarTypes...> Payload;
+	mutable FunctorType Functor;
 };
 
-/** A functor that is called only while an object of the object system lives. */
-template <typename UserClass, typename Functor, typename Signature, typename... VarTypes>
-class TWeakFunctorBinding;
-template <typename UserClass, typename Functor, typename Ret, typename... Params, typename... VarTypes>
-class TWeakFunctorBinding<UserClass, Functor, Ret(Params...), VarTypes...>
-	: public TFunctorBinding<Functor, Ret(Params...), VarTypes...>
+/** Binding of a functor that is called only while a UObject lives. */
+template <typename FuncType, typename UserClass, typename FunctorType, typename... VarTypes>
+class TWeakBaseFunctorDelegateInstance;
+
+template <typename RetType, typename... ArgTypes, typename UserClass, typename FunctorType, typename... VarTypes>
+class TWeakBaseFunctorDelegateInstance<RetType(ArgTypes...), UserClass, FunctorType, VarTypes...>
+	: public TCommonDelegateInstanceState<RetType(ArgTypes...), VarTypes...>
 {
 public:
-	template <typename InFunctor, typename... InVars>
-	TWeakFunctorBinding(UserClass* InObject, InFunctor&& InFunc, InVars&&... Vars)
-		: TFunctorBinding<Functor, Ret(Params...), VarTypes...>(Forward<InFunctor>(InFunc), Forward<InVars>(Vars)...)
-		, Object(InObject)
+	template <typename InFunctorType>
+	TWeakBaseFunctorDelegateInstance(UserClass* InContextObject, InFunctorType&& InFunctor, VarTypes... Vars)
+		: TCommonDelegateInstanceState<RetType(ArgTypes...), VarTypes...>(Vars...)
+		, ContextObject(InContextObject)
+		, Functor(Forward<InFunctorType>(InFunctor))
 	{
 	}
 
-	virtual IBinding<Ret, Params...>* Clone() const override { return new TWeakFunctorBinding(*this); }
-	virtual bool IsSafeToExecute() const override { return Object.IsAlive(); }
-	virtual const void* GetUserObject() const override { return Object.Identity(); }
-	virtual UObject* GetUObject() const override { return Object.AsUObject(); }
+	virtual UObject* GetUObject() const override { return (UObject*)ContextObject.Get(); }
+	virtual const void* GetObjectForTimerManager() const override { return ContextObject.Get(); }
+	virtual bool HasSameObject(const void* InContextObject) const override { return ContextObject.Get() == InContextObject; }
+	virtual bool IsCompactable() const override { return !ContextObject.Get(true); }
+	virtual bool IsSafeToExecute() const override { return ContextObject.IsValid(); }
+	virtual TWeakBaseFunctorDelegateInstance* CreateCopy() const override { return new TWeakBaseFunctorDelegateInstance(*this); }
+	virtual RetType Execute(ArgTypes... Args) const override { return this->Call(Functor, static_cast<ArgTypes&&>(Args)...); }
+	virtual bool ExecuteIfSafe(ArgTypes... Args) const override
+	{
+		if (!ContextObject.IsValid())
+		{
+			return false;
+		}
+		this->Call(Functor, static_cast<ArgTypes&&>(Args)...);
+		return true;
+	}
 
 private:
-	TObjectHolder<UserClass> Object;
+	TWeakObjectPtr<UserClass, FWeakObjectPtr> ContextObject;
+	mutable FunctorType Functor;
 };
 
-/** Fails as the engine does when a member function is bound to nothing. */
-template <typename UserClass, typename MethodPtrType>
-inline void CheckUserObject(UserClass* InUserObject, MethodPtrType MethodPtr)
+/** Binding of a member function of an object that nobody watches. */
+template <bool bConst, class UserClass, typename FuncType, typename... VarTypes>
+class TBaseRawMethodDelegateInstance;
+
+template <bool bConst, class UserClass, typename RetType, typename... ArgTypes, typename... VarTypes>
+class TBaseRawMethodDelegateInstance<bConst, UserClass, RetType(ArgTypes...), VarTypes...>
+	: public TCommonDelegateInstanceState<RetType(ArgTypes...), VarTypes...>
 {
-	check(InUserObject != nullptr && MethodPtr != nullptr);
-}
-}
+	static_assert(!TPointerIsConvertibleFromTo<UserClass, const UObjectBase>::Value, "You cannot use raw method delegates with UObjects.");
+
+public:
+	typedef typename TMemFunPtrType<bConst, UserClass, RetType(ArgTypes..., VarTypes...)>::Type FMethodPtr;
+
+	TBaseRawMethodDelegateInstance(UserClass* InUserObject, FMethodPtr InMethodPtr, VarTypes... Vars)
+		: TCommonDelegateInstanceState<RetType(ArgTypes...), VarTypes...>(Vars...)
+		, UserObject(InUserObject)
+		, MethodPtr(InMethodPtr)
+	{
+		check(InUserObject != nullptr && MethodPtr != nullptr);
+	}
+
+	virtual const void* GetObjectForTimerManager() const override { return UserObject; }
+	virtual bool HasSameObject(const void* InUserObject) const override { return UserObject == InUserObject; }
+	virtual TBaseRawMethodDelegateInstance* CreateCopy() const override { return new TBaseRawMethodDelegateInstance(*this); }
+	virtual RetType Execute(ArgTypes... Args) const override
+	{
+		return this->Call(MethodPtr, UserObject, static_cast<ArgTypes&&>(Args)...);
+	}
+	virtual bool ExecuteIfSafe(ArgTypes... Args) const override
+	{
+		this->Call(MethodPtr, UserObject, static_cast<ArgTypes&&>(Args)...);
+		return true;
+	}
+
+private:
+	UserClass* UserObject;
+	FMethodPtr MethodPtr;
+};
+
+/** Binding of a member function of an object that shared pointers own; holds it weakly. */
+template <bool bConst, class UserClass, ESPMode SPMode, typename FuncType, typename... VarTypes>
+class TBaseSPMethodDelegateInstance;
+
+template <bool bConst, class UserClass, ESPMode SPMode, typename RetType, typename... ArgTypes, typename... VarTypes>
+class TBaseSPMethodDelegateInstance<bConst, UserClass, SPMode, RetType(ArgTypes...), VarTypes...>
+	: public TCommonDelegateInstanceState<RetType(ArgTypes...), VarTypes...>
+{
+public:
+	typedef typename TMemFunPtrType<bConst, UserClass, RetType(ArgTypes..., VarTypes...)>::Type FMethodPtr;
+
+	TBaseSPMethodDelegateInstance(const TSharedPtr<UserClass, SPMode>& InUserObject, FMethodPtr InMethodPtr, VarTypes... Vars)
+		: TCommonDelegateInstanceState<RetType(ArgTypes...), VarTypes...>(Vars...)
+		, UserObject(InUserObject)
+		, MethodPtr(InMethodPtr)
+	{
+		check(MethodPtr != nullptr);
+	}
+
+	virtual const void* GetObjectForTimerManager() const override { return UserObject.Pin().Get(); }
+	virtual bool HasSameObject(const void* InUserObject) const override { return UserObject.HasSameObject(InUserObject); }
+	virtual bool IsSafeToExecute() const override { return UserObject.IsValid(); }
+	virtual TBaseSPMethodDelegateInstance* CreateCopy() const override { return new TBaseSPMethodDelegateInstance(*this); }
+	virtual RetType Execute(ArgTypes... Args) const override
+	{
+		const TSharedPtr<UserClass, SPMode> SharedUserObject(UserObject.Pin());
+		check(SharedUserObject.IsValid());
+		return this->Call(MethodPtr, SharedUserObject.Get(), static_cast<ArgTypes&&>(Args)...);
+	}
+	virtual bool ExecuteIfSafe(ArgTypes... Args) const override
+	{
+		const TSharedPtr<UserClass, SPMode> SharedUserObject(UserObject.Pin());
+		if (!SharedUserObject.IsValid())
+		{
+			return false;
+		}
+		this->Call(MethodPtr, SharedUserObject.Get(), static_cast<ArgTypes&&>(Args)...);
+		return true;
+	}
+
+private:
+	TWeakPtr<UserClass, SPMode> UserObject;
+	FMethodPtr MethodPtr;
+};
+
+/** Binding of a member function of a UObject; holds it weakly. */
+template <bool bConst, class UserClass, typename FuncType, typename... VarTypes>
+class TBaseUObjectMethodDelegateInstance;
+
+template <bool bConst, class UserClass, typename RetType, typename... ArgTypes, typename... VarTypes>
+class TBaseUObjectMethodDelegateInstance<bConst, UserClass, RetType(ArgTypes...), VarTypes...>
+	: public TCommonDelegateInstanceState<RetType(ArgTypes...), VarTypes...>
+{
+	static_assert(TPointerIsConvertibleFromTo<UserClass, const UObjectBase>::Value, "You cannot use UObject method delegates with raw pointers.");
+
+public:
+	typedef typename TMemFunPtrType<bConst, UserClass, RetType(ArgTypes..., VarTypes...)>::Type FMethodPtr;
+
+	TBaseUObjectMethodDelegateInstance(UserClass* InUserObject, FMethodPtr InMethodPtr, VarTypes... Vars)
+		: TCommonDelegateInstanceState<RetType(ArgTypes...), VarTypes...>(Vars...)
+		, UserObject(InUserObject)
+		, MethodPtr(InMethodPtr)
+	{
+		check(InUserObject != nullptr && MethodPtr != nullptr);
+	}
+
+	virtual UObject* GetUObject() const override { return (UObject*)UserObject.Get(); }
+	virtual const void* GetObjectForTimerManager() const override { return UserObject.Get(); }
+	virtual bool HasSameObject(const void* InUserObject) const override { return UserObject.Get() == InUserObject; }
+	virtual bool IsCompactable() const override { return !UserObject.Get(true); }
+	virtual bool IsSafeToExecute() const override { return UserObject.IsValid(); }
+	virtual TBaseUObjectMethodDelegateInstance* CreateCopy() const override { return new TBaseUObjectMethodDelegateInstance(*this); }
+	virtual RetType Execute(ArgTypes... Args) const override
+	{
+		check(UserObject.IsValid());
+		return this->Call(MethodPtr, UserObject.Get(), static_cast<ArgTypes&&>(Args)...);
+	}
+	virtual bool ExecuteIfSafe(ArgTypes... Args) const override
+	{
+		UserClass* ActualUserObject = UserObject.Get();
+		if (ActualUserObject == nullptr)
+		{
+			return false;
+		}
+		this->Call(MethodPtr, ActualUserObject, static_cast<ArgTypes&&>(Args)...);
+		return true;
+	}
+
+private:
+	TWeakObjectPtr<UserClass, FWeakObjectPtr> UserObject;
+	FMethodPtr MethodPtr;
+};

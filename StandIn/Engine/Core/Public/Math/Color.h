@@ -5,125 +5,196 @@
 #include "CoreTypes.h"
 #include "Containers/UnrealString.h"
 #include "Math/UnrealMathUtility.h"
-#include "Templates/TypeHash.h"
 
-// Colours: FColor in 8 bits a channel, encoded for display (sRGB); FLinearColor in floats, proportional to light.
+// Colours: FColor with 8 bits a channel, blue first in memory; FLinearColor with floats.
 
 struct FColor;
 
-/** Red, green, blue and alpha in linear light; one is full, values beyond are allowed. */
-struct FLinearColor
+/** A colour of linear floats; 0 to 1 is what screens show. */
+struct CORE_API FLinearColor
 {
 	float R;
 	float G;
 	float B;
 	float A;
 
-	CORE_API static const FLinearColor White;
-	CORE_API static const FLinearColor Gray;
-	CORE_API static const FLinearColor Black;
-	CORE_API static const FLinearColor Transparent;
-	CORE_API static const FLinearColor Red;
-	CORE_API static const FLinearColor Green;
-	CORE_API static const FLinearColor Blue;
-	CORE_API static const FLinearColor Yellow;
+	static const FLinearColor White;
+	static const FLinearColor Gray;
+	static const FLinearColor Black;
+	static const FLinearColor Transparent;
+	static const FLinearColor Red;
+	static const FLinearColor Green;
+	static const FLinearColor Blue;
+	static const FLinearColor Yellow;
 
+	/** Not initialised. */
 	FLinearColor() {}
-	constexpr FLinearColor(float InR, float InG, float InB, float InA = 1.0f) : R(InR), G(InG), B(InB), A(InA) {}
 
-	/** Decodes the display encoding of red, green and blue. */
-	CORE_API FLinearColor(const FColor& Color);
-
-	/** Decodes the display encoding, as the constructor does. */
-	CORE_API static FLinearColor FromSRGBColor(const FColor& Color);
-
-	/** Clamps to 0..1 and rounds to 8 bits, with the display encoding if asked for. */
-	CORE_API FColor ToFColor(const bool bSRGB) const;
-
-	/** Clamps to 0..1 and rounds to 8 bits without the display encoding. */
-	CORE_API FColor QuantizeRound() const;
-
-	FLinearColor operator+(const FLinearColor& Color) const { return FLinearColor(R + Color.R, G + Color.G, B + Color.B, A + Color.A); }
-	FLinearColor operator-(const FLinearColor& Color) const { return FLinearColor(R - Color.R, G - Color.G, B - Color.B, A - Color.A); }
-	FLinearColor operator*(const FLinearColor& Color) const { return FLinearColor(R * Color.R, G * Color.G, B * Color.B, A * Color.A); }
-	FLinearColor operator*(float Scalar) const { return FLinearColor(R * Scalar, G * Scalar, B * Scalar, A * Scalar); }
-	FLinearColor operator/(float Scalar) const { return *this * (1.0f / Scalar); }
-	bool operator==(const FLinearColor& Color) const { return R == Color.R && G == Color.G && B == Color.B && A == Color.A; }
-	bool operator!=(const FLinearColor& Color) const { return !(*this == Color); }
-
-	/** The same colour with this alpha. */
-	FLinearColor CopyWithNewOpacity(float NewOpacity) const { return FLinearColor(R, G, B, NewOpacity); }
-
-	bool Equals(const FLinearColor& Color, float Tolerance = KINDA_SMALL_NUMBER) const
+	/** Transparent black. */
+	explicit FLinearColor(EForceInit)
+		: R(0)
+		, G(0)
+		, B(0)
+		, A(0)
 	{
-		return FMath::Abs(R - Color.R) < Tolerance && FMath::Abs(G - Color.G) < Tolerance && FMath::Abs(B - Color.B) < Tolerance
-			&& FMath::Abs(A - Color.A) < Tolerance;
 	}
 
-	/** "(R=1.000000,G=0.000000,B=0.000000,A=1.000000)". */
-	CORE_API FString ToString() const;
+	/** From its channels. */
+	constexpr FLinearColor(float InR, float InG, float InB, float InA = 1.0f)
+		: R(InR)
+		, G(InG)
+		, B(InB)
+		, A(InA)
+	{
+	}
+
+	/** From an sRGB colour, decoded. */
+	FLinearColor(const FColor& Color);
+
+	/** From an sRGB colour, decoded. */
+	static FLinearColor FromSRGBColor(const FColor& Color);
+
+	/** To 8 bits, clamped; encoded as sRGB or just scaled. */
+	FColor ToFColor(const bool bSRGB) const;
+
+	/** To 8 bits without encoding, cut off. */
+	FColor Quantize() const;
+
+	/** To 8 bits without encoding, rounded. */
+	FColor QuantizeRound() const;
+
+	/** Sum. */
+	FLinearColor operator+(const FLinearColor& C) const { return FLinearColor(R + C.R, G + C.G, B + C.B, A + C.A); }
+	/** Difference. */
+	FLinearColor operator-(const FLinearColor& C) const { return FLinearColor(R - C.R, G - C.G, B - C.B, A - C.A); }
+	/** Channel by channel. */
+	FLinearColor operator*(const FLinearColor& C) const { return FLinearColor(R * C.R, G * C.G, B * C.B, A * C.A); }
+	/** Scaled, alpha too. */
+	FLinearColor operator*(float Scalar) const { return FLinearColor(R * Scalar, G * Scalar, B * Scalar, A * Scalar); }
+	/** Multiplies channel by channel. */
+	FLinearColor& operator*=(const FLinearColor& C) { return *this = *this * C; }
+	/** Equal channels. */
+	bool operator==(const FLinearColor& C) const { return R == C.R && G == C.G && B == C.B && A == C.A; }
+	/** Any channel differs. */
+	bool operator!=(const FLinearColor& C) const { return !(*this == C); }
+	/** Whether the channels are nearly equal. */
+	bool Equals(const FLinearColor& C, float Tolerance = KINDA_SMALL_NUMBER) const
+	{
+		return FMath::Abs(R - C.R) <= Tolerance && FMath::Abs(G - C.G) <= Tolerance && FMath::Abs(B - C.B) <= Tolerance
+			&& FMath::Abs(A - C.A) <= Tolerance;
+	}
+	/** With another alpha. */
+	FLinearColor CopyWithNewOpacity(float NewOpacity) const { return FLinearColor(R, G, B, NewOpacity); }
+	/** With channels clamped. */
+	FLinearColor GetClamped(float InMin = 0.0f, float InMax = 1.0f) const
+	{
+		return FLinearColor(FMath::Clamp(R, InMin, InMax), FMath::Clamp(G, InMin, InMax), FMath::Clamp(B, InMin, InMax),
+			FMath::Clamp(A, InMin, InMax));
+	}
+	/** Weighted sum of the channels, as bright as it looks. */
+	float GetLuminance() const { return R * 0.3f + G * 0.59f + B * 0.11f; }
+
+	/** Text of the form (R=0.000000,G=0.000000,B=0.000000,A=0.000000). */
+	FString ToString() const;
 };
 
-/** Blue, green, red and alpha, in this order in memory, 8 bits each. */
-struct FColor
+/** A colour of 8 bits a channel; in memory blue, green, red, alpha. */
+struct CORE_API FColor
 {
 	union
 	{
 		struct
 		{
-			uint8 B, G, R, A;
+			uint8 B;
+			uint8 G;
+			uint8 R;
+			uint8 A;
 		};
 		uint32 AlignmentDummy;
 	};
 
-	CORE_API static const FColor White;
-	CORE_API static const FColor Black;
-	CORE_API static const FColor Transparent;
-	CORE_API static const FColor Red;
-	CORE_API static const FColor Green;
-	CORE_API static const FColor Blue;
-	CORE_API static const FColor Yellow;
-	CORE_API static const FColor Cyan;
-	CORE_API static const FColor Magenta;
+	static const FColor White;
+	static const FColor Black;
+	static const FColor Transparent;
+	static const FColor Red;
+	static const FColor Green;
+	static const FColor Blue;
+	static const FColor Yellow;
+	static const FColor Cyan;
+	static const FColor Magenta;
+	static const FColor Orange;
+	static const FColor Purple;
+	static const FColor Turquoise;
+	static const FColor Silver;
+	static const FColor Emerald;
 
+	/** Not initialised. */
 	FColor() {}
-	constexpr FColor(uint8 InR, uint8 InG, uint8 InB, uint8 InA = 255) : B(InB), G(InG), R(InR), A(InA) {}
+
+	/** Transparent black. */
+	explicit FColor(EForceInit)
+		: AlignmentDummy(0)
+	{
+	}
+
+	/** From its channels. */
+	constexpr FColor(uint8 InR, uint8 InG, uint8 InB, uint8 InA = 255)
+		: B(InB)
+		, G(InG)
+		, R(InR)
+		, A(InA)
+	{
+	}
 
 	/** From 0xAARRGGBB. */
 	explicit FColor(uint32 InColor)
-		: B(static_cast<uint8>(InColor))
-		, G(static_cast<uint8>(InColor >> 8))
-		, R(static_cast<uint8>(InColor >> 16))
-		, A(static_cast<uint8>(InColor >> 24))
+		: AlignmentDummy(InColor)
 	{
 	}
 
-	/** 0xAARRGGBB. */
-	uint32 DWColor() const
-	{
-		return static_cast<uint32>(A) << 24 | static_cast<uint32>(R) << 16 | static_cast<uint32>(G) << 8 | static_cast<uint32>(B);
-	}
-	uint32 ToPackedARGB() const { return DWColor(); }
+	/** The channels as one number, 0xAARRGGBB. */
+	uint32& DWColor() { return AlignmentDummy; }
 
+	/** The channels as one number, 0xAARRGGBB. */
+	const uint32& DWColor() const { return AlignmentDummy; }
+
+	/** Equal channels. */
 	bool operator==(const FColor& C) const { return DWColor() == C.DWColor(); }
-	bool operator!=(const FColor& C) const { return !(*this == C); }
 
-	/** The same colour with this alpha. */
+	/** Any channel differs. */
+	bool operator!=(const FColor& C) const { return DWColor() != C.DWColor(); }
+
+	/** Reads RGB, RRGGBB or RRGGBBAA with or without #; black and transparent if it is none of them. */
+	static FColor FromHex(const FString& HexString);
+
+	/** Text RRGGBBAA. */
+	FString ToHex() const;
+
+	/** Text of the form (R=0,G=0,B=0,A=0). */
+	FString ToString() const;
+
+	/** With another alpha. */
 	FColor WithAlpha(uint8 Alpha) const { return FColor(R, G, B, Alpha); }
 
-	/** The numbers divided by 255, without decoding. */
+	/** Scaled to 0..1 without decoding. */
 	FLinearColor ReinterpretAsLinear() const { return FLinearColor(R / 255.f, G / 255.f, B / 255.f, A / 255.f); }
 
-	/** "RRGGBBAA" in hexadecimal digits. */
-	CORE_API FString ToHex() const;
+	/** As 0xAARRGGBB. */
+	uint32 ToPackedARGB() const { return ((uint32)A << 24) | ((uint32)R << 16) | ((uint32)G << 8) | (uint32)B; }
 
-	/** "(R=255,G=0,B=0,A=255)". */
-	CORE_API FString ToString() const;
-
-	friend uint32 GetTypeHash(const FColor& Color) { return Color.DWColor(); }
+	/** As 0xRRGGBBAA. */
+	uint32 ToPackedRGBA() const { return ((uint32)R << 24) | ((uint32)G << 16) | ((uint32)B << 8) | (uint32)A; }
 };
+static_assert(sizeof(FColor) == 4, "A colour is four bytes.");
 
-inline FLinearColor operator*(float Scalar, const FLinearColor& Color)
+/** Hash of the channels. */
+inline uint32 GetTypeHash(const FColor& Color)
 {
-	return Color * Scalar;
+	return Color.DWColor();
+}
+
+/** Hash of the channels. */
+inline uint32 GetTypeHash(const FLinearColor& Color)
+{
+	return HashCombine(HashCombine(GetTypeHash(Color.R), GetTypeHash(Color.G)), HashCombine(GetTypeHash(Color.B), GetTypeHash(Color.A)));
 }

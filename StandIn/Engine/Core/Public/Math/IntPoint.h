@@ -2,50 +2,81 @@
 
 #pragma once
 
-#include "CoreTypes.h"
-#include "Containers/UnrealString.h"
 #include "Math/UnrealMathUtility.h"
-#include "Templates/TypeHash.h"
+#include "Containers/UnrealString.h"
 
-// A point or a size in whole numbers.
+// Two whole numbers.
 
-/** X and Y in whole units. */
-struct FIntPoint
+/** A point or size of whole numbers. */
+struct CORE_API FIntPoint
 {
 	int32 X;
 	int32 Y;
 
-	/** (0, 0). */
-	CORE_API static const FIntPoint ZeroValue;
+	static const FIntPoint ZeroValue;
+	static const FIntPoint NoneValue;
 
-	/** (INDEX_NONE, INDEX_NONE). */
-	CORE_API static const FIntPoint NoneValue;
-
+	/** Not initialised. */
 	FIntPoint() {}
-	FIntPoint(int32 InX, int32 InY) : X(InX), Y(InY) {}
-	explicit FIntPoint(int32 InXY) : X(InXY), Y(InXY) {}
 
+	/** From its parts. */
+	constexpr FIntPoint(int32 InX, int32 InY)
+		: X(InX)
+		, Y(InY)
+	{
+	}
+
+	/** Both parts alike. */
+	explicit constexpr FIntPoint(int32 InXY)
+		: X(InXY)
+		, Y(InXY)
+	{
+	}
+
+	/** Zero. */
+	explicit constexpr FIntPoint(EForceInit)
+		: X(0)
+		, Y(0)
+	{
+	}
+
+	/** Equal parts. */
 	bool operator==(const FIntPoint& Other) const { return X == Other.X && Y == Other.Y; }
+	/** Any part differs. */
 	bool operator!=(const FIntPoint& Other) const { return !(*this == Other); }
+	/** Sum. */
 	FIntPoint operator+(const FIntPoint& Other) const { return FIntPoint(X + Other.X, Y + Other.Y); }
+	/** Difference. */
 	FIntPoint operator-(const FIntPoint& Other) const { return FIntPoint(X - Other.X, Y - Other.Y); }
+	/** Scaled. */
 	FIntPoint operator*(int32 Scale) const { return FIntPoint(X * Scale, Y * Scale); }
+	/** Divided. */
 	FIntPoint operator/(int32 Divisor) const { return FIntPoint(X / Divisor, Y / Divisor); }
+	/** Adds. */
 	FIntPoint& operator+=(const FIntPoint& Other) { return *this = *this + Other; }
+	/** Subtracts. */
 	FIntPoint& operator-=(const FIntPoint& Other) { return *this = *this - Other; }
-	int32& operator[](int32 Index) { return Index == 0 ? X : Y; }
-	int32 operator[](int32 Index) const { return Index == 0 ? X : Y; }
-
+	/** Scales. */
+	FIntPoint& operator*=(int32 Scale) { return *this = *this * Scale; }
+	/** Larger part. */
 	int32 GetMax() const { return FMath::Max(X, Y); }
+	/** Smaller part. */
 	int32 GetMin() const { return FMath::Min(X, Y); }
+	/** Larger parts of both. */
 	FIntPoint ComponentMax(const FIntPoint& Other) const { return FIntPoint(FMath::Max(X, Other.X), FMath::Max(Y, Other.Y)); }
+	/** Smaller parts of both. */
 	FIntPoint ComponentMin(const FIntPoint& Other) const { return FIntPoint(FMath::Min(X, Other.X), FMath::Min(Y, Other.Y)); }
-
-	/** Square of the distance from the origin. */
+	/** Length, cut to a whole number. */
+	int32 Size() const { return FMath::TruncToInt(FMath::Sqrt((float)SizeSquared())); }
+	/** Square of the length. */
 	int32 SizeSquared() const { return X * X + Y * Y; }
 
-	/** "X=1 Y=2". */
-	FString ToString() const { return FString::Printf(TEXT("X=%d Y=%d"), X, Y); }
-
-	friend uint32 GetTypeHash(const FIntPoint& Point) { return HashCombine(::GetTypeHash(Point.X), ::GetTypeHash(Point.Y)); }
+	/** Text of the form X=1 Y=2. */
+	FString ToString() const;
 };
+
+/** Hash of both parts. */
+inline uint32 GetTypeHash(const FIntPoint& InPoint)
+{
+	return HashCombine(GetTypeHash(InPoint.X), GetTypeHash(InPoint.Y));
+}

@@ -2,56 +2,113 @@
 
 #pragma once
 
-#include "CoreTypes.h"
-#include "Containers/UnrealString.h"
 #include "Math/UnrealMathUtility.h"
+#include "Containers/UnrealString.h"
 
-// A point or direction in three dimensions, in floats. X is forward, Y right, Z up; lengths are in centimetres.
+// Three floats; X forward, Y right, Z up.
 
-/** X, Y and Z. */
-struct FVector
+/** A vector or point of three floats. */
+struct CORE_API FVector
 {
 	float X;
 	float Y;
 	float Z;
 
-	/** (0, 0, 0). */
-	CORE_API static const FVector ZeroVector;
+	static const FVector ZeroVector;
+	static const FVector OneVector;
+	static const FVector UpVector;
+	static const FVector ForwardVector;
+	static const FVector RightVector;
 
+	/** Not initialised. */
 	FVector() {}
-	explicit FVector(float InF) : X(InF), Y(InF), Z(InF) {}
-	FVector(float InX, float InY, float InZ) : X(InX), Y(InY), Z(InZ) {}
 
-	bool operator==(const FVector& V) const { return X == V.X && Y == V.Y && Z == V.Z; }
-	bool operator!=(const FVector& V) const { return !(*this == V); }
-	FVector operator+(const FVector& V) const { return FVector(X + V.X, Y + V.Y, Z + V.Z); }
-	FVector operator-(const FVector& V) const { return FVector(X - V.X, Y - V.Y, Z - V.Z); }
-	FVector operator*(const FVector& V) const { return FVector(X * V.X, Y * V.Y, Z * V.Z); }
-	FVector operator*(float Scale) const { return FVector(X * Scale, Y * Scale, Z * Scale); }
-	FVector operator/(float Scale) const { return FVector(X / Scale, Y / Scale, Z / Scale); }
-	FVector operator-() const { return FVector(-X, -Y, -Z); }
-	FVector& operator+=(const FVector& V) { return *this = *this + V; }
-	FVector& operator-=(const FVector& V) { return *this = *this - V; }
-
-	float SizeSquared() const { return X * X + Y * Y + Z * Z; }
-	float Size() const { return FMath::Sqrt(SizeSquared()); }
-
-	/** The direction; zero for a vector too short to have one. */
-	FVector GetSafeNormal(float Tolerance = SMALL_NUMBER) const { return SizeSquared() < Tolerance ? FVector(0.f) : *this / Size(); }
-	static float DotProduct(const FVector& A, const FVector& B) { return A.X * B.X + A.Y * B.Y + A.Z * B.Z; }
-	static FVector CrossProduct(const FVector& A, const FVector& B)
+	/** All parts alike. */
+	explicit constexpr FVector(float InF)
+		: X(InF)
+		, Y(InF)
+		, Z(InF)
 	{
-		return FVector(A.Y * B.Z - A.Z * B.Y, A.Z * B.X - A.X * B.Z, A.X * B.Y - A.Y * B.X);
 	}
+
+	/** From its parts. */
+	constexpr FVector(float InX, float InY, float InZ)
+		: X(InX)
+		, Y(InY)
+		, Z(InZ)
+	{
+	}
+
+	/** Zero. */
+	explicit constexpr FVector(EForceInit)
+		: X(0)
+		, Y(0)
+		, Z(0)
+	{
+	}
+
+	/** Cross product. */
+	FVector operator^(const FVector& V) const { return FVector(Y * V.Z - Z * V.Y, Z * V.X - X * V.Z, X * V.Y - Y * V.X); }
+	/** Dot product. */
+	float operator|(const FVector& V) const { return X * V.X + Y * V.Y + Z * V.Z; }
+	/** Sum. */
+	FVector operator+(const FVector& V) const { return FVector(X + V.X, Y + V.Y, Z + V.Z); }
+	/** Difference. */
+	FVector operator-(const FVector& V) const { return FVector(X - V.X, Y - V.Y, Z - V.Z); }
+	/** Scaled. */
+	FVector operator*(float Scale) const { return FVector(X * Scale, Y * Scale, Z * Scale); }
+	/** Divided. */
+	FVector operator/(float Scale) const { return FVector(X / Scale, Y / Scale, Z / Scale); }
+	/** Part by part. */
+	FVector operator*(const FVector& V) const { return FVector(X * V.X, Y * V.Y, Z * V.Z); }
+	/** Opposite. */
+	FVector operator-() const { return FVector(-X, -Y, -Z); }
+	/** Equal parts. */
+	bool operator==(const FVector& V) const { return X == V.X && Y == V.Y && Z == V.Z; }
+	/** Any part differs. */
+	bool operator!=(const FVector& V) const { return !(*this == V); }
+	/** Adds. */
+	FVector& operator+=(const FVector& V) { return *this = *this + V; }
+	/** Subtracts. */
+	FVector& operator-=(const FVector& V) { return *this = *this - V; }
+	/** Scales. */
+	FVector& operator*=(float Scale) { return *this = *this * Scale; }
+	/** Divides. */
+	FVector& operator/=(float V) { return *this = *this / V; }
+
+	/** Length. */
+	float Size() const { return std::sqrt(SizeSquared()); }
+	/** Square of the length. */
+	float SizeSquared() const { return X * X + Y * Y + Z * Z; }
+	/** Whether all parts are zero. */
+	bool IsZero() const { return X == 0.0f && Y == 0.0f && Z == 0.0f; }
+	/** Whether the parts are nearly equal. */
 	bool Equals(const FVector& V, float Tolerance = KINDA_SMALL_NUMBER) const
 	{
 		return FMath::Abs(X - V.X) <= Tolerance && FMath::Abs(Y - V.Y) <= Tolerance && FMath::Abs(Z - V.Z) <= Tolerance;
 	}
-
-	/** "X=1.000 Y=2.000 Z=3.000". */
-	FString ToString() const
+	/** Of length one, or zero when it is too short. */
+	FVector GetSafeNormal(float Tolerance = SMALL_NUMBER) const
 	{
-		return FString::Printf(
-			TEXT("X=%3.3f Y=%3.3f Z=%3.3f"), static_cast<double>(X), static_cast<double>(Y), static_cast<double>(Z));
+		return SizeSquared() < Tolerance ? FVector(0.0f) : *this * (1.0f / Size());
 	}
+	/** Dot product. */
+	static float DotProduct(const FVector& A, const FVector& B) { return A | B; }
+	/** Cross product. */
+	static FVector CrossProduct(const FVector& A, const FVector& B) { return A ^ B; }
+
+	/** Text of the form X=1.000 Y=2.000 Z=3.000. */
+	FString ToString() const;
 };
+
+/** Scaled. */
+inline FVector operator*(float Scale, const FVector& V)
+{
+	return V * Scale;
+}
+
+/** Hash of all parts. */
+inline uint32 GetTypeHash(const FVector& V)
+{
+	return HashCombine(HashCombine(GetTypeHash(V.X), GetTypeHash(V.Y)), GetTypeHash(V.Z));
+}

@@ -2,73 +2,159 @@
 
 #pragma once
 
-#include "CoreTypes.h"
-#include "Containers/UnrealString.h"
 #include "Math/IntPoint.h"
 #include "Math/UnrealMathUtility.h"
+#include "Containers/UnrealString.h"
 
-// A point, size or direction in two dimensions, in floats.
+// Two floats.
 
-/** X and Y. Slate's sizes and places are in Slate units, which are pixels at scale one. */
-struct FVector2D
+/** A vector or point of two floats. */
+struct CORE_API FVector2D
 {
 	float X;
 	float Y;
 
-	/** (0, 0). */
-	CORE_API static const FVector2D ZeroVector;
+	static const FVector2D ZeroVector;
+	static const FVector2D UnitVector;
 
-	/** (1, 1). */
-	CORE_API static const FVector2D UnitVector;
-
+	/** Not initialised. */
 	FVector2D() {}
-	FVector2D(float InX, float InY) : X(InX), Y(InY) {}
-	explicit FVector2D(float InF) : X(InF), Y(InF) {}
-	FVector2D(FIntPoint InPos) : X(static_cast<float>(InPos.X)), Y(static_cast<float>(InPos.Y)) {}
 
-	bool operator==(const FVector2D& V) const { return X == V.X && Y == V.Y; }
-	bool operator!=(const FVector2D& V) const { return !(*this == V); }
+	/** From its parts. */
+	constexpr FVector2D(float InX, float InY)
+		: X(InX)
+		, Y(InY)
+	{
+	}
+
+	/** Both parts alike. */
+	explicit constexpr FVector2D(float InF)
+		: X(InF)
+		, Y(InF)
+	{
+	}
+
+	/** From whole numbers. */
+	FVector2D(FIntPoint InPos)
+		: X((float)InPos.X)
+		, Y((float)InPos.Y)
+	{
+	}
+
+	/** Zero. */
+	explicit constexpr FVector2D(EForceInit)
+		: X(0)
+		, Y(0)
+	{
+	}
+
+	/** Sum. */
 	FVector2D operator+(const FVector2D& V) const { return FVector2D(X + V.X, Y + V.Y); }
+	/** Difference. */
 	FVector2D operator-(const FVector2D& V) const { return FVector2D(X - V.X, Y - V.Y); }
-	FVector2D operator*(const FVector2D& V) const { return FVector2D(X * V.X, Y * V.Y); }
-	FVector2D operator/(const FVector2D& V) const { return FVector2D(X / V.X, Y / V.Y); }
-	FVector2D operator*(float Scale) const { return FVector2D(X * Scale, Y * Scale); }
-	FVector2D operator/(float Scale) const { return FVector2D(X / Scale, Y / Scale); }
+	/** Adds to both parts. */
 	FVector2D operator+(float A) const { return FVector2D(X + A, Y + A); }
+	/** Takes from both parts. */
 	FVector2D operator-(float A) const { return FVector2D(X - A, Y - A); }
+	/** Scaled. */
+	FVector2D operator*(float Scale) const { return FVector2D(X * Scale, Y * Scale); }
+	/** Divided. */
+	FVector2D operator/(float Scale) const { return FVector2D(X / Scale, Y / Scale); }
+	/** Part by part. */
+	FVector2D operator*(const FVector2D& V) const { return FVector2D(X * V.X, Y * V.Y); }
+	/** Part by part. */
+	FVector2D operator/(const FVector2D& V) const { return FVector2D(X / V.X, Y / V.Y); }
+	/** Dot product. */
+	float operator|(const FVector2D& V) const { return X * V.X + Y * V.Y; }
+	/** Cross product. */
+	float operator^(const FVector2D& V) const { return X * V.Y - Y * V.X; }
+	/** Opposite. */
 	FVector2D operator-() const { return FVector2D(-X, -Y); }
-	FVector2D& operator+=(const FVector2D& V) { return *this = *this + V; }
-	FVector2D& operator-=(const FVector2D& V) { return *this = *this - V; }
-	FVector2D& operator*=(float Scale) { return *this = *this * Scale; }
-	FVector2D& operator/=(float Scale) { return *this = *this / Scale; }
-	float& operator[](int32 Index) { return Index == 0 ? X : Y; }
-	float operator[](int32 Index) const { return Index == 0 ? X : Y; }
+	/** Equal parts. */
+	bool operator==(const FVector2D& V) const { return X == V.X && Y == V.Y; }
+	/** Any part differs. */
+	bool operator!=(const FVector2D& V) const { return !(*this == V); }
+	/** Both parts smaller. */
+	bool operator<(const FVector2D& Other) const { return X < Other.X && Y < Other.Y; }
+	/** Both parts larger. */
+	bool operator>(const FVector2D& Other) const { return X > Other.X && Y > Other.Y; }
+	/** Both parts not larger. */
+	bool operator<=(const FVector2D& Other) const { return X <= Other.X && Y <= Other.Y; }
+	/** Both parts not smaller. */
+	bool operator>=(const FVector2D& Other) const { return X >= Other.X && Y >= Other.Y; }
 
-	void Set(float InX, float InY) { *this = FVector2D(InX, InY); }
-	float GetMax() const { return FMath::Max(X, Y); }
-	float GetMin() const { return FMath::Min(X, Y); }
-	float Size() const { return FMath::Sqrt(SizeSquared()); }
+	/** Adds. */
+	FVector2D& operator+=(const FVector2D& V) { return *this = *this + V; }
+	/** Subtracts. */
+	FVector2D& operator-=(const FVector2D& V) { return *this = *this - V; }
+	/** Scales. */
+	FVector2D& operator*=(float Scale) { return *this = *this * Scale; }
+	/** Divides. */
+	FVector2D& operator/=(float V) { return *this = *this / V; }
+	/** Multiplies part by part. */
+	FVector2D& operator*=(const FVector2D& V) { return *this = *this * V; }
+	/** Divides part by part. */
+	FVector2D& operator/=(const FVector2D& V) { return *this = *this / V; }
+
+	/** Part 0 or 1. */
+	float& operator[](int32 Index) { return Index == 0 ? X : Y; }
+	/** Part 0 or 1. */
+	float operator[](int32 Index) const { return Index == 0 ? X : Y; }
+	/** Part 0 or 1. */
+	float Component(int32 Index) const { return (*this)[Index]; }
+
+	/** Sets both parts. */
+	void Set(float InX, float InY)
+	{
+		X = InX;
+		Y = InY;
+	}
+
+	/** Length. */
+	float Size() const { return std::sqrt(X * X + Y * Y); }
+	/** Square of the length. */
 	float SizeSquared() const { return X * X + Y * Y; }
-	bool IsZero() const { return X == 0.f && Y == 0.f; }
-	bool IsNearlyZero(float Tolerance = KINDA_SMALL_NUMBER) const { return FMath::Abs(X) <= Tolerance && FMath::Abs(Y) <= Tolerance; }
-	bool Equals(const FVector2D& V, float Tolerance = KINDA_SMALL_NUMBER) const { return (*this - V).IsNearlyZero(Tolerance); }
+	/** Larger part. */
+	float GetMax() const { return FMath::Max(X, Y); }
+	/** Smaller part. */
+	float GetMin() const { return FMath::Min(X, Y); }
+	/** Parts without sign. */
 	FVector2D GetAbs() const { return FVector2D(FMath::Abs(X), FMath::Abs(Y)); }
+	/** Whether both parts are nearly zero. */
+	bool IsNearlyZero(float Tolerance = KINDA_SMALL_NUMBER) const { return FMath::Abs(X) <= Tolerance && FMath::Abs(Y) <= Tolerance; }
+	/** Whether both parts are zero. */
+	bool IsZero() const { return X == 0.0f && Y == 0.0f; }
+	/** Whether the parts are nearly equal. */
+	bool Equals(const FVector2D& V, float Tolerance = KINDA_SMALL_NUMBER) const { return (*this - V).IsNearlyZero(Tolerance); }
+	/** Parts rounded to whole numbers. */
 	FVector2D RoundToVector() const { return FVector2D(FMath::RoundToFloat(X), FMath::RoundToFloat(Y)); }
+	/** Parts cut to whole numbers. */
 	FIntPoint IntPoint() const { return FIntPoint(FMath::RoundToInt(X), FMath::RoundToInt(Y)); }
+	/** Parts within limits. */
 	FVector2D ClampAxes(float MinAxisVal, float MaxAxisVal) const
 	{
 		return FVector2D(FMath::Clamp(X, MinAxisVal, MaxAxisVal), FMath::Clamp(Y, MinAxisVal, MaxAxisVal));
 	}
-	static FVector2D Max(const FVector2D& A, const FVector2D& B) { return FVector2D(FMath::Max(A.X, B.X), FMath::Max(A.Y, B.Y)); }
-	static FVector2D Min(const FVector2D& A, const FVector2D& B) { return FVector2D(FMath::Min(A.X, B.X), FMath::Min(A.Y, B.Y)); }
-	static float DotProduct(const FVector2D& A, const FVector2D& B) { return A.X * B.X + A.Y * B.Y; }
-	static float Distance(const FVector2D& A, const FVector2D& B) { return (A - B).Size(); }
 
-	/** "X=1.000 Y=2.000". */
-	FString ToString() const { return FString::Printf(TEXT("X=%3.3f Y=%3.3f"), static_cast<double>(X), static_cast<double>(Y)); }
+	/** Distance of two points. */
+	static float Distance(const FVector2D& V1, const FVector2D& V2) { return (V2 - V1).Size(); }
+	/** Larger parts of both. */
+	static FVector2D Max(const FVector2D& A, const FVector2D& B) { return FVector2D(FMath::Max(A.X, B.X), FMath::Max(A.Y, B.Y)); }
+	/** Smaller parts of both. */
+	static FVector2D Min(const FVector2D& A, const FVector2D& B) { return FVector2D(FMath::Min(A.X, B.X), FMath::Min(A.Y, B.Y)); }
+
+	/** Text of the form X=1.000 Y=2.000. */
+	FString ToString() const;
 };
 
+/** Scaled. */
 inline FVector2D operator*(float Scale, const FVector2D& V)
 {
 	return V * Scale;
+}
+
+/** Hash of both parts. */
+inline uint32 GetTypeHash(const FVector2D& V)
+{
+	return HashCombine(GetTypeHash(V.X), GetTypeHash(V.Y));
 }

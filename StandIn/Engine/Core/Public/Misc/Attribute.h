@@ -2,77 +2,104 @@
 
 #pragma once
 
-#include "CoreTypes.h"
 #include "Delegates/Delegate.h"
-#include "Misc/AssertionMacros.h"
-#include "Templates/SharedPointer.h"
-#include "Templates/UnrealTemplate.h"
+#include "Misc/Optional.h"
+#include "Templates/Function.h"
 
-#include <type_traits>
+// A value, or a function that yields it. The static CreateSP, CreateRaw, CreateLambda and CreateUObject of later engines are left out:
+// write TAttribute<T>::Create(TAttribute<T>::FGetter::CreateSP(...)), which compiles everywhere.
 
-// A value or a getter that is asked anew at every Get. The getter's last answer is kept, and given again when its object is gone.
-// The Create… and Bind… forms with an object and a method are those that 4.27 certainly has.
-
-/** A value that may be computed each time it is asked for. */
+/** A value that is stored or asked for each time. */
 template <typename ObjectType>
 class TAttribute
 {
+	template <typename OtherType>
+	friend class TAttribute;
+
 public:
-	DECLARE_DELEGATE_RetVal(ObjectType, FGetter);
+	/** Yields the value. */
+	typedef TDelegate<ObjectType()> FGetter;
 
-	/** Neither value nor getter. */
-	TAttribute() : Value(), bIsSet(false) {}
-
-	/** A value. */
-	template <typename OtherType,
-		typename = typename std::enable_if<std::is_convertible<const OtherType&, ObjectType>::value
-			&& !std::is_same<typename std::decay<OtherType>::type, TAttribute>::value>::type>
-	TAttribute(const OtherType& InInitialValue) : Value(InInitialValue), bIsSet(true)
+	/** Not set. */
+	TAttribute()
+		: Value()
+		, bIsSet(false)
 	{
 	}
-	TAttribute(ObjectType&& InInitialValue) : Value(MoveTemp(InInitialValue)), bIsSet(true) {}
 
-	/** A getter: a const member function of a shared object, which is held weakly. */
+	/** Set to a value of any type that converts. */
+	template <typename OtherType, typename = typename TEnableIf<std::is_convertible<const OtherType&, ObjectType>::value>::Type>
+	TAttribute(const OtherType& InInitialValue)
+		: Value(InInitialValue)
+		, bIsSet(true)
+	{
+	}
+
+	/** Set to a moved value. */
+	TAttribute(ObjectType&& InInitialValue)
+		: Value(MoveTempIfPossible(InInitialValue))
+		, bIsSet(true)
+	{
+	}
+
+	/** Bound to a const method of a shared object. */
 	template <class SourceType>
-	TAttribute(TSharedRef<SourceType> InUserObject, ObjectType (SourceType::*InMethodPtr)() const)
-		: Value()
-		, bIsSet(true)
-		, Getter(FGetter::CreateSP(InUserObject, InMethodPtr))
-	{
-	}
-	template <class SourceType, class MethodClass>
-	TAttribute(SourceType* InUserObject, ObjectType (MethodClass::*InMethodPtr)() const)
+	TAttribute(TSharedRef<SourceType> InUserObject, typename TMemFunPtrType<true, SourceType, ObjectType()>::Type InMethodPtr)
 		: Value()
 		, bIsSet(true)
 		, Getter(FGetter::CreateSP(InUserObject, InMethodPtr))
 	{
 	}
 
-	/** An attribute with this getter; an unbound getter makes one that is set and not bound. */
-	static TAttribute Create(const FGetter& InGetter) { return Create(FGetter(InGetter)); }
-	static TAttribute Create(FGetter&& InGetter)
+	/** Bound to a const method of an object that knows its shared pointer. */
+	template <class SourceType>
+	TAttribute(SourceType* InUserObject, typename TMemFunPtrType<true, SourceType, ObjectType()>::Type InMethodPtr)
+		: Value()
+		, bIsSet(true)
+		, Getter(FGetter::CreateSP(InUserObject, InMethodPtr))
+	{
+	}
+
+	/** An attribute bound to a getter. */
+	static TAttribute Create(const FGetter& InGetter)
 	{
 		TAttribute Result;
-		Result.bIsSet = true;
-		Result.Getter = MoveTemp(InGetter);
+		Result.Bind(InGetter);
 		return Result;
 	}
 
-	/** An attribute that asks a free function. */
-	static TAttribute Create(ObjectType (*InFunction)()) { return Create(FGetter::CreateStatic(InFunction)); }
-
-	/** Gives it a value in place of a getter. */
-	void Set(const ObjectType& InNewValue)
+	/** An attribute bound to a getter. */
+	static TAttribute Create(FGetter&& InGetter)
 	{
-		Value = InNewValue;
+		TAttribute Result;
+		Result.Bind(MoveTemp(InGetter));
+		return Result;
+	}
+
+	/** An attribute bound to a plain function. */
+	static TAttribute Create(ObjectType (*InFuncPtr)()) { return Create(FGetter::CreateStatic(InFuncPtr)); }
+
+	/** Stores a value and drops the getter. */
+	template <typename OtherType>
+	void Set(const OtherType& InNewValue)
+	{
 		Getter.Unbind();
+		Value = InNewValue;
 		bIsSet = true;
 	}
 
-	/** Says whether it has a value or a getter. */
+	/** Stores a value and drops the getter. */
+	void Set(ObjectType&& InNewValue)
+	{
+		Getter.Unbind();
+		Value = MoveTempIfPossible(InNewValue);
+		bIsSet = true;
+	}
+
+	/** Whether a value or a getter was given. */
 	bool IsSet() const { return bIsSet; }
 
-	/** The value; asks the getter if there is one whose object lives. The reference holds until the next Get. */
+	/** The value; a bound getter is asked and its answer kept; if its object is gone, the last answer. */
 	const ObjectType& Get() const
 	{
 		if (Getter.IsBound())
@@ -82,51 +109,80 @@ public:
 		return Value;
 	}
 
-	/** The value, or the default when nothing is set. */
+	/** The value if one was given, else the default. */
 	const ObjectType& Get(const ObjectType& DefaultValue) const { return bIsSet ? Get() : DefaultValue; }
 
-	/** Gives it a getter in place of a value. */
+	/** Binds a getter. */
 	void Bind(const FGetter& InGetter)
 	{
 		bIsSet = true;
 		Getter = InGetter;
 	}
-	template <typename... ArgTypes>
-	void BindStatic(ArgTypes&&... Args)
+
+	/** Binds a getter. */
+	void Bind(FGetter&& InGetter)
 	{
-		Bind(FGetter::CreateStatic(Forward<ArgTypes>(Args)...));
+		bIsSet = true;
+		Getter = MoveTemp(InGetter);
 	}
-	template <class SourceType, typename MethodType>
-	void BindRaw(SourceType* InUserObject, MethodType InMethodPtr)
+
+	/** Binds a plain function. */
+	void BindStatic(ObjectType (*InFuncPtr)()) { Bind(FGetter::CreateStatic(InFuncPtr)); }
+
+	/** Binds a const method of an object that nobody watches. */
+	template <class SourceType>
+	void BindRaw(SourceType* InUserObject, typename TMemFunPtrType<true, SourceType, ObjectType()>::Type InMethodPtr)
 	{
 		Bind(FGetter::CreateRaw(InUserObject, InMethodPtr));
 	}
-	template <class SourceType, typename MethodType>
-	void BindUObject(SourceType* InUserObject, MethodType InMethodPtr)
-	{
-		Bind(FGetter::CreateUObject(InUserObject, InMethodPtr));
-	}
-	template <class SourceType, typename MethodType>
-	void Bind(SourceType* InUserObject, MethodType InMethodPtr)
+
+	/** Binds a const method of a shared object. */
+	template <class SourceType>
+	void BindSP(TSharedRef<SourceType> InUserObject, typename TMemFunPtrType<true, SourceType, ObjectType()>::Type InMethodPtr)
 	{
 		Bind(FGetter::CreateSP(InUserObject, InMethodPtr));
 	}
 
-	/** Says whether it has a getter whose object lives. */
+	/** Binds a const method of an object that knows its shared pointer. */
+	template <class SourceType>
+	void BindSP(SourceType* InUserObject, typename TMemFunPtrType<true, SourceType, ObjectType()>::Type InMethodPtr)
+	{
+		Bind(FGetter::CreateSP(InUserObject, InMethodPtr));
+	}
+
+	/** Binds a const method of a UObject. */
+	template <class SourceType>
+	void BindUObject(SourceType* InUserObject, typename TMemFunPtrType<true, SourceType, ObjectType()>::Type InMethodPtr)
+	{
+		Bind(FGetter::CreateUObject(InUserObject, InMethodPtr));
+	}
+
+	/** Refused: binding a UFUNCTION by name. */
+	template <class SourceType>
+	void BindUFunction(SourceType*, const FName&)
+	{
+		STANDIN_MISSING(TEXT("TAttribute::BindUFunction"));
+	}
+
+	/** Whether a getter is bound and its object lives. */
 	bool IsBound() const { return Getter.IsBound(); }
 
-	/** The getter; unbound when there is none. */
+	/** The getter. */
 	const FGetter& GetBinding() const { return Getter; }
 
-	/** Says whether both have the same getter, or both none and equal values. */
+	/** Whether both hold the same binding, or equal values. */
 	bool IdenticalTo(const TAttribute& InOther) const
 	{
-		const bool bBound = Getter.IsBound();
-		if (bBound != InOther.Getter.IsBound())
+		const bool bIsBound = IsBound();
+		if (bIsBound != InOther.IsBound())
 		{
 			return false;
 		}
-		return bBound ? Getter.GetHandle() == InOther.Getter.GetHandle() : bIsSet == InOther.bIsSet && Value == InOther.Value;
+		if (bIsBound)
+		{
+			return Getter.GetHandle() == InOther.Getter.GetHandle();
+		}
+		return IsSet() == InOther.IsSet() && (!IsSet() || Value == InOther.Value);
 	}
 
 private:
@@ -134,3 +190,10 @@ private:
 	bool bIsSet;
 	FGetter Getter;
 };
+
+/** An attribute set to a value. */
+template <typename T>
+TAttribute<typename TDecay<T>::Type> MakeAttribute(T&& InValue)
+{
+	return TAttribute<typename TDecay<T>::Type>(Forward<T>(InValue));
+}

@@ -2,50 +2,39 @@
 
 #pragma once
 
-#include "CoreTypes.h"
-#include "Containers/Array.h"
 #include "Containers/UnrealString.h"
+#include "Delegates/DelegateBase.h"
 #include "Templates/Function.h"
 
-// Not in the engine: every registry can be listed, so that "what is left after shut-down, and whose is it?" is one question.
-// Game thread only.
+// Lists what is registered anywhere, so that "what is left after shut-down, bound to this object?" is one question.
 
 namespace StandIn
 {
-/** One thing that stands in one registry. */
+/** One thing that is registered somewhere. */
 struct FRegistration
 {
-	/** The registry: "Modules", "Delegates", "ToolMenus" … */
+	/** The registry, such as "Delegates" or "Modules". */
 	FString Registry;
 
-	/** What it is, in the registry's own words; for a binding the delegate's name. */
+	/** The thing's name in it. */
 	FString Name;
 
-	/** Who registered it or is called, as far as known; null otherwise. Compare only, it may be gone. */
+	/** Whose it is: a binding's user object, an owner's address; null if nobody's. */
 	const void* Owner;
 };
 
-/** Adds a registry; List appends what stands in it. A registry of the same name is replaced, so that libraries may come and go. */
+/** Adds a registry: a function that appends what is in it; a second one of the same name replaces the first. */
 CORE_API void AddRegistry(const TCHAR* Registry, TFunction<void(TArray<FRegistration>&)> List);
 
-/** Takes a registry off the list, for libraries that are unloaded. */
+/** Removes a registry, as a module must before it is unloaded. */
 CORE_API void RemoveRegistry(const TCHAR* Registry);
 
-/** All that is registered, registry by registry in the order in which these were added. */
+/** All that is registered now, by registry in order of AddRegistry. */
 CORE_API TArray<FRegistration> ListRegistrations();
 
-/** Adds a multicast delegate under its engine name as a registry of its own, each binding one entry of the registry "Delegates". */
-template <typename DelegateType>
-void AddDelegate(const TCHAR* DelegateName, const DelegateType& Delegate)
-{
-	const FString Name(DelegateName);
-	AddRegistry(DelegateName,
-		[Name, &Delegate](TArray<FRegistration>& OutRegistrations)
-		{
-			for (const void* const UserObject : Delegate.ListUserObjects())
-			{
-				OutRegistrations.Add(FRegistration{FString(TEXT("Delegates")), Name, UserObject});
-			}
-		});
-}
+/** Appends one entry for each live binding of a delegate: Registry "Delegates", Name as given, Owner the binding's user object. */
+CORE_API void ListBindings(const TCHAR* Name, const FMulticastDelegateBase& Delegate, TArray<FRegistration>& OutRegistrations);
+
+/** Lets ListRegistrations report a delegate that lives as long as the process, such as "FCoreDelegates::OnPreExit". */
+CORE_API void AddDelegate(const TCHAR* Name, const FMulticastDelegateBase& Delegate);
 }

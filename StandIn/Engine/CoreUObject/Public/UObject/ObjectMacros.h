@@ -137,7 +137,7 @@ public: \
 		static UClass* PrivateStaticClass = nullptr; \
 		if (!PrivateStaticClass) \
 		{ \
-			GetPrivateStaticClassBody(StaticPackage(), TEXT(#TClass) + 1, PrivateStaticClass, StaticRegisterNatives##TClass, sizeof(TClass), \
+			GetPrivateStaticClassBody(StaticPackage(), &TEXT(#TClass)[1], PrivateStaticClass, StaticRegisterNatives##TClass, sizeof(TClass), \
 				alignof(TClass), (EClassFlags)TClass::StaticClassFlags, TClass::StaticClassCastFlags(), TClass::StaticConfigName(), \
 				(UClass::ClassConstructorType)InternalConstructor<TClass>, \
 				(UClass::ClassVTableHelperCtorCallerType)InternalVTableHelperCtorCaller<TClass>, &TClass::AddReferencedObjects, \

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "CoreMinimal.h"
+#include "Containers/EnumAsByte.h"
 #include "Containers/IndirectArray.h"
 #include "Engine/EngineTypes.h"
 #include "Logging/LogMacros.h"

@@ -76,7 +76,7 @@ public:
 	UEngine* GetEngine() const;
 
 	/** Returns the world of the game, or null. */
-	UWorld* GetWorld() const;
+	virtual UWorld* GetWorld() const override;
 
 	/** Returns the game viewport of the game, or null. */
 	UGameViewportClient* GetGameViewportClient() const;

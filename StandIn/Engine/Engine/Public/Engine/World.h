@@ -221,6 +221,7 @@ public:
 	/** Returns the game viewport of the world's context, or null. */
 	UGameViewportClient* GetGameViewport() const;
 
+	virtual UWorld* GetWorld() const override;
 	virtual void BeginDestroy() override;
 
 private:

@@ -14,6 +14,7 @@
 #include "StandIn/LevelEditorPanes.h"
 #include "StandIn/ObjectSystem.h"
 #include "Subsystems/AssetEditorSubsystem.h"
+#include "UObject/Package.h"
 #include "UnrealEdGlobals.h"
 
 StandIn::FEngineLoop::FEngineLoop()

@@ -14,6 +14,8 @@ struct FGroup
 };
 }
 
+UAssetEditorSubsystem::UAssetEditorSubsystem() {}
+
 bool UAssetEditorSubsystem::OpenEditorForAsset(
 	UObject* Asset, const EToolkitMode::Type ToolkitMode, TSharedPtr<IToolkitHost> OpenedFromLevelEditor, const bool bShowProgressWindow)
 {

@@ -6,6 +6,7 @@
 #include "EditorSubsystem.h"
 #include "Toolkits/IToolkit.h"
 #include "Toolkits/IToolkitHost.h"
+#include "UObject/WeakObjectPtrTemplates.h"
 #include "AssetEditorSubsystem.generated.h"
 
 // Opens assets for editing and knows which ones are open. Left out: recently opened assets, restoring after a crash, message
@@ -37,6 +38,8 @@ class UNREALED_API UAssetEditorSubsystem : public UEditorSubsystem
 	GENERATED_BODY()
 
 public:
+	UAssetEditorSubsystem();
+
 	/** Opens an asset, or brings its open editor to the front; false if there is no asset. */
 	bool OpenEditorForAsset(UObject* Asset, const EToolkitMode::Type ToolkitMode = EToolkitMode::Standalone,
 		TSharedPtr<IToolkitHost> OpenedFromLevelEditor = TSharedPtr<IToolkitHost>(), const bool bShowProgressWindow = true);

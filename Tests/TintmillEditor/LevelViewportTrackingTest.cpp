@@ -1,0 +1,290 @@
+// Copyright The Tintmill authors. All rights reserved.
+
+#include "Support/Printers.h"
+#include "TintmillEditor/ModuleFixture.h"
+
+#include "Editor.h"
+#include "Editor/EditorEngine.h"
+#include "LevelEditorViewport.h"
+#include "SLevelViewport.h"
+#include "Slate/SceneViewport.h"
+#include "StandIn/LevelEditorPanes.h"
+#include "StandIn/PlaySession.h"
+#include "TintmillDisplayManager.h"
+#include "TintmillObject.h"
+
+#include <gtest/gtest.h>
+
+// How a pane's look outlives its client: restored when the pane comes, saved when it goes.
+
+namespace
+{
+const FName OnePane(TEXT("OnePane"));
+const FName FourPanes(TEXT("FourPanes2x2"));
+const std::string OnePaneKey = "OnePane.Viewport 1.Viewport0";
+
+std::string FourPaneKey(int Number)
+{
+	return "FourPanes2x2.Viewport 1.Viewport" + std::to_string(Number);
+}
+
+const TCHAR* const RestoredLine = TEXT("SetupViewportDisplaySettings");
+const TCHAR* const SavedLine = TEXT("OnLevelViewportClientListChanged");
+
+class FLevelViewportTracking : public FModuleFixture
+{
+protected:
+	virtual void SetUp() override
+	{
+		WriteLook("Teal");
+		WriteLook("Amber");
+	}
+
+	/** Fires the event of the list of level viewport clients without a change. */
+	static void ReportListChange() { StandIn::BroadcastLevelViewportClientListChanged(); }
+
+	/** Changes what a pane displays, as its menu does. */
+	static void Display(int32 Number, bool bEnable, float Intensity)
+	{
+		FTintmillDisplayConfiguration& Record = GetDisplayManager().FindOrAddDisplayConfiguration(GetClient(Number));
+		Record.bEnableDisplay = bEnable;
+		Record.Intensity = Intensity;
+	}
+};
+
+TEST_F(FLevelViewportTracking, AnEventWithoutPanesWritesNothing)
+{
+	InitEngine();
+	ReportListChange();
+	EXPECT_TRUE(ReadSettings().empty());
+	EXPECT_TRUE(Log.InCategory(TEXT("LogTemp")).empty());
+}
+
+TEST_F(FLevelViewportTracking, AllOfFourSavedPanesAreRestored)
+{
+	WriteSettings({MakePair(FourPaneKey(0), true, "0.100000", "Teal"), MakePair(FourPaneKey(1), true, "0.200000", "Amber"),
+		MakePair(FourPaneKey(2), false, "0.300000", "Teal"), MakePair(FourPaneKey(3), true, "0.400000", "")});
+	StartEditor(FourPanes);
+	std::vector<std::string> Found;
+	for (int32 Number = 0; Number < 4; ++Number)
+	{
+		const FTintmillDisplayConfiguration* const Record = FindRecord(Number);
+		Found.push_back(MakePair(FourPaneKey(Number), Record->bEnableDisplay, std::to_string(Record->Intensity), LookName(Record)));
+	}
+	EXPECT_EQ(Found, ReadSettings());
+}
+
+TEST_F(FLevelViewportTracking, ASingleSavedPaneIsRestored)
+{
+	WriteSettings({MakePair(OnePaneKey, true, "0.500000", "Teal")});
+	StartEditor(OnePane);
+	EXPECT_EQ(LookName(FindRecord(0)), "Teal");
+}
+
+TEST_F(FLevelViewportTracking, ARestoredPaneLogsItsLineOnce)
+{
+	WriteSettings({MakePair(OnePaneKey, true, "1.000000", "")});
+	StartEditor(OnePane);
+	EXPECT_EQ(Log.Count(RestoredLine), 1);
+}
+
+TEST_F(FLevelViewportTracking, TheLineOfARestoredPaneIsAWarningOfTheTemporaryCategory)
+{
+	WriteSettings({MakePair(OnePaneKey, true, "1.000000", "")});
+	StartEditor(OnePane);
+	const std::vector<FCapturedLog::FLine> Lines = Log.InCategory(TEXT("LogTemp"));
+	ASSERT_EQ(Lines.size(), 1u);
+	EXPECT_EQ(Lines[0].Verbosity, ELogVerbosity::Warning);
+	EXPECT_EQ(Lines[0].Text, FString(RestoredLine));
+}
+
+TEST_F(FLevelViewportTracking, TheLineOfARestoredPaneStandsOnLine293OfTheModulesSource)
+{
+	WriteSettings({MakePair(OnePaneKey, true, "1.000000", "")});
+	StartEditor(OnePane);
+	const std::vector<FCapturedLog::FLine> Lines = Log.InCategory(TEXT("LogTemp"));
+	ASSERT_EQ(Lines.size(), 1u);
+	EXPECT_EQ(std::filesystem::path(Lines[0].File).filename(), "TintmillEditorModule.cpp");
+	EXPECT_EQ(Lines[0].Line, 293);
+}
+
+TEST_F(FLevelViewportTracking, TheLineOfADepartedPaneStandsOnLine223OfTheModulesSource)
+{
+	WriteSettings({MakePair(OnePaneKey, true, "1.000000", "")});
+	StartEditor(OnePane);
+	Log.Clear();
+	StandIn::CloseLevelEditor();
+	const std::vector<FCapturedLog::FLine> Lines = Log.InCategory(TEXT("LogTemp"));
+	ASSERT_EQ(Lines.size(), 1u);
+	EXPECT_EQ(std::filesystem::path(Lines[0].File).filename(), "TintmillEditorModule.cpp");
+	EXPECT_EQ(Lines[0].Line, 223);
+}
+
+TEST_F(FLevelViewportTracking, APaneThatWasNeverSavedGetsADefaultRecord)
+{
+	StartEditor(OnePane);
+	const FTintmillDisplayConfiguration* const Record = FindRecord(0);
+	ASSERT_NE(Record, nullptr);
+	EXPECT_FALSE(Record->bEnableDisplay);
+	EXPECT_FLOAT_EQ(Record->Intensity, 1.0f);
+	EXPECT_EQ(Record->LookAsset, nullptr);
+}
+
+TEST_F(FLevelViewportTracking, APaneWithoutAViewportYetIsNotSaved)
+{
+	StartEditor(OnePane);
+	EXPECT_TRUE(ReadSettings().empty());
+}
+
+TEST_F(FLevelViewportTracking, APaneThatWasNeverSavedIsSavedAtTheNextListChange)
+{
+	StartEditor(OnePane);
+	ReportListChange();
+	EXPECT_EQ(ReadSettings(), std::vector<std::string>{MakePair(OnePaneKey, false, "1.000000", "")});
+}
+
+TEST_F(FLevelViewportTracking, WhatANeverSavedPaneDisplaysByThenIsWhatTheSettingsLearn)
+{
+	StartEditor(OnePane);
+	Display(0, true, 0.5f);
+	ReportListChange();
+	EXPECT_EQ(ReadSettings(), std::vector<std::string>{MakePair(OnePaneKey, true, "0.500000", "")});
+}
+
+TEST_F(FLevelViewportTracking, LearningAPaneLogsNothing)
+{
+	StartEditor(OnePane);
+	ReportListChange();
+	EXPECT_TRUE(Log.InCategory(TEXT("LogTemp")).empty());
+}
+
+TEST_F(FLevelViewportTracking, OfFourNewPanesTheEarlierAreSavedWhileTheLaterAreMade)
+{
+	StartEditor(FourPanes);
+	EXPECT_EQ(ReadSettings(),
+		(std::vector<std::string>{MakePair(FourPaneKey(0), false, "1.000000", ""), MakePair(FourPaneKey(1), false, "1.000000", ""),
+			MakePair(FourPaneKey(2), false, "1.000000", "")}));
+}
+
+TEST_F(FLevelViewportTracking, ASecondEventForTheSameClientChangesNothing)
+{
+	WriteSettings({MakePair(OnePaneKey, true, "0.500000", "Teal")});
+	StartEditor(OnePane);
+	Display(0, false, 1.0f);
+	Log.Clear();
+	ReportListChange();
+	EXPECT_FALSE(FindRecord(0)->bEnableDisplay);
+	EXPECT_FLOAT_EQ(FindRecord(0)->Intensity, 1.0f);
+	EXPECT_TRUE(Log.InCategory(TEXT("LogTemp")).empty());
+}
+
+TEST_F(FLevelViewportTracking, AChangeIsNotSavedByItself)
+{
+	WriteSettings({MakePair(OnePaneKey, true, "0.500000", "")});
+	StartEditor(OnePane);
+	Display(0, false, 1.0f);
+	ReportListChange();
+	EXPECT_EQ(ReadSettings(), std::vector<std::string>{MakePair(OnePaneKey, true, "0.500000", "")});
+}
+
+TEST_F(FLevelViewportTracking, ADepartedPaneIsSavedAtOnce)
+{
+	WriteSettings({MakePair(OnePaneKey, true, "0.500000", "")});
+	StartEditor(OnePane);
+	Display(0, false, 0.25f);
+	StandIn::CloseLevelEditor();
+	EXPECT_EQ(ReadSettings(), std::vector<std::string>{MakePair(OnePaneKey, false, "0.250000", "")});
+}
+
+TEST_F(FLevelViewportTracking, ADepartedPanesRecordIsDropped)
+{
+	WriteSettings({MakePair(OnePaneKey, true, "0.500000", "")});
+	StartEditor(OnePane);
+	const FViewportClient* const Client = GetClient(0);
+	StandIn::CloseLevelEditor();
+	EXPECT_EQ(GetDisplayManager().GetDisplayConfiguration(Client), nullptr);
+}
+
+TEST_F(FLevelViewportTracking, ADepartedPaneWithoutARecordLeavesNoTrace)
+{
+	WriteSettings({MakePair(OnePaneKey, true, "0.500000", "")});
+	StartEditor(OnePane);
+	GetDisplayManager().RemoveDisplayConfiguration(GetClient(0));
+	Log.Clear();
+	StandIn::CloseLevelEditor();
+	EXPECT_EQ(ReadSettings(), std::vector<std::string>{MakePair(OnePaneKey, true, "0.500000", "")});
+	EXPECT_TRUE(Log.InCategory(TEXT("LogTemp")).empty());
+}
+
+TEST_F(FLevelViewportTracking, EveryDepartedPaneWithARecordLogsALine)
+{
+	WriteSettings({MakePair(FourPaneKey(0), true, "1.000000", ""), MakePair(FourPaneKey(1), true, "1.000000", ""),
+		MakePair(FourPaneKey(2), true, "1.000000", ""), MakePair(FourPaneKey(3), true, "1.000000", "")});
+	StartEditor(FourPanes);
+	StandIn::CloseLevelEditor();
+	EXPECT_EQ(Log.Count(SavedLine), 4);
+}
+
+TEST_F(FLevelViewportTracking, DepartedPanesAreSavedInTheOrderInWhichTheyWereTracked)
+{
+	StartEditor(FourPanes);
+	ReportListChange();
+	Project.Write(
+		PLATFORM_WINDOWS ? "Saved/Config/Windows/EditorPerProjectUserSettings.ini" : "Saved/Config/Linux/EditorPerProjectUserSettings.ini",
+		"");
+	StandIn::SetViewportLayout(OnePane);
+	std::vector<std::string> Expected;
+	for (int Number = 0; Number < 4; ++Number)
+	{
+		Expected.push_back(MakePair(FourPaneKey(Number), false, "1.000000", ""));
+	}
+	EXPECT_EQ(ReadSettings(), Expected);
+}
+
+TEST_F(FLevelViewportTracking, APaneComesBackAsItsPredecessorLeft)
+{
+	WriteSettings({MakePair(OnePaneKey, true, "0.500000", "Teal")});
+	StartEditor(OnePane);
+	Display(0, false, 0.25f);
+	StandIn::SetViewportLayout(FourPanes);
+	StandIn::SetViewportLayout(OnePane);
+	EXPECT_FALSE(FindRecord(0)->bEnableDisplay);
+	EXPECT_FLOAT_EQ(FindRecord(0)->Intensity, 0.25f);
+	EXPECT_EQ(LookName(FindRecord(0)), "Teal");
+}
+
+TEST_F(FLevelViewportTracking, APanesLookIsThereAgainInTheNextRun)
+{
+	StartEditor(OnePane);
+	ReportListChange();
+	Display(0, true, 0.75f);
+	ExitEditor();
+	StartEditor(OnePane);
+	EXPECT_TRUE(FindRecord(0)->bEnableDisplay);
+	EXPECT_FLOAT_EQ(FindRecord(0)->Intensity, 0.75f);
+}
+
+TEST_F(FLevelViewportTracking, ARunWithoutChangesLeavesTheSettingsFileAsItWas)
+{
+	WriteSettings({MakePair(OnePaneKey, true, "0.500000", "Teal"), MakePair("Elsewhere", false, "1.000000", "Amber")});
+	const std::vector<std::string> Before = ReadSettings();
+	StartEditor(OnePane);
+	ExitEditor();
+	EXPECT_EQ(ReadSettings(), Before);
+}
+
+TEST_F(FLevelViewportTracking, AClientWithoutAPaneIsLeftAlone)
+{
+	StartEditor(OnePane);
+	const FLevelEditorViewportClient Client{TSharedPtr<SLevelViewport>()};
+	EXPECT_EQ(GetDisplayManager().GetDisplayConfiguration(&Client), nullptr);
+}
+
+TEST_F(FLevelViewportTracking, AClientThatTheRuntimeModuleKnowsAlreadyIsStillRestored)
+{
+	WriteSettings({MakePair(OnePaneKey, true, "0.500000", "Teal")});
+	StartEditor(OnePane);
+	EXPECT_EQ(&GetDisplayManager().FindOrAddDisplayConfiguration(GetClient(0)), FindRecord(0));
+	EXPECT_EQ(LookName(FindRecord(0)), "Teal");
+}
+}
