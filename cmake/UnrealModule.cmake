@@ -128,12 +128,15 @@ function(ue_engine_library)
         LIBRARY_OUTPUT_DIRECTORY ${UE_BINARIES_DIR})
 endfunction()
 
-# ue_module(NAME DIR PLUGIN_DIR dir [PRODUCT] [DEPENDS modules] [LIBRARIES libraries]): a plug-in module, once as the
+# ue_module(NAME DIR PLUGIN_DIR dir [PRODUCT] [EXCLUDE regex] [DEPENDS modules] [LIBRARIES libraries]): a plug-in module, once as the
 # editor's shared library and once as <NAME>.Static, the engine's monolithic form, for unit tests. Code of the product is
 # compiled with the language level and the restrictions of the engine's own build.
 function(ue_module name dir)
-    cmake_parse_arguments(arg "PRODUCT" "PLUGIN_DIR" "DEPENDS;LIBRARIES" ${ARGN})
+    cmake_parse_arguments(arg "PRODUCT" "PLUGIN_DIR;EXCLUDE" "DEPENDS;LIBRARIES" ${ARGN})
     ue_sources(sources ${dir})
+    if(arg_EXCLUDE)
+        list(FILTER sources EXCLUDE REGEX ${arg_EXCLUDE})
+    endif()
     get_property(generated GLOBAL PROPERTY UE_GENERATED_SOURCES_${name})
     list(APPEND sources ${generated})
     ue_api_macro(api ${name})
@@ -166,7 +169,11 @@ endfunction()
 # ue_plugin(NAME): the plug-in folder as it would be installed: descriptor, icons, binaries.
 function(ue_plugin name)
     set(plugin_dir ${UE_ENGINE_DIR}/Plugins/${name})
-    ue_module(Tintmill ${CMAKE_SOURCE_DIR}/StandIn/Tintmill PLUGIN_DIR ${plugin_dir} LIBRARIES TintmillLookLibraries)
+    if(NOT TARGET PkgConfig::OCIO)
+        set(without_look_pass EXCLUDE "/LookPass/")
+    endif()
+    ue_module(Tintmill ${CMAKE_SOURCE_DIR}/StandIn/Tintmill PLUGIN_DIR ${plugin_dir} ${without_look_pass}
+        LIBRARIES TintmillLookLibraries)
     ue_module(TintmillEditor ${CMAKE_SOURCE_DIR}/Source/TintmillEditor PRODUCT PLUGIN_DIR ${plugin_dir} DEPENDS Tintmill)
     set(stamp ${plugin_dir}/.staged)
     file(GLOB icons CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/Editor/Icons/*.png)

@@ -58,23 +58,24 @@ std::string WriteParams(const FReflectedType& Type, const std::string& Statics, 
 std::string WriteTail(const FReflectedType& Type, std::uint32_t Crc)
 {
 	const std::string Helper = Type.bDeclaresHelperConstructor ? "" : Fill("\tDEFINE_VTABLE_PTR_HELPER_CTOR($0);\n", {Type.CppName});
-	return Fill("\tUClass* Z_Construct_UClass_$0()\n"
-				"\t{\n"
-				"\t\tstatic UClass* OuterClass = nullptr;\n"
-				"\t\tif (!OuterClass)\n"
-				"\t\t{\n"
-				"\t\t\tUE4CodeGen_Private::ConstructUClass(OuterClass, Z_Construct_UClass_$0_Statics::ClassParams);\n"
-				"\t\t}\n"
-				"\t\treturn OuterClass;\n"
-				"\t}\n"
-				"\tIMPLEMENT_CLASS($0, $1);\n"
-				"\ttemplate<> $2 UClass* StaticClass<$0>()\n"
-				"\t{\n"
-				"\t\treturn $0::StaticClass();\n"
-				"\t}\n"
-				"\tstatic FCompiledInDefer Z_CompiledInDefer_UClass_$0(Z_Construct_UClass_$0, &$0::StaticClass, TEXT(\"$3\"), TEXT(\"$0\"), "
-				"false, nullptr, nullptr, nullptr);\n"
-				"$4",
+	return Fill(
+		"\tUClass* Z_Construct_UClass_$0()\n"
+		"\t{\n"
+		"\t\tstatic UClass* OuterClass = nullptr;\n"
+		"\t\tif (!OuterClass)\n"
+		"\t\t{\n"
+		"\t\t\tUE4CodeGen_Private::ConstructUClass(OuterClass, Z_Construct_UClass_$0_Statics::ClassParams);\n"
+		"\t\t}\n"
+		"\t\treturn OuterClass;\n"
+		"\t}\n"
+		"\tIMPLEMENT_CLASS($0, $1);\n"
+		"\ttemplate<> $2 UClass* StaticClass<$0>()\n"
+		"\t{\n"
+		"\t\treturn $0::StaticClass();\n"
+		"\t}\n"
+		"\tstatic FCompiledInDefer Z_CompiledInDefer_UClass_$0(Z_Construct_UClass_$0, &$0::StaticClass, TEXT(\"$3\"), TEXT(\"$0\"), "
+		"false, nullptr, nullptr, nullptr);\n"
+		"$4",
 		{Type.CppName, std::to_string(Crc), Type.ModuleApi, Type.Header->Module->GetPackageName(), Helper});
 }
 

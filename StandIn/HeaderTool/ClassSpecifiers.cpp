@@ -1,6 +1,7 @@
 // Copyright The Tintmill authors. All rights reserved.
 #include "ClassSpecifiers.h"
 
+#include "MetaSpecifiers.h"
 #include "TextTools.h"
 
 #include <algorithm>
@@ -37,8 +38,7 @@ const char* const OtherWords[] = {"advancedclassdisplay", "autocollapsecategorie
 	"collapsecategories", "componentwrapperclass", "const", "constructor", "conversionroot", "customconstructor", "customthunktemplates",
 	"defaulttoinstanced", "dependson", "deprecated", "dontautocollapsecategories", "dontcollapsecategories", "earlyaccesspreview",
 	"editoronly", "experimental", "globaluserconfig", "hidden", "hidedropdown", "hidefunctions", "interface", "intrinsic",
-	"needsdeferreddependencyloading", "noexport", "prioritizecategories", "showcategories", "showfunctions",
-	"sparseclassdatatype"};
+	"needsdeferreddependencyloading", "noexport", "prioritizecategories", "showcategories", "showfunctions", "sparseclassdatatype"};
 
 const std::uint32_t HandedDown = ClassTransient | ClassDefaultConfig | ClassConfig | ClassProjectUserConfig | ClassNotPlaceable
 	| ClassPerObjectConfig | ClassEditInlineNew;
@@ -46,9 +46,10 @@ const std::uint32_t HandedDown = ClassTransient | ClassDefaultConfig | ClassConf
 }
 
 FClassSpecifiers::FClassSpecifiers(FReflectedType& InType, const FTypeTable& InTable, FDiagnostics& InDiagnostics)
-	: Type(InType), Table(InTable), Diagnostics(InDiagnostics)
-{
-}
+	: Type(InType)
+	, Table(InTable)
+	, Diagnostics(InDiagnostics)
+{}
 
 void FClassSpecifiers::Error(int Line, const std::string& Text)
 {
@@ -100,8 +101,8 @@ void FClassSpecifiers::ApplyOne(const FSpecifier& Specifier)
 	}
 	else if (!ApplyFlag(Specifier) && !ApplyMetaData(Specifier))
 	{
-		const bool bKnown = std::any_of(
-			std::begin(OtherWords), std::end(OtherWords), [&Specifier](const char* Word) { return Specifier.Is(Word); });
+		const bool bKnown =
+			std::any_of(std::begin(OtherWords), std::end(OtherWords), [&Specifier](const char* Word) { return Specifier.Is(Word); });
 		Error(Specifier.Line,
 			bKnown ? "The class specifier '" + Specifier.Name + "' is not in this header tool"
 				   : "Unknown class specifier '" + Specifier.Name + "'");
@@ -187,47 +188,6 @@ void FClassSpecifiers::JoinHiddenCategories()
 		const std::string* Own = Type.MetaData.Find("HideCategories");
 		Type.MetaData.Set("HideCategories", Own != nullptr ? *Own + " " + *Inherited : *Inherited);
 	}
-}
-
-void ApplyMeta(const FSpecifierSet& Specifiers, FMetaData& MetaData, const std::string& File, FDiagnostics& Diagnostics)
-{
-	std::map<std::string, std::string, FMetaDataKeyLess> Seen;
-	for (const FSpecifier& Pair : Specifiers.Meta)
-	{
-		const std::string Value = Pair.GetJoinedValues();
-		const auto [Place, bNew] = Seen.emplace(Pair.Name, Value);
-		if (!bNew && Place->second != Value)
-		{
-			Diagnostics.Error(
-				File, Pair.Line, "Metadata key '" + Pair.Name + "' first seen with value '" + Place->second + "' then '" + Value + "'");
-		}
-		MetaData.Set(Pair.Name, Value);
-	}
-}
-
-void ApplyMetaOnlySpecifiers(FReflectedType& Type, const std::string& What, FDiagnostics& Diagnostics)
-{
-	const std::string File = Type.Header->Path.generic_string();
-	for (const FSpecifier& Specifier : Type.Specifiers.Specifiers)
-	{
-		if (Specifier.Is("blueprinttype"))
-		{
-			Type.MetaData.Set("BlueprintType", "true");
-		}
-		else if (Specifier.Is("displayname") && Specifier.bHasValue)
-		{
-			Type.MetaData.Set("DisplayName", Specifier.GetJoinedValues());
-		}
-		else
-		{
-			const bool bKnown = Specifier.Is("atomic") || Specifier.Is("immutable") || Specifier.Is("noexport")
-				|| Specifier.Is("blueprintinternaluseonly") || Specifier.Is("flags");
-			Diagnostics.Error(File, Specifier.Line,
-				bKnown ? "The " + What + " specifier '" + Specifier.Name + "' is not in this header tool"
-					   : "Unknown " + What + " specifier '" + Specifier.Name + "'");
-		}
-	}
-	ApplyMeta(Type.Specifiers, Type.MetaData, File, Diagnostics);
 }
 
 }

@@ -2,8 +2,10 @@
 #pragma once
 
 #include <ostream>
+#include <set>
 #include <stdexcept>
 #include <string>
+#include <tuple>
 #include <vector>
 
 namespace HeaderTool
@@ -49,6 +51,7 @@ public:
 
 private:
 	std::vector<FDiagnostic> Errors;
+	std::set<std::tuple<std::string, int, std::string>> Known;
 };
 
 }

@@ -6,7 +6,10 @@
 namespace HeaderTool
 {
 
-FEnumParser::FEnumParser(FReflectedType& InType, FTokenStream& InTokens) : Type(InType), Tokens(InTokens) {}
+FEnumParser::FEnumParser(FReflectedType& InType, FTokenStream& InTokens)
+	: Type(InType)
+	, Tokens(InTokens)
+{}
 
 void FEnumParser::Parse()
 {

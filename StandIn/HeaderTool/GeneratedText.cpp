@@ -17,8 +17,7 @@ std::string GetFileOpening()
 
 std::string GetSourceOpening(const std::string& Include)
 {
-	return GetFileOpening() + "\n#include \"UObject/GeneratedCppIncludes.h\"\n"
-		+ (Include.empty() ? "" : "#include \"" + Include + "\"\n")
+	return GetFileOpening() + "\n#include \"UObject/GeneratedCppIncludes.h\"\n" + (Include.empty() ? "" : "#include \"" + Include + "\"\n")
 		+ "#ifdef _MSC_VER\n"
 		  "#pragma warning (push)\n"
 		  "#pragma warning (disable : 4883)\n"

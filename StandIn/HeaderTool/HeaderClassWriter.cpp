@@ -33,9 +33,8 @@ std::string GetConstructorCall(const FReflectedType& Type, bool bInitializer)
 
 std::string GetHelperConstructors(const FReflectedType& Type)
 {
-	const std::string Declaration = Type.bDeclaresHelperConstructor
-		? ""
-		: Fill("\tDECLARE_VTABLE_PTR_HELPER_CTOR($0, $1); \\\n", {GetMemberApi(Type), Type.CppName});
+	const std::string Declaration =
+		Type.bDeclaresHelperConstructor ? "" : Fill("\tDECLARE_VTABLE_PTR_HELPER_CTOR($0, $1); \\\n", {GetMemberApi(Type), Type.CppName});
 	return Declaration + Fill("\tDEFINE_VTABLE_PTR_HELPER_CTOR_CALLER($0); \\\n", {Type.CppName});
 }
 
@@ -92,7 +91,8 @@ void FHeaderWriter::WriteInClass(const FReflectedType& Type, const std::string& 
 				   "public: \\\n"
 				   "\tDECLARE_CLASS($2, $3, COMPILED_IN_FLAGS($4), CASTCLASS_None, TEXT(\"$5\"), $6) \\\n"
 				   "\tDECLARE_SERIALIZER($2)",
-		{GetMacroPrefix(Type), Macro, Type.CppName, Type.BaseName, GetStaticFlags(Type), Header.Module->GetPackageName(), GetMemberApi(Type)});
+		{GetMacroPrefix(Type), Macro, Type.CppName, Type.BaseName, GetStaticFlags(Type), Header.Module->GetPackageName(),
+			GetMemberApi(Type)});
 	if (!Type.WithinName.empty())
 	{
 		Result += Fill(" \\\n\tDECLARE_WITHIN($0)", {Type.WithinName});

@@ -9,9 +9,10 @@ namespace HeaderTool
 {
 
 FHeaderParser::FHeaderParser(FHeader& InHeader, FDiagnostics& InDiagnostics)
-	: Header(InHeader), Diagnostics(InDiagnostics), File(InHeader.Path.generic_string())
-{
-}
+	: Header(InHeader)
+	, Diagnostics(InDiagnostics)
+	, File(InHeader.Path.generic_string())
+{}
 
 void FHeaderParser::Error(int Line, const std::string& Text)
 {
@@ -47,7 +48,8 @@ void FHeaderParser::CheckIncludes(const std::vector<FInclude>& Includes, int Fir
 	{
 		if (bFound)
 		{
-			Error(Include.Line, "#include found after .generated.h file - the .generated.h file should always be the last #include in a header");
+			Error(Include.Line,
+				"#include found after .generated.h file - the .generated.h file should always be the last #include in a header");
 			return;
 		}
 		bFound = Include.Target == Expected && Include.Line < FirstMacroLine;
@@ -129,6 +131,7 @@ void FHeaderParser::ParseMacro(FTokenStream& Tokens, int Depth)
 	// A type that cannot be read to its end is still known by name, so that its users are not complained about.
 	Header.Types.push_back(std::move(Type));
 	FReflectedType& Added = *Header.Types.back();
+	Added.bBroken = true;
 	if (Added.Kind == ETypeKind::Enum)
 	{
 		FEnumParser(Added, Tokens).Parse();
@@ -137,6 +140,7 @@ void FHeaderParser::ParseMacro(FTokenStream& Tokens, int Depth)
 	{
 		FRecordParser(Added, Tokens, File, Diagnostics).Parse();
 	}
+	Added.bBroken = false;
 }
 
 }

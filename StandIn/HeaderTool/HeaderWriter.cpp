@@ -7,7 +7,9 @@
 namespace HeaderTool
 {
 
-FHeaderWriter::FHeaderWriter(const FHeader& InHeader) : Header(InHeader) {}
+FHeaderWriter::FHeaderWriter(const FHeader& InHeader)
+	: Header(InHeader)
+{}
 
 std::string FHeaderWriter::GetMacroPrefix(const FReflectedType& Type) const
 {

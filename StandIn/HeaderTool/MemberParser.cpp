@@ -14,7 +14,9 @@ const int MaximumTypeDepth = 16;
 
 }
 
-FMemberParser::FMemberParser(FTokenStream& InTokens) : Tokens(InTokens) {}
+FMemberParser::FMemberParser(FTokenStream& InTokens)
+	: Tokens(InTokens)
+{}
 
 FProperty FMemberParser::ParseProperty(const FToken& Macro, EAccess Access)
 {

@@ -77,6 +77,8 @@ struct FReflectedType
 	std::string Comment;
 	FSpecifierSet Specifiers;
 	bool bExported = false;
+	/** The type, or one of its bases, could not be read to its end; nothing more is said about what may be missing. */
+	bool bBroken = false;
 
 	/** Classes and structs: the base as written, then as found; the body macro; the members. */
 	std::string BaseName;

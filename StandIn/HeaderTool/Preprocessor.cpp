@@ -25,7 +25,10 @@ bool IsReflectionMacro(const std::string& Name)
 	return std::find(std::begin(Macros), std::end(Macros), Name) != std::end(Macros);
 }
 
-FPreprocessor::FPreprocessor(const std::string& InFile, FDiagnostics& InDiagnostics) : File(InFile), Diagnostics(InDiagnostics) {}
+FPreprocessor::FPreprocessor(const std::string& InFile, FDiagnostics& InDiagnostics)
+	: File(InFile)
+	, Diagnostics(InDiagnostics)
+{}
 
 std::vector<FToken> FPreprocessor::Filter(const std::vector<FToken>& Tokens)
 {
@@ -76,7 +79,7 @@ void FPreprocessor::HandleDirective(const FToken& Token)
 	const std::string Rest = Trim(Text.substr(KeywordEnd));
 	if (Keyword == "if" || Keyword == "ifdef" || Keyword == "ifndef")
 	{
-		Frames.push_back({Classify(Keyword, Rest), Token.Line});
+		Enter(Classify(Keyword, Rest), Token.Line);
 	}
 	else if (Keyword == "else" || Keyword == "elif" || Keyword == "endif")
 	{
@@ -86,12 +89,12 @@ void FPreprocessor::HandleDirective(const FToken& Token)
 		}
 		else if (Keyword == "endif")
 		{
-			Frames.pop_back();
+			Leave();
 		}
 		else
 		{
-			EBlock& Block = Frames.back().Block;
-			Block = Keyword == "else" && Block == EBlock::Zero ? EBlock::Read : EBlock::Skipped;
+			const bool bAfterZero = Leave() == EBlock::Zero && Keyword == "else";
+			Enter(bAfterZero ? EBlock::Read : EBlock::Skipped, Token.Line);
 		}
 	}
 	else if (Keyword == "include" && !IsInside(EBlock::Zero))
@@ -119,15 +122,23 @@ FPreprocessor::EBlock FPreprocessor::Classify(const std::string& Keyword, const 
 	return bRead ? EBlock::Read : EBlock::Skipped;
 }
 
-bool FPreprocessor::IsInside(EBlock Block) const
+void FPreprocessor::Enter(EBlock Block, int Line)
 {
-	return std::any_of(Frames.begin(), Frames.end(), [Block](const FFrame& Frame) { return Frame.Block == Block; });
+	Frames.push_back({Block, Line});
+	++Counts[static_cast<std::size_t>(Block)];
+}
+
+FPreprocessor::EBlock FPreprocessor::Leave()
+{
+	const EBlock Block = Frames.back().Block;
+	--Counts[static_cast<std::size_t>(Block)];
+	Frames.pop_back();
+	return Block;
 }
 
 bool FPreprocessor::IsRefused(const FToken& Token) const
 {
-	return Token.Kind == ETokenKind::Identifier && IsReflectionMacro(Token.Text)
-		&& (IsInside(EBlock::Skipped) || IsInside(EBlock::Read));
+	return Token.Kind == ETokenKind::Identifier && IsReflectionMacro(Token.Text) && (IsInside(EBlock::Skipped) || IsInside(EBlock::Read));
 }
 
 }

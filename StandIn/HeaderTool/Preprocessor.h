@@ -4,6 +4,7 @@
 #include "Diagnostics.h"
 #include "Token.h"
 
+#include <array>
 #include <string>
 #include <vector>
 
@@ -51,12 +52,16 @@ private:
 
 	void HandleDirective(const FToken& Token);
 	static EBlock Classify(const std::string& Keyword, const std::string& Condition);
-	bool IsInside(EBlock Block) const;
+	void Enter(EBlock Block, int Line);
+	EBlock Leave();
+	bool IsInside(EBlock Block) const { return Counts[static_cast<std::size_t>(Block)] > 0; }
 	bool IsRefused(const FToken& Token) const;
 
 	std::string File;
 	FDiagnostics& Diagnostics;
 	std::vector<FFrame> Frames;
+	/** How many of the frames are of each kind. */
+	std::array<int, 4> Counts = {};
 	std::vector<FInclude> Includes;
 };
 

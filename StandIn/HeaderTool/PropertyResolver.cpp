@@ -11,60 +11,9 @@ namespace HeaderTool
 namespace
 {
 
-struct FPlainType
-{
-	const char* Name;
-	EPropertyKind Kind;
-	const char* Params;
-	const char* GenFlag;
-};
-
-const FPlainType PlainTypes[] = {
-	{"bool", EPropertyKind::Bool, "FBoolPropertyParams", "Bool"},
-	{"int8", EPropertyKind::Plain, "FInt8PropertyParams", "Int8"},
-	{"int16", EPropertyKind::Plain, "FInt16PropertyParams", "Int16"},
-	{"int32", EPropertyKind::Plain, "FIntPropertyParams", "Int"},
-	{"int64", EPropertyKind::Plain, "FInt64PropertyParams", "Int64"},
-	{"uint8", EPropertyKind::Byte, "FBytePropertyParams", "Byte"},
-	{"uint16", EPropertyKind::Plain, "FFInt16PropertyParams", "UInt16"},
-	{"uint32", EPropertyKind::Plain, "FUInt32PropertyParams", "UInt32"},
-	{"uint64", EPropertyKind::Plain, "FFInt64PropertyParams", "UInt64"},
-	{"float", EPropertyKind::Plain, "FFloatPropertyParams", "Float"},
-	{"double", EPropertyKind::Plain, "FDoublePropertyParams", "Double"},
-	{"FName", EPropertyKind::Plain, "FNamePropertyParams", "Name"},
-	{"FString", EPropertyKind::Plain, "FStrPropertyParams", "Str"},
-	{"FText", EPropertyKind::Plain, "FTextPropertyParams", "Text"},
-};
-
 /** Property types of the engine that the runtime stand-in does not have. */
-const char* const OtherTypes[] = {"TMap", "TSet", "TSoftObjectPtr", "TSoftClassPtr", "TLazyObjectPtr", "TScriptInterface", "TObjectPtr",
-	"TFieldPath", "FScriptDelegate", "FMulticastScriptDelegate"};
-
-const FPlainType* FindPlainType(const std::string& Name)
-{
-	const auto Found = std::find_if(std::begin(PlainTypes), std::end(PlainTypes), [&Name](const FPlainType& Type) { return Type.Name == Name; });
-	return Found == std::end(PlainTypes) ? nullptr : Found;
-}
-
-FPropertyType MakeType(EPropertyKind Kind, const std::string& Word, const FReflectedType* Reference)
-{
-	FPropertyType Type;
-	Type.Kind = Kind;
-	Type.Params = "F" + Word + "PropertyParams";
-	Type.GenFlag = Word;
-	Type.Reference = Reference;
-	return Type;
-}
-
-FPropertyType MakePlainType(const FPlainType& Plain)
-{
-	FPropertyType Type;
-	Type.Kind = Plain.Kind;
-	Type.Params = Plain.Params;
-	Type.GenFlag = Plain.GenFlag;
-	Type.CppName = Plain.Name;
-	return Type;
-}
+const char* const OtherTypes[] = {"TMap", "TSet", "TSoftObjectPtr", "TSoftClassPtr", "TLazyObjectPtr", "TScriptInterface", "TFieldPath",
+	"FScriptDelegate", "FMulticastScriptDelegate"};
 
 [[noreturn]] void ThrowUnrecognized(const FTypeExpression& Expression)
 {
@@ -82,7 +31,10 @@ void RequireNoPointer(const FTypeExpression& Expression)
 
 }
 
-FPropertyResolver::FPropertyResolver(const FReflectedType& InOwner, const FTypeTable& InTable) : Owner(InOwner), Table(InTable) {}
+FPropertyResolver::FPropertyResolver(const FReflectedType& InOwner, const FTypeTable& InTable)
+	: Owner(InOwner)
+	, Table(InTable)
+{}
 
 void FPropertyResolver::Resolve(FProperty& Property) const
 {
@@ -169,8 +121,8 @@ FPropertyType FPropertyResolver::ResolveWrapper(const FTypeExpression& Expressio
 		return MakeType(EPropertyKind::Byte, "Byte", Enum);
 	}
 	const bool bClass = Expression.Name == "TSubclassOf";
-	FPropertyType Type
-		= MakeType(bClass ? EPropertyKind::Class : EPropertyKind::WeakObject, bClass ? "Class" : "WeakObject", &RequireClass(Argument));
+	FPropertyType Type =
+		MakeType(bClass ? EPropertyKind::Class : EPropertyKind::WeakObject, bClass ? "Class" : "WeakObject", &RequireClass(Argument));
 	Type.bWrapped = true;
 	return Type;
 }
@@ -212,7 +164,8 @@ FPropertyType FPropertyResolver::ResolveReference(const FTypeExpression& Express
 		return MakeType(EPropertyKind::Struct, "Struct", Found);
 	}
 	const FPlainType* Underlying = FindPlainType(Found->UnderlyingType);
-	const bool bNumber = Underlying != nullptr && (Underlying->Kind == EPropertyKind::Byte || Underlying->Name[0] == 'i' || Underlying->Name[0] == 'u');
+	const bool bNumber =
+		Underlying != nullptr && (Underlying->Kind == EPropertyKind::Byte || Underlying->Name[0] == 'i' || Underlying->Name[0] == 'u');
 	if (!Found->bEnumClass || !bNumber)
 	{
 		throw FSyntaxError(Expression.Line,

@@ -1,6 +1,6 @@
 // Copyright The Tintmill authors. All rights reserved.
-#include "ClassSpecifiers.h"
 #include "Diagnostics.h"
+#include "MetaSpecifiers.h"
 #include "PropertyResolver.h"
 
 #include <algorithm>
@@ -40,9 +40,9 @@ const FPropertyWord PropertyWords[] = {
 };
 
 /** Words that the engine knows and this tool has no use for. */
-const char* const OtherPropertyWords[] = {"assetregistrysearchable", "blueprintassignable", "blueprintauthorityonly",
-	"blueprintcallable", "blueprintgetter", "blueprintsetter", "editinline", "export", "fieldnotify", "instanced", "interp", "localized",
-	"native", "nonpieduplicatetransient", "nonpietransient", "notreplicated", "ref", "replicated", "replicatedusing", "repretry",
+const char* const OtherPropertyWords[] = {"assetregistrysearchable", "blueprintassignable", "blueprintauthorityonly", "blueprintcallable",
+	"blueprintgetter", "blueprintsetter", "editinline", "export", "fieldnotify", "instanced", "interp", "localized", "native",
+	"nonpieduplicatetransient", "nonpietransient", "notreplicated", "ref", "replicated", "replicatedusing", "repretry",
 	"skipserialization"};
 
 }

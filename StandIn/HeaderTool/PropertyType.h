@@ -54,4 +54,22 @@ struct FPropertyType
 	bool bWrapped = false;
 };
 
+/** A type that is known by its name alone. */
+struct FPlainType
+{
+	const char* Name;
+	EPropertyKind Kind;
+	const char* Params;
+	const char* GenFlag;
+};
+
+/** The known type of that name or null. */
+const FPlainType* FindPlainType(const std::string& Name);
+
+/** A property of a known type. */
+FPropertyType MakePlainType(const FPlainType& Plain);
+
+/** A property whose params are "F<Word>PropertyParams" and whose flag is the word. */
+FPropertyType MakeType(EPropertyKind Kind, const std::string& Word, const FReflectedType* Reference);
+
 }

@@ -39,7 +39,10 @@ std::string WriteUnderlying(const std::string& Variable, const FPropertyType& Ty
 
 }
 
-FPropertyWriter::FPropertyWriter(const FReflectedType& InOwner) : Owner(InOwner), Statics(InOwner.GetConstructFunction() + "_Statics") {}
+FPropertyWriter::FPropertyWriter(const FReflectedType& InOwner)
+	: Owner(InOwner)
+	, Statics(InOwner.GetConstructFunction() + "_Statics")
+{}
 
 std::string FPropertyWriter::GetPointersArgument() const
 {
@@ -67,7 +70,8 @@ std::string FPropertyWriter::WriteDeclaration(const FProperty& Property) const
 	const std::string Suffix = GetInnerSuffix(Property);
 	if (HasElementNumber(Property))
 	{
-		Result += Fill("\t\tstatic const UE4CodeGen_Private::$0 NewProp_$1_Inner_Underlying;\n", {Property.Type.Inner->Inner->Params, Property.Name});
+		Result += Fill(
+			"\t\tstatic const UE4CodeGen_Private::$0 NewProp_$1_Inner_Underlying;\n", {Property.Type.Inner->Inner->Params, Property.Name});
 	}
 	if (Property.Type.Inner != nullptr)
 	{
@@ -108,8 +112,8 @@ std::string FPropertyWriter::WriteDefinition(const FProperty& Property) const
 {
 	const std::string Array = Fill("$0::NewProp_$1_MetaData", {Statics, Property.Name});
 	std::string Result = WriteInner(Property);
-	Result += WithMetaData(Fill(
-		"\tconst UE4CodeGen_Private::FMetaDataPairParam $0[] = {\n$1\t};\n", {Array, GetMetaDataLines(Property.MetaData, 2)}));
+	Result += WithMetaData(
+		Fill("\tconst UE4CodeGen_Private::FMetaDataPairParam $0[] = {\n$1\t};\n", {Array, GetMetaDataLines(Property.MetaData, 2)}));
 	if (Property.Type.Kind == EPropertyKind::Bool)
 	{
 		Result += Fill("\tvoid $0::NewProp_$1_SetBit(void* Obj)\n"
@@ -138,9 +142,10 @@ std::string FPropertyWriter::WriteInner(const FProperty& Property) const
 	if (Inner.Kind == EPropertyKind::Bool)
 	{
 		return Result
-			+ Fill("\tconst UE4CodeGen_Private::FBoolPropertyParams $0_Inner = { \"$1\", nullptr, (EPropertyFlags)$2, "
-				   "UE4CodeGen_Private::EPropertyGenFlags::Bool | UE4CodeGen_Private::EPropertyGenFlags::NativeBool, $3, 1, sizeof(bool), 0, "
-				   "nullptr, METADATA_PARAMS(nullptr, 0) };\n",
+			+ Fill(
+				"\tconst UE4CodeGen_Private::FBoolPropertyParams $0_Inner = { \"$1\", nullptr, (EPropertyFlags)$2, "
+				"UE4CodeGen_Private::EPropertyGenFlags::Bool | UE4CodeGen_Private::EPropertyGenFlags::NativeBool, $3, 1, sizeof(bool), 0, "
+				"nullptr, METADATA_PARAMS(nullptr, 0) };\n",
 				{Variable, Property.Name, Flags, ObjectFlags});
 	}
 	return Result

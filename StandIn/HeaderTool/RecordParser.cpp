@@ -8,7 +8,11 @@ namespace HeaderTool
 {
 
 FRecordParser::FRecordParser(FReflectedType& InType, FTokenStream& InTokens, const std::string& InFile, FDiagnostics& InDiagnostics)
-	: Type(InType), Tokens(InTokens), File(InFile), Diagnostics(InDiagnostics), Context(InType.GetKindName() + std::string(" declaration"))
+	: Type(InType)
+	, Tokens(InTokens)
+	, File(InFile)
+	, Diagnostics(InDiagnostics)
+	, Context(InType.GetKindName() + std::string(" declaration"))
 {
 	Access = Type.Kind == ETypeKind::Class ? EAccess::Private : EAccess::Public;
 }
@@ -46,12 +50,13 @@ void FRecordParser::ParseHead()
 	Type.CppName = Tokens.RequireName(std::string(Type.GetKindName()) + " name").Text;
 	if (Tokens.Peek().Kind == ETokenKind::Identifier && !Tokens.Peek().IsIdentifier("final"))
 	{
-		if (Type.CppName != Type.ModuleApi)
-		{
-			throw FSyntaxError(Type.Line, "'" + Type.CppName + "' is not the export macro of this module, expecting '" + Type.ModuleApi + "'");
-		}
-		Type.bExported = true;
+		const std::string Macro = Type.CppName;
 		Type.CppName = Tokens.Next().Text;
+		Type.bExported = true;
+		if (Macro != Type.ModuleApi)
+		{
+			throw FSyntaxError(Type.Line, "'" + Macro + "' is not the export macro of this module, expecting '" + Type.ModuleApi + "'");
+		}
 	}
 	Tokens.MatchIdentifier("final");
 }
@@ -196,8 +201,8 @@ void FRecordParser::ParseMember()
 	}
 	else if (Token.Text == "UFUNCTION")
 	{
-		throw FSyntaxError(Token.Line,
-			Type.Kind == ETypeKind::Struct ? "USTRUCTs cannot contain UFUNCTIONs." : "'UFUNCTION' is not in this header tool");
+		throw FSyntaxError(
+			Token.Line, Type.Kind == ETypeKind::Struct ? "USTRUCTs cannot contain UFUNCTIONs." : "'UFUNCTION' is not in this header tool");
 	}
 	else
 	{

@@ -14,29 +14,30 @@ namespace
 std::string WriteRegistration(const FReflectedType& Type, const std::string& Construct)
 {
 	const FModule& Module = *Type.Header->Module;
-	return Fill("class UScriptStruct* $0::StaticStruct()\n"
-				"{\n"
-				"\tstatic class UScriptStruct* Singleton = nullptr;\n"
-				"\tif (!Singleton)\n"
-				"\t{\n"
-				"\t\textern $1 uint32 Get_$2_Hash();\n"
-				"\t\tSingleton = GetStaticStruct($2, $3(), TEXT(\"$4\"), sizeof($0), Get_$2_Hash());\n"
-				"\t}\n"
-				"\treturn Singleton;\n"
-				"}\n"
-				"template<> $1 UScriptStruct* StaticStruct<$0>()\n"
-				"{\n"
-				"\treturn $0::StaticStruct();\n"
-				"}\n"
-				"static FCompiledInDeferStruct Z_CompiledInDeferStruct_UScriptStruct_$0($0::StaticStruct, TEXT(\"$5\"), TEXT(\"$4\"), false, "
-				"nullptr, nullptr);\n"
-				"static struct FScriptStruct_$6_StaticRegisterNatives$0\n"
-				"{\n"
-				"\tFScriptStruct_$6_StaticRegisterNatives$0()\n"
-				"\t{\n"
-				"\t\tUScriptStruct::DeferCppStructOps<$0>(FName(TEXT(\"$4\")));\n"
-				"\t}\n"
-				"} ScriptStruct_$6_StaticRegisterNatives$0;\n",
+	return Fill(
+		"class UScriptStruct* $0::StaticStruct()\n"
+		"{\n"
+		"\tstatic class UScriptStruct* Singleton = nullptr;\n"
+		"\tif (!Singleton)\n"
+		"\t{\n"
+		"\t\textern $1 uint32 Get_$2_Hash();\n"
+		"\t\tSingleton = GetStaticStruct($2, $3(), TEXT(\"$4\"), sizeof($0), Get_$2_Hash());\n"
+		"\t}\n"
+		"\treturn Singleton;\n"
+		"}\n"
+		"template<> $1 UScriptStruct* StaticStruct<$0>()\n"
+		"{\n"
+		"\treturn $0::StaticStruct();\n"
+		"}\n"
+		"static FCompiledInDeferStruct Z_CompiledInDeferStruct_UScriptStruct_$0($0::StaticStruct, TEXT(\"$5\"), TEXT(\"$4\"), false, "
+		"nullptr, nullptr);\n"
+		"static struct FScriptStruct_$6_StaticRegisterNatives$0\n"
+		"{\n"
+		"\tFScriptStruct_$6_StaticRegisterNatives$0()\n"
+		"\t{\n"
+		"\t\tUScriptStruct::DeferCppStructOps<$0>(FName(TEXT(\"$4\")));\n"
+		"\t}\n"
+		"} ScriptStruct_$6_StaticRegisterNatives$0;\n",
 		{Type.CppName, Type.ModuleApi, Construct, GetPackageFunction(Module), Type.GetEngineName(), Module.GetPackageName(), Module.Name});
 }
 

@@ -8,7 +8,9 @@
 namespace HeaderTool
 {
 
-FTokenStream::FTokenStream(std::vector<FToken> InTokens) : Tokens(std::move(InTokens)) {}
+FTokenStream::FTokenStream(std::vector<FToken> InTokens)
+	: Tokens(std::move(InTokens))
+{}
 
 const FToken& FTokenStream::Peek(std::size_t Ahead) const
 {

@@ -10,15 +10,7 @@ namespace HeaderTool
 namespace
 {
 
-bool IsWordStart(char Letter)
-{
-	return std::isalpha(static_cast<unsigned char>(Letter)) != 0 || Letter == '_' || static_cast<unsigned char>(Letter) >= 0x80;
-}
-
-bool IsWordPart(char Letter)
-{
-	return IsWordStart(Letter) || std::isdigit(static_cast<unsigned char>(Letter)) != 0;
-}
+const char* const OpenComment = "End of class header encountered inside comment";
 
 bool IsBlank(char Letter)
 {
@@ -27,7 +19,8 @@ bool IsBlank(char Letter)
 
 }
 
-FTokenizer::FTokenizer(const std::string& InText) : Text(InText)
+FTokenizer::FTokenizer(const std::string& InText)
+	: Text(InText)
 {
 	if (Text.compare(0, 3, "\xEF\xBB\xBF") == 0)
 	{
@@ -41,12 +34,11 @@ std::vector<FToken> FTokenizer::Tokenize()
 	std::vector<FToken> Tokens;
 	while (true)
 	{
-		std::string Problem;
+		int OpenLine = 0;
 		Comment.clear();
-		const int StartLine = Line;
-		if (!SkipSpaceAndComments(Problem))
+		if (!SkipSpaceAndComments(OpenLine))
 		{
-			Tokens.push_back(Make(ETokenKind::Bad, Problem, StartLine));
+			Tokens.push_back(Make(ETokenKind::Bad, OpenComment, OpenLine));
 		}
 		const std::string TokenComment = Comment;
 		if (AtEnd())
@@ -70,7 +62,8 @@ void FTokenizer::Advance()
 	++At;
 }
 
-bool FTokenizer::SkipSpaceAndComments(std::string& OutProblem)
+/** Returns false, and the line, for a comment that never ends. */
+bool FTokenizer::SkipSpaceAndComments(int& OutOpenLine)
 {
 	bool bBlankLine = false;
 	while (!AtEnd())
@@ -90,9 +83,9 @@ bool FTokenizer::SkipSpaceAndComments(std::string& OutProblem)
 		{
 			Comment.clear();
 			bBlankLine = false;
+			OutOpenLine = Line;
 			if (!ReadBlockComment())
 			{
-				OutProblem = "End of class header encountered inside comment";
 				return false;
 			}
 		}
@@ -220,7 +213,7 @@ FToken FTokenizer::ReadDirective()
 		{
 			if (!ReadBlockComment())
 			{
-				return Make(ETokenKind::Bad, "End of class header encountered inside comment", StartLine);
+				return Make(ETokenKind::Bad, OpenComment, StartLine);
 			}
 			Result += ' ';
 		}
@@ -235,84 +228,6 @@ FToken FTokenizer::ReadDirective()
 		}
 	}
 	return Make(ETokenKind::Directive, Result, StartLine);
-}
-
-FToken FTokenizer::ReadString()
-{
-	std::string Result;
-	++At;
-	while (!AtEnd() && Peek() != '"' && Peek() != '\n')
-	{
-		if (Peek() == '\\' && At + 1 < Text.size() && Peek(1) != '\n')
-		{
-			++At;
-			Result += Peek() == 'n' ? '\n' : Peek() == 't' ? '\t' : Peek();
-		}
-		else
-		{
-			Result += Peek();
-		}
-		++At;
-	}
-	if (Peek() != '"')
-	{
-		return Make(ETokenKind::Bad, "Unterminated quoted string", Line);
-	}
-	++At;
-	return Make(ETokenKind::String, Result, Line);
-}
-
-FToken FTokenizer::ReadRawString()
-{
-	const int StartLine = Line;
-	++At;
-	const std::size_t Open = Text.find('(', At);
-	if (Open == std::string::npos || Open - At > 16)
-	{
-		return Make(ETokenKind::Bad, "Unterminated quoted string", StartLine);
-	}
-	const std::string Closing = ")" + Text.substr(At, Open - At) + "\"";
-	const std::size_t Close = Text.find(Closing, Open);
-	if (Close == std::string::npos)
-	{
-		At = Text.size();
-		return Make(ETokenKind::Bad, "Unterminated quoted string", StartLine);
-	}
-	const std::string Content = Text.substr(Open + 1, Close - Open - 1);
-	Line += static_cast<int>(std::count(Content.begin(), Content.end(), '\n'));
-	At = Close + Closing.size();
-	return Make(ETokenKind::String, Content, StartLine);
-}
-
-FToken FTokenizer::ReadCharacter()
-{
-	const std::size_t Start = At;
-	++At;
-	while (!AtEnd() && Peek() != '\'' && Peek() != '\n')
-	{
-		At += Peek() == '\\' && Peek(1) != '\n' && At + 1 < Text.size() ? 2 : 1;
-	}
-	if (Peek() != '\'')
-	{
-		return Make(ETokenKind::Bad, "Unterminated character constant", Line);
-	}
-	++At;
-	return Make(ETokenKind::Character, Text.substr(Start, At - Start), Line);
-}
-
-FToken FTokenizer::ReadNumber()
-{
-	const std::size_t Start = At;
-	while (IsWordPart(Peek()) || Peek() == '.' || (Peek() == '\'' && IsWordPart(Peek(1))))
-	{
-		const bool bExponent = Peek() == 'e' || Peek() == 'E' || Peek() == 'p' || Peek() == 'P';
-		++At;
-		if (bExponent && (Peek() == '+' || Peek() == '-') && std::isdigit(static_cast<unsigned char>(Peek(1))) != 0)
-		{
-			++At;
-		}
-	}
-	return Make(ETokenKind::Number, Text.substr(Start, At - Start), Line);
 }
 
 }

@@ -23,7 +23,7 @@ private:
 	char Peek(std::size_t Ahead = 0) const { return At + Ahead < Text.size() ? Text[At + Ahead] : '\0'; }
 	bool AtEnd() const { return At >= Text.size(); }
 	void Advance();
-	bool SkipSpaceAndComments(std::string& OutProblem);
+	bool SkipSpaceAndComments(int& OutOpenLine);
 	bool ReadBlockComment();
 	void ReadLineComment();
 	FToken ReadToken();
@@ -32,6 +32,8 @@ private:
 	FToken ReadRawString();
 	FToken ReadCharacter();
 	FToken ReadNumber();
+	static bool IsWordStart(char Letter);
+	static bool IsWordPart(char Letter);
 	FToken Make(ETokenKind Kind, const std::string& TokenText, int TokenLine) const;
 
 	std::string Text;

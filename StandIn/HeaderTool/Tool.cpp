@@ -23,7 +23,9 @@ std::string GetRootName(const FModule& Module)
 
 }
 
-FTool::FTool(const FManifest& InManifest) : Manifest(InManifest) {}
+FTool::FTool(const FManifest& InManifest)
+	: Manifest(InManifest)
+{}
 
 void FTool::Read()
 {

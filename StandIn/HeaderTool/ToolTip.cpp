@@ -13,16 +13,20 @@ namespace
 
 bool HasWords(const std::string& Text)
 {
-	return std::any_of(Text.begin(), Text.end(), [](char Letter)
-		{ return std::isalnum(static_cast<unsigned char>(Letter)) != 0 || static_cast<unsigned char>(Letter) >= 0x80; });
+	return std::any_of(Text.begin(), Text.end(),
+		[](char Letter) { return std::isalnum(static_cast<unsigned char>(Letter)) != 0 || static_cast<unsigned char>(Letter) >= 0x80; });
 }
 
 void RemoveAll(std::string& Text, const std::string& What)
 {
-	for (std::size_t At = Text.find(What); At != std::string::npos; At = Text.find(What, At))
+	std::string Result;
+	std::size_t Start = 0;
+	for (std::size_t At = Text.find(What); At != std::string::npos; At = Text.find(What, Start))
 	{
-		Text.erase(At, What.size());
+		Result.append(Text, Start, At - Start);
+		Start = At + What.size();
 	}
+	Text = Result.append(Text, Start, std::string::npos);
 }
 
 /** Tabs reach to the next multiple of eight columns. */
@@ -77,10 +81,7 @@ std::string CommentToToolTip(const std::string& RawComment)
 	std::string Text = RawComment;
 	const bool bDocBlock = Text.find("/**") != std::string::npos;
 	// Of the doc marker one star stays, so that its line is treated like the star lines below it.
-	for (std::size_t At = Text.find("/*"); At != std::string::npos; At = Text.find("/*", At))
-	{
-		Text.erase(At, 2);
-	}
+	RemoveAll(Text, "/*");
 	RemoveAll(Text, "*/");
 	if (RawComment.compare(0, 2, "//") == 0)
 	{
@@ -102,10 +103,7 @@ std::string CommentToToolTip(const std::string& RawComment)
 	{
 		Lines.pop_back();
 	}
-	while (!Lines.empty() && IsEmptyOrRuler(Lines.front()))
-	{
-		Lines.erase(Lines.begin());
-	}
+	Lines.erase(Lines.begin(), std::find_if_not(Lines.begin(), Lines.end(), IsEmptyOrRuler));
 
 	std::size_t Indent = std::string::npos;
 	for (const std::string& Line : Lines)

@@ -2,6 +2,7 @@
 #include "TypeResolver.h"
 
 #include "ClassSpecifiers.h"
+#include "MetaSpecifiers.h"
 #include "PropertyResolver.h"
 #include "TextTools.h"
 
@@ -16,7 +17,10 @@ const std::uint32_t StructRequiredApi = 0x200;
 
 }
 
-FTypeResolver::FTypeResolver(const FTypeTable& InTable, FDiagnostics& InDiagnostics) : Table(InTable), Diagnostics(InDiagnostics) {}
+FTypeResolver::FTypeResolver(const FTypeTable& InTable, FDiagnostics& InDiagnostics)
+	: Table(InTable)
+	, Diagnostics(InDiagnostics)
+{}
 
 void FTypeResolver::Error(const FReflectedType& Type, int Line, const std::string& Text)
 {
@@ -25,7 +29,7 @@ void FTypeResolver::Error(const FReflectedType& Type, int Line, const std::strin
 
 void FTypeResolver::Resolve(FReflectedType& Type)
 {
-	if (Type.Header == nullptr || Type.CppName.empty() || !Done.insert(&Type).second)
+	if (Type.Header == nullptr || Type.CppName.empty() || Type.bBroken || !Done.insert(&Type).second)
 	{
 		return;
 	}
@@ -38,6 +42,7 @@ void FTypeResolver::Resolve(FReflectedType& Type)
 	if (!ResolveBase(Type))
 	{
 		Type.Base = nullptr;
+		Type.bBroken = true;
 	}
 	Running.erase(&Type);
 	if (Type.Kind == ETypeKind::Class)
@@ -66,8 +71,8 @@ bool FTypeResolver::ResolveBase(FReflectedType& Type)
 	if (Type.Base == nullptr || Type.Base->Kind != Type.Kind)
 	{
 		Error(Type, Type.Line,
-			bClass ? "Couldn't find parent type for '" + Type.CppName + "' named '" + Type.BaseName + "' in current module (Package: "
-					+ Type.Header->Module->GetPackageName() + ") or any other module parsed so far."
+			bClass ? "Couldn't find parent type for '" + Type.CppName + "' named '" + Type.BaseName
+					+ "' in current module (Package: " + Type.Header->Module->GetPackageName() + ") or any other module parsed so far."
 				   : "'struct': Can't find '" + Type.BaseName + "'");
 		return false;
 	}
@@ -78,6 +83,7 @@ bool FTypeResolver::ResolveBase(FReflectedType& Type)
 	}
 	// Bases are resolved first: flags, config name and categories are handed down.
 	Resolve(const_cast<FReflectedType&>(*Type.Base));
+	Type.bBroken = Type.Base->bBroken;
 	return true;
 }
 
@@ -138,7 +144,7 @@ void FTypeResolver::ResolveProperties(FReflectedType& Type)
 		}
 		bConfig = bConfig || (Property.Flags & CpfConfig) != 0;
 	}
-	if (bConfig && Type.Kind == ETypeKind::Class && Type.ConfigName.empty())
+	if (bConfig && !Type.bBroken && Type.Kind == ETypeKind::Class && Type.ConfigName.empty())
 	{
 		Error(Type, Type.Line, "Classes with config / globalconfig member variables need to specify config file.");
 	}

@@ -60,22 +60,27 @@ const FReflectedType* FTypeTable::Find(const std::string& CppName) const
 	return Found == ByCppName.end() ? nullptr : Found->second;
 }
 
-bool FTypeTable::CheckPrefix(const FReflectedType& Type, FDiagnostics& Diagnostics) const
+void FTypeTable::CheckPrefix(const FReflectedType& Type, FDiagnostics& Diagnostics) const
 {
 	const std::string& Name = Type.CppName;
 	if (Type.Kind == ETypeKind::Enum)
 	{
-		return true;
+		return;
 	}
 	const bool bClass = Type.Kind == ETypeKind::Class;
-	if (HasPrefix(Name, bClass ? "UA" : "FT"))
+	// Whatever derives from an actor is one.
+	const bool bActor = bClass && (Name == "AActor" || HasPrefix(Type.BaseName, "A"));
+	if (HasPrefix(Name, bActor ? "A" : bClass ? "U" : "FT"))
 	{
-		return true;
+		return;
 	}
 	const std::string Plain = HasPrefix(Name, "UAFTSIE") ? Name.substr(1) : Name;
 	Diagnostics.Error(Type.Header->Path.generic_string(), Type.Line,
-		Capitalize(Describe(Type)) + " has an invalid Unreal prefix, expecting '" + (bClass ? "U" : "F") + Plain + "'");
-	return false;
+		Capitalize(Describe(Type)) + " has an invalid Unreal prefix, expecting '"
+			+ (bActor        ? "A"
+					: bClass ? "U"
+							 : "F")
+			+ Plain + "'");
 }
 
 bool FTypeTable::CheckName(const FReflectedType& Type, FDiagnostics& Diagnostics) const
@@ -106,7 +111,10 @@ void FTypeTable::Add(FReflectedType& Type, FDiagnostics& Diagnostics)
 	{
 		return;
 	}
-	CheckPrefix(Type, Diagnostics);
+	if (!Type.bBroken)
+	{
+		CheckPrefix(Type, Diagnostics);
+	}
 	if (CheckName(Type, Diagnostics))
 	{
 		ByEngineName[ToLower(Type.GetEngineName())] = &Type;

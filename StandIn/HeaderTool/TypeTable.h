@@ -27,7 +27,7 @@ public:
 
 private:
 	void AddIntrinsic(const std::string& CppName, const std::string& BaseName);
-	bool CheckPrefix(const FReflectedType& Type, FDiagnostics& Diagnostics) const;
+	void CheckPrefix(const FReflectedType& Type, FDiagnostics& Diagnostics) const;
 	bool CheckName(const FReflectedType& Type, FDiagnostics& Diagnostics) const;
 
 	std::vector<std::unique_ptr<FReflectedType>> Intrinsics;

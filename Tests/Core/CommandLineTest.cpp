@@ -10,10 +10,9 @@
 
 TEST(CommandLineDeathTest, AskingBeforeItIsSetIsFatal)
 {
-	if (!FCommandLine::IsInitialized())
-	{
-		EXPECT_DEATH(FCommandLine::Get(), "bIsInitialized.*\nAttempting to get the command line but it hasn't been initialized yet");
-	}
+	// In a process of its own, in which nothing has set it.
+	GTEST_FLAG_SET(death_test_style, "threadsafe");
+	EXPECT_DEATH(FCommandLine::Get(), "bIsInitialized.*\nAttempting to get the command line but it hasn't been initialized yet");
 }
 
 TEST(CommandLine, WhatIsAddedStandsBehind)

@@ -13,8 +13,7 @@ class FDoubleRed : public FAddRed
 public:
 	FDoubleRed()
 		: FAddRed(0)
-	{
-	}
+	{}
 	virtual void Apply(FViewportClient*, const FIntPoint&, FColor* Pixels) override { Pixels[0].R = static_cast<uint8>(Pixels[0].R * 2); }
 };
 

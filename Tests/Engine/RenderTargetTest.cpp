@@ -3,8 +3,7 @@
 #include "ViewportDouble.h"
 
 class FRenderTargetTest : public FViewportFixture
-{
-};
+{};
 
 TEST_F(FRenderTargetTest, ReadsTheWholeSurfaceForTheEmptyRectangle)
 {

@@ -5,8 +5,7 @@
 #include "ViewportDouble.h"
 
 class FSceneViewportTest : public FViewportFixture
-{
-};
+{};
 
 TEST_F(FSceneViewportTest, LiesAtAnotherAddressThanItsViewportBase)
 {

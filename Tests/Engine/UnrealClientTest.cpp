@@ -4,8 +4,7 @@
 #include "ViewportDouble.h"
 
 class FViewportTest : public FViewportFixture
-{
-};
+{};
 
 TEST_F(FViewportTest, AsksThePainterForTheSceneOnce)
 {
@@ -131,7 +130,8 @@ TEST_F(FViewportTest, MayHaveNoClient)
 TEST_F(FViewportTest, FiresTheResizeEventWithItself)
 {
 	FViewport* Resized = nullptr;
-	const FDelegateHandle Handle = FViewport::ViewportResizedEvent.AddLambda([&Resized](FViewport* InViewport, uint32) { Resized = InViewport; });
+	const FDelegateHandle Handle =
+		FViewport::ViewportResizedEvent.AddLambda([&Resized](FViewport* InViewport, uint32) { Resized = InViewport; });
 	Viewport->SetFixedViewportSize(8, 8);
 	FViewport::ViewportResizedEvent.Remove(Handle);
 	EXPECT_EQ(Resized, Viewport->GetViewport());

@@ -7,7 +7,6 @@
 #include "StandIn/PicturePass.h"
 #include "StandIn/ScenePainter.h"
 #include "UnrealClient.h"
-#include "Widgets/SViewport.h"
 #include <gtest/gtest.h>
 
 /** A client that counts what it is asked. */

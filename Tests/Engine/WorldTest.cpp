@@ -6,6 +6,7 @@
 #include "StandIn/Registrations.h"
 #include "Support/EventLog.h"
 #include "UObject/Package.h"
+#include "UObject/WeakObjectPtrTemplates.h"
 #include <gtest/gtest.h>
 
 /** Notes the events of worlds with the world's type and state. */

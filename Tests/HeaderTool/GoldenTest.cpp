@@ -27,15 +27,15 @@ void PrintTo(const FGoldenCase& Case, std::ostream* Out)
 }
 
 class FGolden : public ::testing::TestWithParam<FGoldenCase>
-{
-};
+{};
 
 void RunOverGoldenHeaders(FScratch& Scratch)
 {
 	Scratch.AddModule("Base", "EngineRuntime", GoldenFolder / "Base");
 	Scratch.ListHeader("Public/Factory.h");
 	Scratch.AddModule("Sample", "Editor", GoldenFolder / "Sample");
-	for (const char* Header : {"Private/Settings.h", "Private/Factories/SampleFactory.h", "Public/Kinds.h", "Public/Comments.h", "Public/Bodies.h"})
+	for (const char* Header :
+		{"Private/Settings.h", "Private/Factories/SampleFactory.h", "Public/Kinds.h", "Public/Comments.h", "Public/Bodies.h"})
 	{
 		Scratch.ListHeader(Header);
 	}
@@ -65,7 +65,8 @@ TEST_P(FGolden, WritesTheWholeExpectedText)
 INSTANTIATE_TEST_SUITE_P(Outputs, FGolden,
 	::testing::Values(FGoldenCase{"FactoryHeader", "Base", "Factory.generated.h"}, FGoldenCase{"FactorySource", "Base", "Factory.gen.cpp"},
 		FGoldenCase{"BasePackage", "Base", "Base.init.gen.cpp"}, FGoldenCase{"SettingsHeader", "Sample", "Settings.generated.h"},
-		FGoldenCase{"SettingsSource", "Sample", "Settings.gen.cpp"}, FGoldenCase{"SampleFactoryHeader", "Sample", "SampleFactory.generated.h"},
+		FGoldenCase{"SettingsSource", "Sample", "Settings.gen.cpp"},
+		FGoldenCase{"SampleFactoryHeader", "Sample", "SampleFactory.generated.h"},
 		FGoldenCase{"SampleFactorySource", "Sample", "SampleFactory.gen.cpp"}, FGoldenCase{"KindsHeader", "Sample", "Kinds.generated.h"},
 		FGoldenCase{"KindsSource", "Sample", "Kinds.gen.cpp"}, FGoldenCase{"CommentsHeader", "Sample", "Comments.generated.h"},
 		FGoldenCase{"CommentsSource", "Sample", "Comments.gen.cpp"}, FGoldenCase{"BodiesHeader", "Sample", "Bodies.generated.h"},

@@ -83,7 +83,8 @@ TEST(FManifest, RefusesAModuleWithoutItsFolders)
 
 TEST(FManifest, RefusesAModuleThatIsListedTwice)
 {
-	EXPECT_EQ(Load("Module A Editor /x /y\nModule a Editor /x /y\n"), "The manifest 'M' is malformed in line 2: the module 'a' is listed twice.");
+	EXPECT_EQ(
+		Load("Module A Editor /x /y\nModule a Editor /x /y\n"), "The manifest 'M' is malformed in line 2: the module 'a' is listed twice.");
 }
 
 TEST(FManifest, MakesTheRunEndWithTwoWhenItIsMissing)

@@ -31,7 +31,8 @@ std::string GetRefusal(const std::string& Macro)
 
 TEST(FPreprocessor, ReadsTheKnownConditions)
 {
-	EXPECT_EQ(Filter("#if WITH_EDITOR\na\n#endif\n#if WITH_HOT_RELOAD\nb\n#endif\n#if 1\nc\n#endif\n#ifdef WITH_EDITOR\nd\n#endif\n"), "a b c d ");
+	EXPECT_EQ(Filter("#if WITH_EDITOR\na\n#endif\n#if WITH_HOT_RELOAD\nb\n#endif\n#if 1\nc\n#endif\n#ifdef WITH_EDITOR\nd\n#endif\n"),
+		"a b c d ");
 }
 
 TEST(FPreprocessor, MarksWhatIsForTheEditorAlone)
@@ -82,17 +83,20 @@ TEST(FPreprocessor, RefusesAClassInAPreprocessorBlock)
 
 TEST(FPreprocessor, RefusesAStructInAnUnknownPreprocessorBlock)
 {
-	EXPECT_EQ(ComplainAboutThing("#ifndef THING\nUSTRUCT()\nstruct FThing\n{\n\tGENERATED_BODY()\n};\n#endif\n"), Complaint(4, GetRefusal("USTRUCT")));
+	EXPECT_EQ(ComplainAboutThing("#ifndef THING\nUSTRUCT()\nstruct FThing\n{\n\tGENERATED_BODY()\n};\n#endif\n"),
+		Complaint(4, GetRefusal("USTRUCT")));
 }
 
 TEST(FPreprocessor, RefusesAPropertyInAPreprocessorBlock)
 {
-	EXPECT_EQ(ComplainAboutThing("USTRUCT()\nstruct FThing\n{\n\tGENERATED_BODY()\n#if WITH_EDITOR\n\tUPROPERTY()\n\tint32 X;\n#endif\n};\n"),
+	EXPECT_EQ(
+		ComplainAboutThing("USTRUCT()\nstruct FThing\n{\n\tGENERATED_BODY()\n#if WITH_EDITOR\n\tUPROPERTY()\n\tint32 X;\n#endif\n};\n"),
 		Complaint(8, GetRefusal("UPROPERTY")));
 }
 
 TEST(FPreprocessor, RefusesAFunctionInAPreprocessorBlock)
 {
-	EXPECT_EQ(ComplainAboutThing("UCLASS()\nclass UThing : public UObject\n{\n\tGENERATED_BODY()\n#if FOO\n\tUFUNCTION()\n\tvoid X();\n#endif\n};\n"),
+	EXPECT_EQ(ComplainAboutThing(
+				  "UCLASS()\nclass UThing : public UObject\n{\n\tGENERATED_BODY()\n#if FOO\n\tUFUNCTION()\n\tvoid X();\n#endif\n};\n"),
 		Complaint(8, GetRefusal("UFUNCTION")));
 }

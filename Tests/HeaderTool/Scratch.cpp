@@ -2,6 +2,7 @@
 #include "Scratch.h"
 
 #include "OutputFile.h"
+#include "TextTools.h"
 #include "Tool.h"
 
 #include <fstream>
@@ -13,7 +14,8 @@ const char* const ThingOpening = "#pragma once\n#include \"Thing.generated.h\"\n
 FScratch::FScratch()
 {
 	const ::testing::TestInfo& Test = *::testing::UnitTest::GetInstance()->current_test_info();
-	Root = std::filesystem::temp_directory_path() / (std::string("HeaderTool-") + Test.test_suite_name() + "-" + Test.name());
+	Root = std::filesystem::temp_directory_path()
+		/ HeaderTool::ToIdentifier(std::string("HeaderTool_") + Test.test_suite_name() + "_" + Test.name());
 	std::filesystem::remove_all(Root);
 	std::filesystem::create_directories(Root);
 }

@@ -94,6 +94,8 @@ TEST(ParseSpecifiers, ComplainsAboutSomethingThatIsNoName)
 
 TEST(ParseSpecifiers, ReportsAnUnterminatedPropertyAndGoesOnBehindIt)
 {
-	EXPECT_EQ(ComplainAboutThing("USTRUCT()\nstruct FThing\n{\n\tGENERATED_BODY()\n\tUPROPERTY(config\n\tint32 X;\n\tUPROPERTY()\n\tFNope Y;\n};\n"),
-		Complaint(8, "Missing ')' in UPROPERTY declaration") + Complaint(10, "Unrecognized type 'FNope' - type must be a UCLASS, USTRUCT or UENUM"));
+	EXPECT_EQ(ComplainAboutThing(
+				  "USTRUCT()\nstruct FThing\n{\n\tGENERATED_BODY()\n\tUPROPERTY(config\n\tint32 X;\n\tUPROPERTY()\n\tFNope Y;\n};\n"),
+		Complaint(8, "Missing ')' in UPROPERTY declaration")
+			+ Complaint(10, "Unrecognized type 'FNope' - type must be a UCLASS, USTRUCT or UENUM"));
 }

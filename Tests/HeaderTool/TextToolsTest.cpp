@@ -3,7 +3,12 @@
 
 #include <gtest/gtest.h>
 
-using namespace HeaderTool;
+using HeaderTool::Crc32;
+using HeaderTool::Fill;
+using HeaderTool::SplitLines;
+using HeaderTool::ToHex;
+using HeaderTool::ToIdentifier;
+using HeaderTool::ToLiteral;
 
 TEST(Fill, PutsValuesInTheirPlaces)
 {
@@ -37,7 +42,9 @@ TEST(ToLiteral, PartsAHexadecimalEscapeFromADigitBehindIt)
 
 TEST(ToLiteral, PartsTrigraphs)
 {
-	EXPECT_EQ(ToLiteral("??("), "\"?\"\"?(\"");
+	EXPECT_EQ(ToLiteral("?"
+						"?("),
+		"\"?\"\"?(\"");
 }
 
 TEST(ToHex, PadsToTheGivenNumberOfDigits)

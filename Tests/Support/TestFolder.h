@@ -12,7 +12,7 @@
 #include <string>
 #include <vector>
 
-/** A folder of a test's own, empty at first and deleted with all it holds at the end. */
+/** A folder of a test's own, empty at first and deleted with all it holds at the end; its names go through engine functions. */
 class FTestFolder
 {
 public:
@@ -51,11 +51,11 @@ public:
 		std::ofstream(Folder / Leaf, std::ios::binary) << Bytes;
 	}
 
-	/** Reads a file's bytes; "(no file)" when there is none. */
+	/** Reads a file's bytes; empty when there is none. */
 	std::string Read(const std::string& Leaf) const
 	{
 		std::ifstream File(Folder / Leaf, std::ios::binary);
-		return File ? std::string(std::istreambuf_iterator<char>(File), std::istreambuf_iterator<char>()) : "(no file)";
+		return std::string(std::istreambuf_iterator<char>(File), std::istreambuf_iterator<char>());
 	}
 
 	/** Names of what lies in the folder or one below it, sorted. */

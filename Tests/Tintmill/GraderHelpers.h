@@ -41,8 +41,9 @@ inline std::vector<std::uint8_t> ManyColors()
 		{
 			for (int Red = 0; Red < 256; Red += 5)
 			{
-				Pixels.insert(Pixels.end(), {static_cast<std::uint8_t>(Red), static_cast<std::uint8_t>(Green), static_cast<std::uint8_t>(Blue),
-												static_cast<std::uint8_t>(Red ^ Blue)});
+				Pixels.insert(Pixels.end(),
+					{static_cast<std::uint8_t>(Red), static_cast<std::uint8_t>(Green), static_cast<std::uint8_t>(Blue),
+						static_cast<std::uint8_t>(Red ^ Blue)});
 			}
 		}
 	}

@@ -81,7 +81,8 @@ TEST(LookBlend, TreatsEveryPixelOfABigPictureAlike)
 	std::vector<std::uint8_t> Expected = In;
 	for (std::size_t Byte = 0; Byte < In.size(); ++Byte)
 	{
-		Expected[Byte] = Byte % 4 == 3 ? In[Byte] : LookGrading::Blend(In[Byte], static_cast<std::uint8_t>(255 - In[Byte]), LookGrading::WeightOf(0.3f));
+		Expected[Byte] =
+			Byte % 4 == 3 ? In[Byte] : LookGrading::Blend(In[Byte], static_cast<std::uint8_t>(255 - In[Byte]), LookGrading::WeightOf(0.3f));
 	}
 	EXPECT_EQ(Applied(0.3f, In), Expected);
 }

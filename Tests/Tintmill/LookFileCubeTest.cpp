@@ -46,7 +46,8 @@ TEST(LookFileCube, WritesAPlainCopyWithItsDomain)
 
 TEST(LookFileCube, AcceptsCommentsAndBlankLinesBetweenRows)
 {
-	EXPECT_EQ(Accepted("LUT_3D_SIZE 2\n0 0 0\n\n  # half way\n1 0 0\n0 1 0\n1 1 0\n0 0 1\n1 0 1\n0 1 1\n1 1 1\n# end\n").Cube.Values.size(), 24u);
+	EXPECT_EQ(
+		Accepted("LUT_3D_SIZE 2\n0 0 0\n\n  # half way\n1 0 0\n0 1 0\n1 1 0\n0 0 1\n1 0 1\n0 1 1\n1 1 1\n# end\n").Cube.Values.size(), 24u);
 }
 
 TEST(LookFileCube, AcceptsAByteOrderMark)
@@ -148,8 +149,7 @@ TEST(LookFileCube, RefusesARowOfFourNumbers)
 }
 
 class LookFileCubeSize : public testing::TestWithParam<const char*>
-{
-};
+{};
 
 TEST_P(LookFileCubeSize, IsRefused)
 {
@@ -196,8 +196,8 @@ TEST(LookFileCube, RefusesASizeAfterTheTableBegan)
 
 TEST(LookFileCube, RefusesADomainWithoutExtent)
 {
-	EXPECT_EQ(Refused(Sized("DOMAIN_MIN 0 1 0\nDOMAIN_MAX 1 1 1\n")),
-		"Teal.cube(3): DOMAIN_MIN has to be less than DOMAIN_MAX in every channel");
+	EXPECT_EQ(
+		Refused(Sized("DOMAIN_MIN 0 1 0\nDOMAIN_MAX 1 1 1\n")), "Teal.cube(3): DOMAIN_MIN has to be less than DOMAIN_MAX in every channel");
 }
 
 TEST(LookFileCube, RefusesADomainMinimumAboveTheUnsaidMaximum)
@@ -238,8 +238,7 @@ TEST(LookFileCube, RefusesADomainBesideAnInputRange)
 
 TEST(LookFileCube, RefusesADomainBesideTwoTables)
 {
-	EXPECT_EQ(Refused(Sized("LUT_1D_SIZE 2\nDOMAIN_MAX 1 1 1\n")),
-		"Teal.cube(4): a file with two tables gives input ranges, not a domain");
+	EXPECT_EQ(Refused(Sized("LUT_1D_SIZE 2\nDOMAIN_MAX 1 1 1\n")), "Teal.cube(4): a file with two tables gives input ranges, not a domain");
 }
 
 TEST(LookFileCube, RefusesAnOverLongWordInARow)

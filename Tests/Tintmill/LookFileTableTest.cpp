@@ -27,8 +27,8 @@ TEST(LookFileTable, RefusesASpi1DFileWithoutALength)
 
 TEST(LookFileTable, RefusesAHugeSpi1DLength)
 {
-	EXPECT_EQ(Verdict("spi1d", "Version 1\nLength 1000000000\n"),
-		"x.spi1d(2): the table's length \"1000000000\" is not between 2 and 65536");
+	EXPECT_EQ(
+		Verdict("spi1d", "Version 1\nLength 1000000000\n"), "x.spi1d(2): the table's length \"1000000000\" is not between 2 and 65536");
 }
 
 TEST(LookFileTable, AcceptsASpi3DFile)

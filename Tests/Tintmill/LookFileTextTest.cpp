@@ -32,12 +32,17 @@ TEST(LookFileText, TurnsLoneCarriageReturnsIntoNewlines)
 
 TEST(LookFileText, DropsAByteOrderMark)
 {
-	EXPECT_EQ(Normalized("\xef\xbb\xbf" "a"), "a");
+	EXPECT_EQ(Normalized("\xef\xbb\xbf"
+						 "a"),
+		"a");
 }
 
 TEST(LookFileText, RefusesUtf16)
 {
-	EXPECT_EQ(Refused("\xff\xfe" "a").Reason, "the file is UTF-16 text; save it as plain text or UTF-8");
+	EXPECT_EQ(Refused("\xff\xfe"
+					  "a")
+				  .Reason,
+		"the file is UTF-16 text; save it as plain text or UTF-8");
 }
 
 TEST(LookFileText, NamesTheLineOfAZeroByte)
@@ -80,8 +85,7 @@ TEST(LookFileText, CountsTheLastLineWithoutALineEnd)
 {
 	LookFile::FLines Lines("a\nb");
 	while (Lines.Next())
-	{
-	}
+	{}
 	EXPECT_EQ(Lines.Number(), 2);
 }
 

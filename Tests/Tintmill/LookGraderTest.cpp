@@ -12,7 +12,10 @@ namespace LookGraderTest
 class FTestMaker : public LookGrading::ILookGraderMaker
 {
 public:
-	FTestMaker(int InRank, std::shared_ptr<const LookGrading::ILookGrader> InGrader) : ILookGraderMaker(InRank), Grader(InGrader) {}
+	FTestMaker(int InRank, std::shared_ptr<const LookGrading::ILookGrader> InGrader)
+		: ILookGraderMaker(InRank)
+		, Grader(InGrader)
+	{}
 
 	virtual bool CanMake(const LookFile::FCheckedFile& File) const override { return File.Extension == "test"; }
 

@@ -16,7 +16,9 @@ using namespace TintmillTest;
 class TintmillPicturePass : public FLookTestBase
 {
 protected:
-	TintmillPicturePass() : Pass(Manager) {}
+	TintmillPicturePass()
+		: Pass(Manager)
+	{}
 
 	/** Gives the client a look that takes colors to their opposites. */
 	FTintmillDisplayConfiguration& ShowInverted(float Intensity = 1.0f)

@@ -9,6 +9,7 @@
 #include "Templates/SharedPointer.h"
 #include "Templates/UniquePtr.h"
 #include "UObject/WeakObjectPtr.h"
+#include "UObject/WeakObjectPtrTemplates.h"
 
 class FLevelEditorViewportClient;
 class FTintmillModule;

@@ -15,8 +15,8 @@ class FDefaultLookBuilder : public StandIn::ILookBuilder
 public:
 	virtual void Open(const StandIn::FLookBuilderRequest& Request) override
 	{
-		UE_LOG(LogTintmill, Log, TEXT("The look builder was opened for %s on a picture of %d x %d pixels."),
-			*Request.Asset->GetPathName(), Request.ImageDesc.Width, Request.ImageDesc.Height);
+		UE_LOG(LogTintmill, Log, TEXT("The look builder was opened for %s on a picture of %d x %d pixels."), *Request.Asset->GetPathName(),
+			Request.ImageDesc.Width, Request.ImageDesc.Height);
 		Last = MakeUnique<StandIn::FLookBuilderRequest>(Request);
 		Last->ImageDesc.Pixels = Last->Pixels.Num() > 0 ? Last->Pixels.GetData() : nullptr;
 	}

@@ -21,7 +21,8 @@ static bool StartsLikeANumber(std::string_view Word)
 	const bool bSign = Word[0] == '-' || Word[0] == '+';
 	const std::string_view Bare = bSign ? Word.substr(1) : Word;
 	const bool bDigit = !Bare.empty() && ((Bare[0] >= '0' && Bare[0] <= '9') || Bare[0] == '.');
-	return bDigit || LookFile::SameWord(Bare.substr(0, 3), "nan") || LookFile::SameWord(Bare, "inf") || LookFile::SameWord(Bare, "infinity");
+	return bDigit || LookFile::SameWord(Bare.substr(0, 3), "nan") || LookFile::SameWord(Bare, "inf")
+		|| LookFile::SameWord(Bare, "infinity");
 }
 
 static bool CheckRow(const std::vector<std::string_view>& Words, std::string& OutReason)

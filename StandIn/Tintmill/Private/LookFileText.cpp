@@ -39,9 +39,9 @@ static void UnifyLineEnds(std::string& Text)
 
 namespace LookFile
 {
-FLines::FLines(std::string_view InText) : Rest(InText)
-{
-}
+FLines::FLines(std::string_view InText)
+	: Rest(InText)
+{}
 
 bool FLines::Next()
 {

@@ -49,7 +49,8 @@ static bool CheckSizes(std::string_view Tag, std::string& OutReason)
 	for (std::size_t Index = 0; Index < Words.size(); ++Index)
 	{
 		std::int64_t Size = 0;
-		if (!LookFile::ParseInteger(Words[Index], 1, Words.size() == 4 ? LookFile::MaxCubeSize3D : LookFile::MaxCubeSize1D, Size, OutReason))
+		if (!LookFile::ParseInteger(
+				Words[Index], 1, Words.size() == 4 ? LookFile::MaxCubeSize3D : LookFile::MaxCubeSize1D, Size, OutReason))
 		{
 			OutReason = "the table's size " + OutReason;
 			return false;

@@ -49,7 +49,8 @@ static void MakeUnusable(const UTintmillObject* Asset, FTintmillLook& Look, cons
 	}
 }
 
-static void MakeReady(const UTintmillObject* Asset, FTintmillLook& Look, std::shared_ptr<const LookGrading::ILookGrader> Grader, std::uint64_t Hash)
+static void MakeReady(
+	const UTintmillObject* Asset, FTintmillLook& Look, std::shared_ptr<const LookGrading::ILookGrader> Grader, std::uint64_t Hash)
 {
 	Look.State = StandIn::ELookState::Ready;
 	Look.Problem = FString();

@@ -10,7 +10,9 @@ static LookGrading::ILookGraderMaker* FirstMaker = nullptr;
 
 namespace LookGrading
 {
-ILookGraderMaker::ILookGraderMaker(int InRank) : NextMaker(nullptr), Rank(InRank)
+ILookGraderMaker::ILookGraderMaker(int InRank)
+	: NextMaker(nullptr)
+	, Rank(InRank)
 {
 	ILookGraderMaker** Link = &LookGraderPrivate::FirstMaker;
 	while (*Link != nullptr && (*Link)->Rank >= Rank)

@@ -6,6 +6,8 @@
 
 static_assert(std::is_trivially_copyable<FTintmillDisplayConfiguration>::value, "records are copied bit by bit");
 
-FTintmillDisplayConfiguration::FTintmillDisplayConfiguration() : bEnableDisplay(false), Intensity(1.0f), LookAsset(nullptr)
-{
-}
+FTintmillDisplayConfiguration::FTintmillDisplayConfiguration()
+	: bEnableDisplay(false)
+	, Intensity(1.0f)
+	, LookAsset(nullptr)
+{}

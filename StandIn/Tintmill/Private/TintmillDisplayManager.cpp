@@ -2,13 +2,9 @@
 
 #include "TintmillDisplayManager.h"
 
-FTintmillDisplayManager::FTintmillDisplayManager()
-{
-}
+FTintmillDisplayManager::FTintmillDisplayManager() {}
 
-FTintmillDisplayManager::~FTintmillDisplayManager()
-{
-}
+FTintmillDisplayManager::~FTintmillDisplayManager() {}
 
 FTintmillDisplayConfiguration& FTintmillDisplayManager::FindOrAddDisplayConfiguration(FViewportClient* ViewportClient)
 {

@@ -20,10 +20,7 @@ struct FTintmillFileStamp
 	/** The stamp of a file as it is now. */
 	static FTintmillFileStamp Of(const std::filesystem::path& Path);
 
-	bool operator==(const FTintmillFileStamp& Other) const
-	{
-		return bExists == Other.bExists && Size == Other.Size && Time == Other.Time;
-	}
+	bool operator==(const FTintmillFileStamp& Other) const { return bExists == Other.bExists && Size == Other.Size && Time == Other.Time; }
 };
 
 /** The look of one asset, as its file gave it. */

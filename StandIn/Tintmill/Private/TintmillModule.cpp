@@ -12,12 +12,9 @@ IMPLEMENT_MODULE(FTintmillModule, Tintmill)
 FTintmillModule::FTintmillModule()
 	: DisplayManager(MakeUnique<FTintmillDisplayManager>())
 	, PicturePass(MakeUnique<FTintmillPicturePass>(*DisplayManager))
-{
-}
+{}
 
-FTintmillModule::~FTintmillModule()
-{
-}
+FTintmillModule::~FTintmillModule() {}
 
 FTintmillDisplayManager* FTintmillModule::GetDisplayManager()
 {

@@ -11,9 +11,9 @@
 
 static_assert(sizeof(FColor) == 4, "pixels are four bytes: blue, green, red, alpha");
 
-FTintmillPicturePass::FTintmillPicturePass(const FTintmillDisplayManager& InDisplayManager) : DisplayManager(InDisplayManager)
-{
-}
+FTintmillPicturePass::FTintmillPicturePass(const FTintmillDisplayManager& InDisplayManager)
+	: DisplayManager(InDisplayManager)
+{}
 
 FName FTintmillPicturePass::GetName() const
 {
@@ -37,7 +37,8 @@ void FTintmillPicturePass::Apply(FViewportClient* Client, const FIntPoint& Size,
 	{
 		// Whoever switches on a new, empty look would otherwise wait for a change that cannot come.
 		StandIn::AddNotice(StandIn::GetLookNoticeKey(Configuration->LookAsset),
-			Configuration->LookAsset->GetName() + TEXT(" has no look file, so it leaves the picture as it is; choose a look that comes from a file."));
+			Configuration->LookAsset->GetName()
+				+ TEXT(" has no look file, so it leaves the picture as it is; choose a look that comes from a file."));
 	}
 }
 

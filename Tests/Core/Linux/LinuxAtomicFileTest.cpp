@@ -112,6 +112,7 @@ TEST(LinuxAtomicFile, SettingsAreWholeAfterTheProcessIsKilledAtARandomInstantOfA
 	const FString FileName = Folder.Path("Saved.ini");
 	std::mt19937 Random(20210801);
 	int32 NumWhole = 0;
+	int32 NumKilledInASave = 0;
 	for (int32 Round = 0; Round < 200; ++Round)
 	{
 		const pid_t Child = StartSavingChild(FileName, 1 + Round * 1000);
@@ -120,12 +121,15 @@ TEST(LinuxAtomicFile, SettingsAreWholeAfterTheProcessIsKilledAtARandomInstantOfA
 		int Status = 0;
 		waitpid(Child, &Status, 0);
 		ASSERT_TRUE(WIFSIGNALED(Status)) << "the child ended by itself in round " << Round;
+		NumKilledInASave += Folder.List().size() > 1 ? 1 : 0;
 		const std::string Damage = DescribeDamage(FileName);
 		EXPECT_EQ("", Damage) << "in round " << Round;
 		EXPECT_EQ(std::vector<std::string>({"Saved.ini"}), Folder.List()) << "in round " << Round;
 		NumWhole += Damage.empty() ? 1 : 0;
 	}
 	EXPECT_EQ(200, NumWhole);
+	EXPECT_GT(NumKilledInASave, 0) << "no kill fell between making the temporary and the replacement";
+	RecordProperty("KilledInASave", NumKilledInASave);
 	EXPECT_EQ(0, StandIn::GetNotices().Num());
 }
 

@@ -82,9 +82,10 @@ TEST(LookPassMaker, ReadsSpi1D)
 
 TEST(LookPassMaker, ReadsSpi3D)
 {
-	EXPECT_EQ(Graded("spi3d",
-				  "SPILUT 1.0\n3 3\n2 2 2\n0 0 0 0 0 0\n0 0 1 1 0 0\n0 1 0 0 0 1\n0 1 1 1 0 1\n1 0 0 0 1 0\n1 0 1 1 1 0\n1 1 0 0 1 1\n1 1 1 1 1 1\n",
-				  {255, 0, 0, 255}, Rank),
+	EXPECT_EQ(
+		Graded("spi3d",
+			"SPILUT 1.0\n3 3\n2 2 2\n0 0 0 0 0 0\n0 0 1 1 0 0\n0 1 0 0 0 1\n0 1 1 1 0 1\n1 0 0 0 1 0\n1 0 1 1 1 0\n1 1 0 0 1 1\n1 1 1 1 1 1\n",
+			{255, 0, 0, 255}, Rank),
 		(std::vector<int>{0, 255, 0, 255}));
 }
 

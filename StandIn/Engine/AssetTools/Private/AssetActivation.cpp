@@ -6,6 +6,7 @@
 #include "Editor.h"
 #include "Factories/Factory.h"
 #include "Subsystems/AssetEditorSubsystem.h"
+#include "UObject/Package.h"
 
 namespace AssetActivationPrivate
 {

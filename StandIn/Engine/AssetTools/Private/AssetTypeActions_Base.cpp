@@ -4,6 +4,8 @@
 #include "AssetRegistry/ARFilter.h"
 #include "StandIn/FatalHandler.h"
 #include "Toolkits/SimpleAssetEditor.h"
+#include "UObject/Class.h"
+#include "UObject/Object.h"
 #include "Widgets/SWidget.h"
 
 bool FAssetTypeActions_Base::HasActions(const TArray<UObject*>&) const

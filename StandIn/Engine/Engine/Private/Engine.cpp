@@ -15,8 +15,7 @@ FWorldContext::FWorldContext()
 	, OwningGameInstance(nullptr)
 	, PIEInstance(INDEX_NONE)
 	, ThisCurrentWorld(nullptr)
-{
-}
+{}
 
 void FWorldContext::SetCurrentWorld(UWorld* InWorld)
 {
@@ -43,8 +42,7 @@ UEngine::UEngine(const FObjectInitializer& ObjectInitializer)
 	: Super(ObjectInitializer)
 	, GameViewport(nullptr)
 	, NextWorldContextHandle(0)
-{
-}
+{}
 
 void UEngine::Init(IEngineLoop*)
 {

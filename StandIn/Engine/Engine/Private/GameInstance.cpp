@@ -11,14 +11,12 @@
 
 FGameInstancePIEParameters::FGameInstancePIEParameters()
 	: bSimulateInEditor(false)
-{
-}
+{}
 
 UGameInstance::UGameInstance(const FObjectInitializer& ObjectInitializer)
 	: Super(ObjectInitializer)
 	, WorldContext(nullptr)
-{
-}
+{}
 
 FGameInstancePIEResult UGameInstance::InitializeForPlayInEditor(int32 PIEInstanceIndex, const FGameInstancePIEParameters&)
 {
@@ -39,8 +37,7 @@ FGameInstancePIEResult UGameInstance::InitializeForPlayInEditor(int32 PIEInstanc
 	NewContext.OwningGameInstance = this;
 	WorldContext = &NewContext;
 
-	const FString PackageName
-		= FString::Printf(TEXT("/Temp/%s"), *UEngine::MakePIEWorldName(EditorWorld->GetMapName(), PIEInstanceIndex));
+	const FString PackageName = FString::Printf(TEXT("/Temp/%s"), *UEngine::MakePIEWorldName(EditorWorld->GetMapName(), PIEInstanceIndex));
 	UPackage* PlayPackage = CreatePackage(*PackageName);
 	PlayPackage->SetFlags(RF_Transient);
 	UWorld* NewWorld = NewObject<UWorld>(PlayPackage, EditorWorld->GetFName());

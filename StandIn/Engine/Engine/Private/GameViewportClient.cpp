@@ -9,8 +9,7 @@
 
 UScriptViewportClient::UScriptViewportClient(const FObjectInitializer& ObjectInitializer)
 	: Super(ObjectInitializer)
-{
-}
+{}
 
 UGameViewportClient::UGameViewportClient(const FObjectInitializer& ObjectInitializer)
 	: Super(ObjectInitializer)
@@ -18,8 +17,7 @@ UGameViewportClient::UGameViewportClient(const FObjectInitializer& ObjectInitial
 	, ViewportFrame(nullptr)
 	, World(nullptr)
 	, GameInstance(nullptr)
-{
-}
+{}
 
 void UGameViewportClient::Init(FWorldContext& WorldContext, UGameInstance* OwningGameInstance, bool)
 {

@@ -6,15 +6,13 @@
 
 UPlayer::UPlayer(const FObjectInitializer& ObjectInitializer)
 	: Super(ObjectInitializer)
-{
-}
+{}
 
 ULocalPlayer::ULocalPlayer(const FObjectInitializer& ObjectInitializer)
 	: Super(ObjectInitializer)
 	, ViewportClient(nullptr)
 	, ControllerId(0)
-{
-}
+{}
 
 void ULocalPlayer::PlayerAdded(UGameViewportClient* InViewportClient, int32 InControllerID)
 {

@@ -16,11 +16,9 @@ FPreviewScene::FPreviewScene(ConstructionValues CVS)
 	{
 		GEngine->CreateNewWorldContext(PreviewWorld->WorldType).SetCurrentWorld(PreviewWorld);
 	}
-	PreviewWorld->InitWorld(UWorld::InitializationValues()
-			.AllowAudioPlayback(false)
-			.CreatePhysicsScene(false)
-			.ShouldSimulatePhysics(false)
-			.SetTransactional(false));
+	PreviewWorld->InitWorld(
+		UWorld::InitializationValues().AllowAudioPlayback(false).CreatePhysicsScene(false).ShouldSimulatePhysics(false).SetTransactional(
+			false));
 }
 
 FPreviewScene::~FPreviewScene()

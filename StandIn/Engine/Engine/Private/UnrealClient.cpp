@@ -19,8 +19,7 @@ FViewport::FViewport(FViewportClient* InViewportClient)
 	, ScenePainterGeneration(0)
 	, bSceneValid(false)
 	, bScenePresented(false)
-{
-}
+{}
 
 FViewport::~FViewport() {}
 

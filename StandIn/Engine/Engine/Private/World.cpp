@@ -55,8 +55,7 @@ UWorld::UWorld(const FObjectInitializer& ObjectInitializer)
 	, bIsTearingDown(false)
 	, bBegunPlay(false)
 	, OwningGameInstance(nullptr)
-{
-}
+{}
 
 UWorld* UWorld::CreateWorld(const EWorldType::Type InWorldType, bool bInformEngineOfWorld, FName WorldName, UPackage* InWorldPackage,
 	bool bAddToRoot, ERHIFeatureLevel::Type InFeatureLevel)
@@ -72,9 +71,8 @@ UWorld* UWorld::CreateWorld(const EWorldType::Type InWorldType, bool bInformEngi
 	{
 		NewWorld->AddToRoot();
 	}
-	NewWorld->InitWorld(InitializationValues()
-			.ShouldSimulatePhysics(false)
-			.SetTransactional(InWorldType != EWorldType::PIE && InWorldType != EWorldType::Game));
+	NewWorld->InitWorld(InitializationValues().ShouldSimulatePhysics(false).SetTransactional(
+		InWorldType != EWorldType::PIE && InWorldType != EWorldType::Game));
 	if (GEngine != nullptr && bInformEngineOfWorld)
 	{
 		GEngine->WorldAdded(NewWorld);

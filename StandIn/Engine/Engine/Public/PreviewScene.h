@@ -19,8 +19,7 @@ public:
 		/** An editor preview. */
 		ConstructionValues()
 			: bEditor(true)
-		{
-		}
+		{}
 
 		bool bEditor;
 

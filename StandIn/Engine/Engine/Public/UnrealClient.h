@@ -149,7 +149,8 @@ public:
 	virtual UWorld* GetWorld() const { return nullptr; }
 
 	/** Handles a key or a button; true when nobody else should. */
-	virtual bool InputKey(FViewport* Viewport, int32 ControllerId, FKey Key, EInputEvent Event, float AmountDepressed = 1.f, bool bGamepad = false);
+	virtual bool InputKey(
+		FViewport* Viewport, int32 ControllerId, FKey Key, EInputEvent Event, float AmountDepressed = 1.f, bool bGamepad = false);
 
 	/** Is told that the viewport lost the keyboard. */
 	virtual void LostFocus(FViewport* Viewport);

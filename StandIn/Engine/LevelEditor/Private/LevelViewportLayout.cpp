@@ -96,8 +96,7 @@ TSharedRef<SWidget> Arrange(const FWidgets& Widgets, bool bSideBySide)
 FLevelViewportLayout::FLevelViewportLayout(const FName& InLayoutTypeName)
 	: LayoutTypeName(FindPaneLayout(InLayoutTypeName).Name)
 	, bForeground(true)
-{
-}
+{}
 
 FLevelViewportLayout::~FLevelViewportLayout() {}
 
@@ -122,11 +121,11 @@ TSharedRef<SWidget> FLevelViewportLayout::BuildViewportLayout(
 	{
 		const ELevelViewportType ViewportType = PaneLayout.Types[PaneIndex];
 		TSharedRef<SLevelViewport> Viewport = SNew(SLevelViewport)
-			.ParentLayout(AsShared())
-			.ParentLevelEditor(TWeakPtr<SLevelEditor>(InParentLevelEditor))
-			.ViewportType(ViewportType)
-			.Realtime(ViewportType == LVT_Perspective)
-			.ConfigKey(FName(*(KeyStart + GetPaneName(PaneIndex))));
+												  .ParentLayout(AsShared())
+												  .ParentLevelEditor(TWeakPtr<SLevelEditor>(InParentLevelEditor))
+												  .ViewportType(ViewportType)
+												  .Realtime(ViewportType == LVT_Perspective)
+												  .ConfigKey(FName(*(KeyStart + GetPaneName(PaneIndex))));
 		Viewports.Add(Viewport);
 	}
 	Panes->SetContent(ArrangePanes());

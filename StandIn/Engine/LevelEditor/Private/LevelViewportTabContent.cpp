@@ -10,8 +10,7 @@
 
 FLevelViewportTabContent::FLevelViewportTabContent()
 	: bForeground(true)
-{
-}
+{}
 
 FLevelViewportTabContent::~FLevelViewportTabContent() {}
 

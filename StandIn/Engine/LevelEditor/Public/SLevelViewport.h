@@ -24,14 +24,13 @@ public:
 	SLATE_BEGIN_ARGS(SLevelViewport)
 		: _ViewportType(LVT_Perspective)
 		, _Realtime(false)
-	{
-	}
-		SLATE_ARGUMENT(TSharedPtr<FLevelViewportLayout>, ParentLayout)
-		SLATE_ARGUMENT(TWeakPtr<SLevelEditor>, ParentLevelEditor)
-		SLATE_ARGUMENT(TSharedPtr<FLevelEditorViewportClient>, LevelEditorViewportClient)
-		SLATE_ARGUMENT(ELevelViewportType, ViewportType)
-		SLATE_ARGUMENT(bool, Realtime)
-		SLATE_ARGUMENT(FName, ConfigKey)
+	{}
+	SLATE_ARGUMENT(TSharedPtr<FLevelViewportLayout>, ParentLayout)
+	SLATE_ARGUMENT(TWeakPtr<SLevelEditor>, ParentLevelEditor)
+	SLATE_ARGUMENT(TSharedPtr<FLevelEditorViewportClient>, LevelEditorViewportClient)
+	SLATE_ARGUMENT(ELevelViewportType, ViewportType)
+	SLATE_ARGUMENT(bool, Realtime)
+	SLATE_ARGUMENT(FName, ConfigKey)
 	SLATE_END_ARGS()
 
 	SLevelViewport();

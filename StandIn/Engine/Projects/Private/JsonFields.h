@@ -16,8 +16,7 @@ public:
 	FJsonFields(const FJsonValue& InObject, FJsonError& InError)
 		: Object(InObject)
 		, Error(InError)
-	{
-	}
+	{}
 
 	/** Each takes a field if it is there; false once any field was wrong. */
 	bool Take(const TCHAR* Name, FString& Out);

@@ -11,8 +11,8 @@ const TCHAR* const LoadingPhaseNames[] = {TEXT("EarliestPossible"), TEXT("PostCo
 	TEXT("PostEngineInit"), TEXT("None")};
 
 const TCHAR* const HostTypeNames[] = {TEXT("Runtime"), TEXT("RuntimeNoCommandlet"), TEXT("RuntimeAndProgram"), TEXT("CookedOnly"),
-	TEXT("UncookedOnly"), TEXT("Developer"), TEXT("DeveloperTool"), TEXT("Editor"), TEXT("EditorNoCommandlet"),
-	TEXT("EditorAndProgram"), TEXT("Program"), TEXT("ServerOnly"), TEXT("ClientOnly"), TEXT("ClientOnlyNoCommandlet")};
+	TEXT("UncookedOnly"), TEXT("Developer"), TEXT("DeveloperTool"), TEXT("Editor"), TEXT("EditorNoCommandlet"), TEXT("EditorAndProgram"),
+	TEXT("Program"), TEXT("ServerOnly"), TEXT("ClientOnly"), TEXT("ClientOnlyNoCommandlet")};
 
 static_assert(sizeof(LoadingPhaseNames) / sizeof(LoadingPhaseNames[0]) == ELoadingPhase::Max, "A phase has no name.");
 static_assert(sizeof(HostTypeNames) / sizeof(HostTypeNames[0]) == EHostType::Max, "A type has no name.");
@@ -54,8 +54,7 @@ FModuleDescriptor::FModuleDescriptor(const FName InName, EHostType::Type InType,
 	: Name(InName)
 	, Type(InType)
 	, LoadingPhase(InLoadingPhase)
-{
-}
+{}
 
 bool FModuleDescriptor::IsCompiledInCurrentConfiguration() const
 {
@@ -77,13 +76,13 @@ bool FModuleDescriptor::IsCompiledInCurrentConfiguration() const
 
 bool FModuleDescriptor::IsLoadedInCurrentConfiguration() const
 {
-	const bool bNotInCommandlet = Type == EHostType::RuntimeNoCommandlet || Type == EHostType::EditorNoCommandlet
-		|| Type == EHostType::ClientOnlyNoCommandlet;
+	const bool bNotInCommandlet =
+		Type == EHostType::RuntimeNoCommandlet || Type == EHostType::EditorNoCommandlet || Type == EHostType::ClientOnlyNoCommandlet;
 	return IsCompiledInCurrentConfiguration() && !(bNotInCommandlet && IsRunningCommandlet());
 }
 
-void FModuleDescriptor::LoadModulesForPhase(ELoadingPhase::Type LoadingPhase, const TArray<FModuleDescriptor>& Modules,
-	TMap<FName, EModuleLoadResult>& ModuleLoadErrors)
+void FModuleDescriptor::LoadModulesForPhase(
+	ELoadingPhase::Type LoadingPhase, const TArray<FModuleDescriptor>& Modules, TMap<FName, EModuleLoadResult>& ModuleLoadErrors)
 {
 	for (const FModuleDescriptor& Descriptor : Modules)
 	{

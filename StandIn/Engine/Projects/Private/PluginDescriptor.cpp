@@ -39,8 +39,7 @@ bool TakeModule(const StandInPrivate::FJsonValue& Value, StandInPrivate::FJsonEr
 	Out.LoadingPhase = Phase.IsEmpty() ? ELoadingPhase::Default : ELoadingPhase::FromString(*Phase);
 	if (Out.LoadingPhase == ELoadingPhase::Max)
 	{
-		return Fields.Fail(
-			TEXT("LoadingPhase"), FString::Printf(TEXT("module %s has an unknown \"LoadingPhase\" \"%s\""), *Name, *Phase));
+		return Fields.Fail(TEXT("LoadingPhase"), FString::Printf(TEXT("module %s has an unknown \"LoadingPhase\" \"%s\""), *Name, *Phase));
 	}
 	return true;
 }
@@ -74,8 +73,8 @@ bool TakeDescriptor(const StandInPrivate::FJsonValue& Root, StandInPrivate::FJso
 	}
 	if (FileVersion < 1 || FileVersion > LatestDescriptorVersion)
 	{
-		return Fields.Fail(TEXT("FileVersion"),
-			FString::Printf(TEXT("\"FileVersion\" must be a number from 1 to %d"), LatestDescriptorVersion));
+		return Fields.Fail(
+			TEXT("FileVersion"), FString::Printf(TEXT("\"FileVersion\" must be a number from 1 to %d"), LatestDescriptorVersion));
 	}
 	Fields.Take(TEXT("Version"), Out.Version);
 	Fields.Take(TEXT("VersionName"), Out.VersionName);
@@ -120,8 +119,7 @@ FPluginDescriptor::FPluginDescriptor()
 	, bInstalled(false)
 	, bRequiresBuildPlatform(false)
 	, bIsHidden(false)
-{
-}
+{}
 
 bool FPluginDescriptor::SupportsTargetPlatform(const FString& Platform) const
 {

@@ -64,8 +64,8 @@ TArray<FPluginReferenceDescriptor> ReadProjectPlugins()
 	{
 		References.Empty();
 		StandIn::AddNotice(TEXT("Project:") + FileName,
-			FString::Printf(TEXT("%s:%d: %s; the project's list of plug-ins is ignored until this is corrected."), *FileName,
-				Error.Line, *Error.Text));
+			FString::Printf(
+				TEXT("%s:%d: %s; the project's list of plug-ins is ignored until this is corrected."), *FileName, Error.Line, *Error.Text));
 	}
 	return References;
 }
@@ -92,8 +92,7 @@ FPlugin::FPlugin(const FString& InFileName, const FPluginDescriptor& InDescripto
 	, Descriptor(InDescriptor)
 	, Type(InType)
 	, bEnabled(false)
-{
-}
+{}
 
 const FString& FPlugin::GetFriendlyName() const
 {
@@ -171,14 +170,14 @@ void FPluginManager::FindPluginsIn(const FString& Directory, EPluginType Type, T
 		FText FailReason;
 		if (!Descriptor.Load(File, FailReason))
 		{
-			StandIn::AddNotice(NoticeKey,
-				FString::Printf(TEXT("%s; the plug-in is left out until this is corrected."), *FailReason.ToString()));
+			StandIn::AddNotice(
+				NoticeKey, FString::Printf(TEXT("%s; the plug-in is left out until this is corrected."), *FailReason.ToString()));
 			continue;
 		}
 		StandIn::ClearNotice(NoticeKey);
 		const TSharedRef<FPlugin> Plugin = MakeShared<FPlugin>(File, Descriptor, Type);
-		const bool bIsKnown = InOutFound.ContainsByPredicate(
-			[&Plugin](const TSharedRef<FPlugin>& Other) { return Other->Name == Plugin->Name; });
+		const bool bIsKnown =
+			InOutFound.ContainsByPredicate([&Plugin](const TSharedRef<FPlugin>& Other) { return Other->Name == Plugin->Name; });
 		if (bIsKnown)
 		{
 			UE_LOG(LogPluginManager, Log, TEXT("Plug-in %s is left out: another one of its name was found before."), *File);
@@ -242,8 +241,7 @@ void FPluginManager::EnablePlugins()
 	{
 		const bool bIsMentioned = References.ContainsByPredicate(
 			[&Plugin](const FPluginReferenceDescriptor& Reference) { return Reference.Name == Plugin->Name; });
-		if (!bIsMentioned && Plugin->IsEnabledByDefault(true)
-			&& Plugin->Descriptor.SupportsTargetPlatform(FPlatformMisc::GetUBTPlatform()))
+		if (!bIsMentioned && Plugin->IsEnabledByDefault(true) && Plugin->Descriptor.SupportsTargetPlatform(FPlatformMisc::GetUBTPlatform()))
 		{
 			EnablePlugin(Plugin->Name, Plugin->FileName, true);
 		}
@@ -261,8 +259,7 @@ void FPluginManager::AddBinariesDirectories()
 	{
 		if (Plugin->bEnabled && Plugin->Descriptor.Modules.Num() > 0)
 		{
-			const FString Directory =
-				FPaths::Combine(Plugin->GetBaseDir(), TEXT("Binaries"), FPlatformProcess::GetBinariesSubdirectory());
+			const FString Directory = FPaths::Combine(Plugin->GetBaseDir(), TEXT("Binaries"), FPlatformProcess::GetBinariesSubdirectory());
 			FModuleManager::Get().AddBinariesDirectory(*Directory, Plugin->GetLoadedFrom() == EPluginLoadedFrom::Project);
 			BinariesDirectories.Add(Directory);
 			UE_LOG(LogPluginManager, Log, TEXT("Mounting plugin %s"), *Plugin->Name);

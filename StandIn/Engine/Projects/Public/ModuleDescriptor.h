@@ -79,6 +79,6 @@ struct PROJECTS_API FModuleDescriptor
 	/** Says whether this run of the editor loads the module. */
 	bool IsLoadedInCurrentConfiguration() const;
 	/** Loads the modules of a phase; adds the failed ones with their reasons. */
-	static void LoadModulesForPhase(ELoadingPhase::Type LoadingPhase, const TArray<FModuleDescriptor>& Modules,
-		TMap<FName, EModuleLoadResult>& ModuleLoadErrors);
+	static void LoadModulesForPhase(
+		ELoadingPhase::Type LoadingPhase, const TArray<FModuleDescriptor>& Modules, TMap<FName, EModuleLoadResult>& ModuleLoadErrors);
 };

@@ -13,8 +13,7 @@ struct PROJECTS_API FPluginReferenceDescriptor
 		: Name(InName)
 		, bEnabled(bInEnabled)
 		, bOptional(false)
-	{
-	}
+	{}
 
 	FString Name;
 	bool bEnabled;

@@ -24,8 +24,7 @@ public:
 		, bOutputStencil(false)
 		, MipLevel(0)
 		, ArrayIndex(0)
-	{
-	}
+	{}
 
 	/** Returns the cube face, CubeFace_MAX when the surface is no cube. */
 	ECubeFace GetCubeFace() const { return CubeFace; }

@@ -6,6 +6,7 @@
 #include "Misc/CoreDelegates.h"
 #include "Modules/ModuleManager.h"
 #include "StandIn/Registrations.h"
+#include "UObject/Package.h"
 
 DEFINE_LOG_CATEGORY(LogToolMenus);
 

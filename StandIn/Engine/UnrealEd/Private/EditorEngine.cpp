@@ -36,8 +36,8 @@ const bool bEditorEngineListed = []() {
 		if (GEditor != nullptr)
 		{
 			ListEvent(TEXT("UEditorEngine::OnViewportClientListChanged"), GEditor->OnViewportClientListChanged(), OutRegistrations);
-			ListEvent(TEXT("UEditorEngine::OnLevelViewportClientListChanged"), GEditor->OnLevelViewportClientListChanged(),
-				OutRegistrations);
+			ListEvent(
+				TEXT("UEditorEngine::OnLevelViewportClientListChanged"), GEditor->OnLevelViewportClientListChanged(), OutRegistrations);
 		}
 	});
 	return true;
@@ -54,13 +54,11 @@ UEditorEngine::UEditorEngine(const FObjectInitializer& ObjectInitializer)
 	, bIsToggleBetweenPIEandSIEQueued(false)
 	, bRequestEndPlayMapQueued(false)
 	, bIsEndingPlay(false)
-{
-}
+{}
 
 UUnrealEdEngine::UUnrealEdEngine(const FObjectInitializer& ObjectInitializer)
 	: Super(ObjectInitializer)
-{
-}
+{}
 
 UEditorSubsystem::UEditorSubsystem() {}
 
@@ -199,8 +197,8 @@ FViewport* UEditorEngine::GetPIEViewport()
 	}
 	for (const FWorldContext& Context : WorldList)
 	{
-		const FSlatePlayInEditorInfo* Info
-			= Context.WorldType == EWorldType::PIE ? SlatePlayInEditorMap.Find(Context.ContextHandle) : nullptr;
+		const FSlatePlayInEditorInfo* Info =
+			Context.WorldType == EWorldType::PIE ? SlatePlayInEditorMap.Find(Context.ContextHandle) : nullptr;
 		if (Info != nullptr && Info->SlatePlayInEditorWindowViewport.IsValid())
 		{
 			return Info->SlatePlayInEditorWindowViewport.Get();

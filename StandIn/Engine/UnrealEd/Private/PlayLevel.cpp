@@ -12,6 +12,8 @@
 #include "Slate/SceneViewport.h"
 #include "StandIn/FatalHandler.h"
 #include "Templates/UnrealTemplate.h"
+#include "UObject/Class.h"
+#include "UObject/WeakObjectPtrTemplates.h"
 #include "Widgets/SViewport.h"
 #include "Widgets/SWindow.h"
 
@@ -77,8 +79,8 @@ void UEditorEngine::StartPlayInEditorSession(FRequestPlaySessionParams& InReques
 	PlayInEditorSessionInfo->OriginalRequestParams = InRequestParams;
 	FEditorDelegates::BeginPIE.Broadcast(bInSimulateInEditor);
 
-	const ULevelEditorPlaySettings* PlaySettings
-		= InRequestParams.EditorPlaySettings != nullptr ? InRequestParams.EditorPlaySettings : GetDefault<ULevelEditorPlaySettings>();
+	const ULevelEditorPlaySettings* PlaySettings =
+		InRequestParams.EditorPlaySettings != nullptr ? InRequestParams.EditorPlaySettings : GetDefault<ULevelEditorPlaySettings>();
 	int32 NumClients = 1;
 	PlaySettings->GetPlayNumberOfClients(NumClients);
 	for (int32 InstanceIndex = 0; InstanceIndex < FMath::Max(1, NumClients); ++InstanceIndex)
@@ -164,8 +166,8 @@ void UEditorEngine::CreatePIEViewport(
 	Info.SlatePlayInEditorWindowViewport->SetFixedViewportSize(static_cast<uint32>(WindowSize.X), static_cast<uint32>(WindowSize.Y));
 	if (FSlateApplication::IsInitialized())
 	{
-		TSharedRef<SWindow> Window
-			= SNew(SWindow).Title(NSLOCTEXT("UnrealEd", "PlayInEditorWindow", "Game Preview")).ClientSize(WindowSize);
+		TSharedRef<SWindow> Window =
+			SNew(SWindow).Title(NSLOCTEXT("UnrealEd", "PlayInEditorWindow", "Game Preview")).ClientSize(WindowSize);
 		Window->SetContent(ViewportWidget);
 		Window->SetOnWindowClosed(FOnWindowClosed::CreateWeakLambda(this, [this](const TSharedRef<SWindow>&) { RequestEndPlayMap(); }));
 		FSlateApplication::Get().AddWindow(Window);
@@ -219,88 +221,4 @@ void UEditorEngine::PlaySessionResumed()
 void UEditorEngine::PlaySessionSingleStepped()
 {
 	FEditorDelegates::SingleStepPIE.Broadcast(bIsSimulatingInEditor);
-}
-
-void UEditorEngine::EndPlayMap()
-{
-	if (PlayWorld == nullptr || bIsEndingPlay)
-	{
-		return;
-	}
-	TGuardValue<bool> EndingPlay(bIsEndingPlay, true);
-	bRequestEndPlayMapQueued = false;
-
-	FEditorDelegates::PrePIEEnded.Broadcast(bIsSimulatingInEditor);
-	FEditorDelegates::EndPIE.Broadcast(bIsSimulatingInEditor);
-
-	CloseGameViewports();
-	TeardownPlaySessions();
-
-	PlayWorld = nullptr;
-	GWorld = EditorWorld;
-	EditorWorld = nullptr;
-	GIsPlayInEditorWorld = false;
-	bIsSimulatingInEditor = false;
-	bIsToggleBetweenPIEandSIEQueued = false;
-	PlayInEditorSessionInfo.Reset();
-	PlaySessionRequest.Reset();
-
-	CollectGarbage(GARBAGE_COLLECTION_KEEPFLAGS);
-}
-
-void UEditorEngine::CloseGameViewports()
-{
-	for (FWorldContext& Context : WorldList)
-	{
-		UGameViewportClient* ViewportClient = Context.GameViewport;
-		if (Context.WorldType != EWorldType::PIE || ViewportClient == nullptr)
-		{
-			continue;
-		}
-		ViewportClient->OnCloseRequested().RemoveAll(this);
-		if (ViewportClient->Viewport != nullptr)
-		{
-			ViewportClient->CloseRequested(ViewportClient->Viewport);
-		}
-		FSlatePlayInEditorInfo Info;
-		SlatePlayInEditorMap.RemoveAndCopyValue(Context.ContextHandle, Info);
-		if (TSharedPtr<IAssetViewport> Pane = Info.DestinationSlateViewport.Pin())
-		{
-			Pane->EndPlayInEditorSession();
-		}
-		if (TSharedPtr<SWindow> Window = Info.SlatePlayInEditorWindow.Pin())
-		{
-			Window->SetOnWindowClosed(FOnWindowClosed());
-			Window->RequestDestroyWindow();
-		}
-		if (Info.SlatePlayInEditorWindowViewport.IsValid())
-		{
-			Info.SlatePlayInEditorWindowViewport->Destroy();
-		}
-		ViewportClient->DetachViewportClient();
-		Context.GameViewport = nullptr;
-	}
-	GameViewport = nullptr;
-}
-
-void UEditorEngine::TeardownPlaySessions()
-{
-	TArray<UWorld*> PlayWorlds;
-	for (const FWorldContext& Context : WorldList)
-	{
-		if (Context.WorldType == EWorldType::PIE && Context.World() != nullptr)
-		{
-			PlayWorlds.Add(Context.World());
-		}
-	}
-	for (UWorld* World : PlayWorlds)
-	{
-		World->BeginTearingDown();
-		World->CleanupWorld();
-		UGameInstance* GameInstance = World->GetGameInstance();
-		GameInstance->Shutdown();
-		GameInstance->RemoveFromRoot();
-		World->RemoveFromRoot();
-		DestroyWorldContext(World);
-	}
 }

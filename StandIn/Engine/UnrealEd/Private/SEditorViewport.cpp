@@ -9,8 +9,7 @@
 
 SEditorViewport::SEditorViewport()
 	: LastTickTime(0.0)
-{
-}
+{}
 
 SEditorViewport::~SEditorViewport()
 {
@@ -24,13 +23,7 @@ SEditorViewport::~SEditorViewport()
 
 void SEditorViewport::Construct(const FArguments&)
 {
-	ChildSlot
-	[
-		SAssignNew(ViewportWidget, SViewport)
-		[
-			SAssignNew(ViewportOverlay, SOverlay)
-		]
-	];
+	ChildSlot[SAssignNew(ViewportWidget, SViewport)[SAssignNew(ViewportOverlay, SOverlay)]];
 
 	TSharedRef<FEditorViewportClient> ViewportClient = MakeEditorViewportClient();
 	if (!ViewportClient->VisibilityDelegate.IsBound())

@@ -20,7 +20,7 @@ TSharedPtr<SEditorViewportToolbarMenu> SViewportToolBar::GetOpenMenu() const
 
 void SEditorViewportToolbarMenu::Construct(const FArguments& Declaration)
 {
-	Label = Declaration._Label;
+	ButtonLabel = Declaration._Label;
 	OnGetMenuContent = Declaration._OnGetMenuContent;
 	ParentToolBar = Declaration._ParentToolBar;
 	// clang-format off
@@ -51,16 +51,32 @@ const FSlateBrush* SEditorViewportToolbarMenu::GetBackground() const
 	return IsMenuOpen() ? &Open : (IsHovered() ? &Hovered : &Idle);
 }
 
+bool SEditorViewportToolbarMenu::IsMenuOpen() const
+{
+	const TSharedPtr<IMenu> Menu = OpenedMenu.Pin();
+	return Menu.IsValid() && Menu->GetContent().IsValid();
+}
+
+void SEditorViewportToolbarMenu::OnMenuDismissed(TSharedRef<IMenu>)
+{
+	bDismissedThisTick = true;
+}
+
+void SEditorViewportToolbarMenu::Tick(const FGeometry& AllottedGeometry, const double InCurrentTime, const float InDeltaTime)
+{
+	SCompoundWidget::Tick(AllottedGeometry, InCurrentTime, InDeltaTime);
+	bDismissedThisTick = false;
+}
+
 void SEditorViewportToolbarMenu::SetMenuOpen(const bool bOpen)
 {
-	const TSharedPtr<IMenu> Current = Menu.Pin();
-	if (bOpen == Current.IsValid())
+	if (bOpen == IsMenuOpen())
 	{
 		return;
 	}
 	if (!bOpen)
 	{
-		Menu.Reset();
+		const TSharedPtr<IMenu> Current = OpenedMenu.Pin();
 		Current->Dismiss();
 		return;
 	}
@@ -70,8 +86,12 @@ void SEditorViewportToolbarMenu::SetMenuOpen(const bool bOpen)
 	}
 	OnMenuOpening();
 	const FGeometry& Geometry = GetCachedGeometry();
-	Menu = FSlateApplication::Get().PushMenu(AsShared(), FWidgetPath(), OnGetMenuContent.Execute(), Geometry.GetAbsolutePosition(),
+	OpenedMenu = FSlateApplication::Get().PushMenu(AsShared(), FWidgetPath(), OnGetMenuContent.Execute(), Geometry.GetAbsolutePosition(),
 		FPopupTransitionEffect(FPopupTransitionEffect::ComboButton), true, Geometry.GetAbsoluteSize());
+	if (const TSharedPtr<IMenu> Opened = OpenedMenu.Pin())
+	{
+		Opened->GetOnMenuDismissed().AddSP(this, &SEditorViewportToolbarMenu::OnMenuDismissed);
+	}
 	if (const TSharedPtr<SViewportToolBar> ToolBar = ParentToolBar.Pin())
 	{
 		ToolBar->SetOpenMenu(SharedThis(this));
@@ -94,7 +114,8 @@ FReply SEditorViewportToolbarMenu::OnMouseButtonDown(const FGeometry&, const FPo
 {
 	if (MouseEvent.GetEffectingButton() == EKeys::LeftMouseButton)
 	{
-		SetMenuOpen(!IsMenuOpen());
+		// The press that reaches the button of an open menu has closed that menu already.
+		SetMenuOpen(!IsMenuOpen() && !bDismissedThisTick);
 	}
 	return FReply::Handled();
 }

@@ -79,12 +79,12 @@ TSharedRef<SWidget> SEditorViewportViewMenu::GenerateViewMenuContent() const
 }
 
 void SEditorViewportViewMenu::AddViewMode(
-	FToolMenuSection& Section, const FName Name, const FText& Label, const FText& ToolTip, const FInputChord& Chord) const
+	FToolMenuSection& Section, const FName Name, const FText& Label, const FText& InToolTip, const FInputChord& Chord) const
 {
 	const TSharedRef<FBindingContext> Context = MakeShared<FBindingContext>(
 		TEXT("EditorViewport"), LOCTEXT("EditorViewportCommands", "Common Viewport Commands"), NAME_None, NAME_None);
 	TSharedPtr<FUICommandInfo> Command;
-	FUICommandInfo::MakeCommandInfo(Context, Command, Name, Label, ToolTip, FSlateIcon(), EUserInterfaceActionType::RadioButton, Chord);
+	FUICommandInfo::MakeCommandInfo(Context, Command, Name, Label, InToolTip, FSlateIcon(), EUserInterfaceActionType::RadioButton, Chord);
 	const bool bLit = Name == EditorViewportViewMenuPrivate::LitMode;
 	const TSharedRef<FUICommandList> Commands = MakeShared<FUICommandList>();
 	Commands->MapAction(

@@ -39,8 +39,7 @@ struct UNREALED_API FRequestPlaySessionParams
 		: SessionDestination(EPlaySessionDestinationType::InProcess)
 		, WorldType(EPlaySessionWorldType::PlayInEditor)
 		, EditorPlaySettings(nullptr)
-	{
-	}
+	{}
 
 	/** Where the session runs. */
 	EPlaySessionDestinationType SessionDestination;
@@ -60,8 +59,7 @@ struct UNREALED_API FPlayInEditorSessionInfo
 {
 	FPlayInEditorSessionInfo()
 		: PIEInstanceCount(0)
-	{
-	}
+	{}
 
 	/** The request that started the session. */
 	FRequestPlaySessionParams OriginalRequestParams;

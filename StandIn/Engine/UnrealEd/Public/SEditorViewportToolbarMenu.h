@@ -28,14 +28,15 @@ public:
 	void Construct(const FArguments& Declaration);
 
 	/** True while the menu is open. */
-	bool IsMenuOpen() const { return Menu.IsValid(); }
+	bool IsMenuOpen() const;
 
 	/** Opens the menu with fresh content, or closes it. */
 	void SetMenuOpen(const bool bOpen);
 
 	/** The label as it reads now. */
-	FText GetLabel() const { return Label.Get(); }
+	FText GetLabel() const { return ButtonLabel.Get(); }
 
+	virtual void Tick(const FGeometry& AllottedGeometry, const double InCurrentTime, const float InDeltaTime) override;
 	virtual bool SupportsKeyboardFocus() const override { return true; }
 	virtual void OnMouseEnter(const FGeometry& MyGeometry, const FPointerEvent& MouseEvent) override;
 	virtual FReply OnMouseButtonDown(const FGeometry& MyGeometry, const FPointerEvent& MouseEvent) override;
@@ -48,9 +49,11 @@ protected:
 
 private:
 	const FSlateBrush* GetBackground() const;
+	void OnMenuDismissed(TSharedRef<IMenu> InMenu);
 
-	TAttribute<FText> Label;
+	TAttribute<FText> ButtonLabel;
 	FOnGetContent OnGetMenuContent;
 	TWeakPtr<SViewportToolBar> ParentToolBar;
-	TWeakPtr<IMenu> Menu;
+	TWeakPtr<IMenu> OpenedMenu;
+	bool bDismissedThisTick = false;
 };

@@ -30,7 +30,7 @@ public:
 
 	/** Adds entries of view modes to a section, each "Name", a label and a tool tip. */
 	void AddViewMode(
-		struct FToolMenuSection& Section, const FName Name, const FText& Label, const FText& ToolTip, const FInputChord& Chord) const;
+		struct FToolMenuSection& Section, const FName Name, const FText& Label, const FText& InToolTip, const FInputChord& Chord) const;
 
 protected:
 	/** Registers the menus that are not registered yet. */

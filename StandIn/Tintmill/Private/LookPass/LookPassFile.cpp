@@ -30,7 +30,8 @@ static std::filesystem::path MakeFolder()
 
 namespace LookPass
 {
-FLookPassFile::FLookPassFile(const std::string& Text, const std::string& Extension) : Folder(LookPassFilePrivate::MakeFolder())
+FLookPassFile::FLookPassFile(const std::string& Text, const std::string& Extension)
+	: Folder(LookPassFilePrivate::MakeFolder())
 {
 	if (Folder.empty())
 	{

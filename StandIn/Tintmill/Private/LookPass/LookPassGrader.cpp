@@ -22,9 +22,9 @@ static std::uint8_t ToByte(float Value)
 
 namespace LookPass
 {
-FLookPassGrader::FLookPassGrader(OCIO_NAMESPACE::ConstCPUProcessorRcPtr InProcessor) : Processor(std::move(InProcessor))
-{
-}
+FLookPassGrader::FLookPassGrader(OCIO_NAMESPACE::ConstCPUProcessorRcPtr InProcessor)
+	: Processor(std::move(InProcessor))
+{}
 
 void FLookPassGrader::Grade(const std::uint8_t* In, std::uint8_t* Out, std::size_t PixelCount, LookGrading::EByteOrder Order) const
 {

@@ -54,7 +54,8 @@ static OCIO_NAMESPACE::ConstCPUProcessorRcPtr MakeProcessor(const std::string& P
 class FLookPassMaker final : public LookGrading::ILookGraderMaker
 {
 public:
-	FLookPassMaker() : ILookGraderMaker(LookGrading::LibraryRank)
+	FLookPassMaker()
+		: ILookGraderMaker(LookGrading::LibraryRank)
 	{
 		OCIO_NAMESPACE::SetLoggingLevel(OCIO_NAMESPACE::LOGGING_LEVEL_NONE);
 	}

@@ -73,7 +73,8 @@ FLookTableGrader::FLookTableGrader(const LookFile::FCube& Cube)
 			const double Value = LookTableGraderPrivate::Curve(Cube, Channel, static_cast<double>(Byte) / 255.0);
 			const double Place = LookTableGraderPrivate::Position(Value, Cube.Min3D[Channel], Cube.Max3D[Channel], Cube.Size3D);
 			const std::size_t Low = LookTableGraderPrivate::EntryBelow(Place, Cube.Size3D);
-			Places[Channel][Byte] = {static_cast<std::uint32_t>(Low) * Steps[Channel], static_cast<float>(Place - static_cast<double>(Low))};
+			Places[Channel][Byte] = {
+				static_cast<std::uint32_t>(Low) * Steps[Channel], static_cast<float>(Place - static_cast<double>(Low))};
 		}
 	}
 	for (std::size_t Order = 0; Order < Corners.size(); ++Order)

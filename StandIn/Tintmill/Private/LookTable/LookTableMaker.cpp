@@ -8,7 +8,9 @@ namespace LookTableMakerPrivate
 class FLookTableMaker final : public LookGrading::ILookGraderMaker
 {
 public:
-	FLookTableMaker() : ILookGraderMaker(LookGrading::TableRank) {}
+	FLookTableMaker()
+		: ILookGraderMaker(LookGrading::TableRank)
+	{}
 
 	virtual bool CanMake(const LookFile::FCheckedFile& File) const override { return File.Cube.Size1D != 0 || File.Cube.Size3D != 0; }
 

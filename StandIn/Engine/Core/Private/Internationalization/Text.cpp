@@ -8,8 +8,8 @@
 #include "UObject/NameTypes.h"
 
 #include <algorithm>
+#include <charconv>
 #include <cmath>
-#include <cstdio>
 #include <string>
 
 namespace
@@ -69,8 +69,10 @@ FString WriteReal(double Value, const FNumberFormattingOptions* InOptions)
 		return std::isnan(Value) ? TEXT("NaN") : Value < 0.0 ? TEXT("-\u221E") : TEXT("\u221E");
 	}
 	char Buffer[512];
-	std::snprintf(Buffer, sizeof(Buffer), "%.*f", std::min(Options.MaximumFractionalDigits, 100), std::fabs(Value));
-	const std::string Digits(Buffer);
+	const int32 Precision = std::min(Options.MaximumFractionalDigits, 100);
+	const std::to_chars_result End =
+		std::to_chars(Buffer, Buffer + sizeof(Buffer), std::fabs(Value), std::chars_format::fixed, Precision);
+	const std::string Digits(Buffer, End.ptr);
 	const size_t Point = Digits.find('.');
 	return Widened(WriteNumber(std::signbit(Value), Digits.substr(0, Point),
 		Point == std::string::npos ? std::string() : Digits.substr(Point + 1), Options));

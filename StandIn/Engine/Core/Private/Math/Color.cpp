@@ -22,6 +22,11 @@ const FColor FColor::Blue(0, 0, 255);
 const FColor FColor::Yellow(255, 255, 0);
 const FColor FColor::Cyan(0, 255, 255);
 const FColor FColor::Magenta(255, 0, 255);
+const FColor FColor::Orange(243, 156, 18);
+const FColor FColor::Purple(169, 7, 228);
+const FColor FColor::Turquoise(26, 188, 156);
+const FColor FColor::Silver(189, 195, 199);
+const FColor FColor::Emerald(46, 204, 113);
 
 namespace
 {
@@ -65,6 +70,12 @@ FColor FLinearColor::ToFColor(const bool bSRGB) const
 		Quantized(bSRGB ? Encode(Blue01) : Blue01), Quantized(A));
 }
 
+FColor FLinearColor::Quantize() const
+{
+	const auto CutOff = [](float Value) { return static_cast<uint8>(FMath::Clamp(FMath::TruncToInt(Value * 255.0f), 0, 255)); };
+	return FColor(CutOff(R), CutOff(G), CutOff(B), CutOff(A));
+}
+
 FColor FLinearColor::QuantizeRound() const
 {
 	return FColor(Rounded(R), Rounded(G), Rounded(B), Rounded(A));
@@ -74,6 +85,29 @@ FString FLinearColor::ToString() const
 {
 	return FString::Printf(TEXT("(R=%f,G=%f,B=%f,A=%f)"), static_cast<double>(R), static_cast<double>(G), static_cast<double>(B),
 		static_cast<double>(A));
+}
+
+FColor FColor::FromHex(const FString& HexString)
+{
+	const FString Digits = HexString.StartsWith(TEXT("#")) ? HexString.RightChop(1) : HexString;
+	const int32 Length = Digits.Len();
+	bool bHex = Length == 3 || Length == 6 || Length == 8;
+	for (const TCHAR Digit : Digits)
+	{
+		bHex = bHex && FChar::IsHexDigit(Digit);
+	}
+	if (!bHex)
+	{
+		return FColor(ForceInit);
+	}
+	const uint32 Number = static_cast<uint32>(FCString::Strtoui64(*Digits, nullptr, 16));
+	if (Length == 3)
+	{
+		const auto Nibble = [Number](int32 Shift) { return static_cast<uint8>(((Number >> Shift) & 15u) * 17u); };
+		return FColor(Nibble(8), Nibble(4), Nibble(0));
+	}
+	const uint32 Rgba = Length == 6 ? (Number << 8) | 255u : Number;
+	return FColor(static_cast<uint8>(Rgba >> 24), static_cast<uint8>(Rgba >> 16), static_cast<uint8>(Rgba >> 8), static_cast<uint8>(Rgba));
 }
 
 FString FColor::ToHex() const

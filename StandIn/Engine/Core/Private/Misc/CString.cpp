@@ -40,7 +40,7 @@ double ParseDoubleImpl(const CharType* Text, int32* OutUsed)
 	const std::from_chars_result Result = std::from_chars(Narrow.data(), Narrow.data() + Narrow.size(), Value);
 	if (Result.ec == std::errc::result_out_of_range)
 	{
-		const std::string Used(Narrow.data(), Result.ptr);
+		const std::string Used(Narrow, 0, (std::size_t)(Result.ptr - Narrow.data()));
 		const std::size_t Exponent = Used.find_first_of("eE");
 		const bool bTiny = (Exponent != std::string::npos && Exponent + 1 < Used.size() && Used[Exponent + 1] == '-')
 			|| (Exponent == std::string::npos && Used.find_first_of("123456789") > Used.find('.'));

@@ -6,22 +6,11 @@
 #include "Logging/LogSuppressionInterface.h"
 #include "Misc/CString.h"
 #include "Misc/ConfigFileAccess.h"
+#include "Misc/ConfigHierarchy.h"
 #include "Misc/CoreDelegates.h"
 #include "Misc/Paths.h"
 
 DEFINE_LOG_CATEGORY(LogConfig);
-
-namespace
-{
-/** Reads the Base and Default files of an ini; null when there is none. */
-TSharedPtr<FConfigFile> ReadConfigHierarchy(const FString& BaseIniName)
-{
-	const TSharedRef<FConfigFile> Hierarchy = MakeShared<FConfigFile>();
-	const bool bHasBase = Hierarchy->Combine(FPaths::EngineConfigDir() + TEXT("Base") + BaseIniName + TEXT(".ini"));
-	const bool bHasDefault = Hierarchy->Combine(FPaths::ProjectConfigDir() + TEXT("Default") + BaseIniName + TEXT(".ini"));
-	return bHasBase || bHasDefault ? TSharedPtr<FConfigFile>(Hierarchy) : TSharedPtr<FConfigFile>();
-}
-}
 
 FConfigCacheIni::FConfigCacheIni(EConfigCacheType InType)
 	: Type(InType)
@@ -329,7 +318,7 @@ bool FConfigCacheIni::LoadLocalIniFile(
 {
 	(void)bForceReload;
 	const FString Filename = bIsBaseIniName ? GetDestIniFilename(IniName, Platform, *FPaths::GeneratedConfigDir()) : FString(IniName);
-	const TSharedPtr<FConfigFile> Hierarchy = bIsBaseIniName ? ReadConfigHierarchy(IniName) : TSharedPtr<FConfigFile>();
+	const TSharedPtr<FConfigFile> Hierarchy = bIsBaseIniName ? StandIn::ReadConfigHierarchy(IniName) : TSharedPtr<FConfigFile>();
 	FConfigFileAccess::SetHierarchy(ConfigFile, Hierarchy);
 	ConfigFile.Name = FName(*FPaths::GetBaseFilename(Filename));
 	ConfigFile.Read(Filename);
@@ -346,7 +335,7 @@ bool FConfigCacheIni::LoadHierarchy(const FString& DestFilename, const FString& 
 {
 	FConfigFile File;
 	File.Name = FName(*BaseIniName);
-	const TSharedPtr<FConfigFile> Hierarchy = AreFileOperationsDisabled() ? TSharedPtr<FConfigFile>() : ReadConfigHierarchy(BaseIniName);
+	const TSharedPtr<FConfigFile> Hierarchy = AreFileOperationsDisabled() ? TSharedPtr<FConfigFile>() : StandIn::ReadConfigHierarchy(BaseIniName);
 	FConfigFileAccess::SetHierarchy(File, Hierarchy);
 	if (!AreFileOperationsDisabled())
 	{

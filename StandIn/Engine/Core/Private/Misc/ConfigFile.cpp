@@ -7,6 +7,7 @@
 #include "Misc/ConfigChanges.h"
 #include "Misc/ConfigDocument.h"
 #include "Misc/ConfigFileAccess.h"
+#include "Misc/ConfigHierarchy.h"
 #include "Misc/ConfigStorage.h"
 #include "Misc/TextCodec.h"
 
@@ -144,72 +145,6 @@ void FConfigFileAccess::ApplySaved(FConfigFile& File, const StandIn::FConfigDocu
 	}
 }
 
-namespace
-{
-/** Lays one line of a hierarchy file over a section. */
-void ApplyHierarchyLine(FConfigSection& Section, const StandIn::FConfigDocument::FLine& Line, int32 Origin)
-{
-	const TCHAR Operator = Line.KeyText[0];
-	const bool bHasOperator = Operator == '+' || Operator == '-' || Operator == '.' || Operator == '!';
-	const FName Key = bHasOperator ? FName(*Line.KeyText.Mid(1)) : Line.Key;
-	FConfigValue Value(Line.Text);
-	Value.OriginFile = Origin;
-	Value.OriginLine = Line.Number;
-	if (Operator == '@' || Operator == '*')
-	{
-		UE_LOG(LogConfig, Warning, TEXT("Keyed struct arrays are not in this stand-in; line %d is skipped: %s"), Line.Number, *Line.Raw);
-		return;
-	}
-	switch (bHasOperator ? Operator : TCHAR('='))
-	{
-	case '!':
-		Section.Remove(Key);
-		break;
-	case '-':
-		Section.RemoveSingle(Key, Value);
-		break;
-	case '.':
-		Section.Add(Key, Value);
-		break;
-	case '+':
-		Section.AddUnique(Key, Value);
-		break;
-	default:
-		if (FConfigValue* const Present = Section.Find(Key))
-		{
-			*Present = Value;
-		}
-		else
-		{
-			Section.Add(Key, Value);
-		}
-		break;
-	}
-}
-
-void ApplyHierarchyDocument(FConfigFile& File, const StandIn::FConfigDocument& Document, const FString& Filename)
-{
-	const int32 Origin = StandIn::InternConfigOriginFile(Filename);
-	FConfigSection* Section = nullptr;
-	for (const StandIn::FConfigDocument::FLine& Line : Document.Lines)
-	{
-		if (Line.Kind == StandIn::FConfigDocument::ELine::Section)
-		{
-			Section = File.FindOrAddSection(Line.Text);
-		}
-		else if (Line.Kind == StandIn::FConfigDocument::ELine::Value)
-		{
-			ApplyHierarchyLine(*Section, Line, Origin);
-		}
-	}
-}
-
-std::string ConfigBytes(const FString& Text)
-{
-	return StandInPrivate::ToUtf8(Text);
-}
-}
-
 bool FConfigFile::Combine(const FString& Filename)
 {
 	std::string Bytes;
@@ -230,18 +165,18 @@ bool FConfigFile::Combine(const FString& Filename)
 	{
 		StandIn::NoticeHierarchyFile(Filename, FString(), First, Count);
 	}
-	ApplyHierarchyDocument(*this, *Parsed, Filename);
+	StandIn::ApplyHierarchyDocument(*this, *Parsed, Filename);
 	return true;
 }
 
 void FConfigFile::CombineFromBuffer(const FString& Buffer)
 {
-	ApplyHierarchyDocument(*this, *StandIn::FConfigDocument::Parse(ConfigBytes(Buffer)), FString());
+	StandIn::ApplyHierarchyDocument(*this, *StandIn::FConfigDocument::Parse(StandInPrivate::ToUtf8(Buffer)), FString());
 }
 
 void FConfigFile::ProcessInputFileContents(const FString& Contents)
 {
-	FConfigFileAccess::ApplySaved(*this, *StandIn::FConfigDocument::Parse(ConfigBytes(Contents)), FString());
+	FConfigFileAccess::ApplySaved(*this, *StandIn::FConfigDocument::Parse(StandInPrivate::ToUtf8(Contents)), FString());
 }
 
 void FConfigFile::Read(const FString& Filename)

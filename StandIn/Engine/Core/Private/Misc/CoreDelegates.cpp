@@ -17,40 +17,18 @@ FSimpleMulticastDelegate FCoreDelegates::ConfigReadyForUse;
 
 namespace
 {
-/** Lists the delegates' bindings. */
-struct FCoreDelegatesListing
-{
-	FCoreDelegatesListing()
-	{
-		StandIn::AddGlobalDelegate(TEXT("FCoreDelegates::OnFEngineLoopInitComplete"), FCoreDelegates::OnFEngineLoopInitComplete);
-		StandIn::AddGlobalDelegate(TEXT("FCoreDelegates::OnPostEngineInit"), FCoreDelegates::OnPostEngineInit);
-		StandIn::AddGlobalDelegate(
-			TEXT("FCoreDelegates::OnAllModuleLoadingPhasesComplete"), FCoreDelegates::OnAllModuleLoadingPhasesComplete);
-		StandIn::AddGlobalDelegate(TEXT("FCoreDelegates::OnInit"), FCoreDelegates::OnInit);
-		StandIn::AddGlobalDelegate(TEXT("FCoreDelegates::OnEnginePreExit"), FCoreDelegates::OnEnginePreExit);
-		StandIn::AddGlobalDelegate(TEXT("FCoreDelegates::OnPreExit"), FCoreDelegates::OnPreExit);
-		StandIn::AddGlobalDelegate(TEXT("FCoreDelegates::OnExit"), FCoreDelegates::OnExit);
-		StandIn::AddGlobalDelegate(TEXT("FCoreDelegates::OnBeginFrame"), FCoreDelegates::OnBeginFrame);
-		StandIn::AddGlobalDelegate(TEXT("FCoreDelegates::OnEndFrame"), FCoreDelegates::OnEndFrame);
-	}
-};
-FCoreDelegatesListing CoreDelegatesListing;
-}
-
-namespace
-{
 /** Lists the delegates above from the moment they exist. */
 const bool bCoreDelegatesListed = [] {
-	StandIn::AddGlobalDelegate(TEXT("FCoreDelegates::OnFEngineLoopInitComplete"), FCoreDelegates::OnFEngineLoopInitComplete);
-	StandIn::AddGlobalDelegate(TEXT("FCoreDelegates::OnPostEngineInit"), FCoreDelegates::OnPostEngineInit);
-	StandIn::AddGlobalDelegate(TEXT("FCoreDelegates::OnAllModuleLoadingPhasesComplete"), FCoreDelegates::OnAllModuleLoadingPhasesComplete);
-	StandIn::AddGlobalDelegate(TEXT("FCoreDelegates::OnInit"), FCoreDelegates::OnInit);
-	StandIn::AddGlobalDelegate(TEXT("FCoreDelegates::OnEnginePreExit"), FCoreDelegates::OnEnginePreExit);
-	StandIn::AddGlobalDelegate(TEXT("FCoreDelegates::OnPreExit"), FCoreDelegates::OnPreExit);
-	StandIn::AddGlobalDelegate(TEXT("FCoreDelegates::OnExit"), FCoreDelegates::OnExit);
-	StandIn::AddGlobalDelegate(TEXT("FCoreDelegates::OnBeginFrame"), FCoreDelegates::OnBeginFrame);
-	StandIn::AddGlobalDelegate(TEXT("FCoreDelegates::OnEndFrame"), FCoreDelegates::OnEndFrame);
-	StandIn::AddGlobalDelegate(TEXT("FCoreDelegates::ConfigReadyForUse"), FCoreDelegates::ConfigReadyForUse);
+	StandIn::AddDelegate(TEXT("FCoreDelegates::OnFEngineLoopInitComplete"), FCoreDelegates::OnFEngineLoopInitComplete);
+	StandIn::AddDelegate(TEXT("FCoreDelegates::OnPostEngineInit"), FCoreDelegates::OnPostEngineInit);
+	StandIn::AddDelegate(TEXT("FCoreDelegates::OnAllModuleLoadingPhasesComplete"), FCoreDelegates::OnAllModuleLoadingPhasesComplete);
+	StandIn::AddDelegate(TEXT("FCoreDelegates::OnInit"), FCoreDelegates::OnInit);
+	StandIn::AddDelegate(TEXT("FCoreDelegates::OnEnginePreExit"), FCoreDelegates::OnEnginePreExit);
+	StandIn::AddDelegate(TEXT("FCoreDelegates::OnPreExit"), FCoreDelegates::OnPreExit);
+	StandIn::AddDelegate(TEXT("FCoreDelegates::OnExit"), FCoreDelegates::OnExit);
+	StandIn::AddDelegate(TEXT("FCoreDelegates::OnBeginFrame"), FCoreDelegates::OnBeginFrame);
+	StandIn::AddDelegate(TEXT("FCoreDelegates::OnEndFrame"), FCoreDelegates::OnEndFrame);
+	StandIn::AddDelegate(TEXT("FCoreDelegates::ConfigReadyForUse"), FCoreDelegates::ConfigReadyForUse);
 	return true;
 }();
 }

@@ -25,8 +25,14 @@ bool ReadWholeFile(const TCHAR* Filename, std::string& OutBytes)
 	{
 		return false;
 	}
-	OutBytes.assign(std::istreambuf_iterator<char>(File), std::istreambuf_iterator<char>());
-	return !File.bad();
+	char Piece[65536];
+	do
+	{
+		File.read(Piece, sizeof(Piece));
+		OutBytes.append(Piece, size_t(File.gcount()));
+	} while (File && OutBytes.size() <= size_t(MAX_int32));
+	// What does not fit into an engine array counts as unreadable.
+	return !File.bad() && OutBytes.size() <= size_t(MAX_int32);
 }
 
 bool WriteWholeFile(const TCHAR* Filename, const char* Bytes, size_t NumBytes)

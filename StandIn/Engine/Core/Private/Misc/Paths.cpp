@@ -165,8 +165,8 @@ void FPaths::SetProjectFilePath(const FString& NewGameProjectFilePath)
 	if (!Path.IsEmpty())
 	{
 		Path = ConvertRelativePathToFull(Path);
-		FApp::SetProjectName(*GetBaseFilename(Path));
 	}
+	FApp::SetProjectName(*GetBaseFilename(Path));
 	ProjectFilePath() = Path;
 }
 

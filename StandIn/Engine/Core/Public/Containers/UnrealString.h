@@ -356,7 +356,6 @@ public:
 private:
 	static FString VARARGS PrintfImpl(const TCHAR* Fmt, ...);
 	bool Find_(TCHAR InChar, int32& OutIndex, bool bFromEnd) const;
-	void CutTo(int32 Start, int32 Count);
 
 	TArray<TCHAR> Data;
 };

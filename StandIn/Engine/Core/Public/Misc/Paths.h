@@ -34,7 +34,7 @@ public:
 	static bool IsProjectFilePathSet();
 	/** Absolute path of the project file, or "". */
 	static FString GetProjectFilePath();
-	/** Sets the project file (`.uproject`); it need not exist. "" takes it away. */
+	/** Sets the project file (`.uproject`); it need not exist. Names the project after it; "" takes both away. */
 	static void SetProjectFilePath(const FString& NewGameProjectFilePath);
 
 	/** What follows the last dot of the file name, with the dot if asked for. */

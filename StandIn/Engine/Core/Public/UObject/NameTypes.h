@@ -192,7 +192,7 @@ public:
 	/** Hash of the text, without regard to case, and number. */
 	friend uint32 GetTypeHash(const FName& Name) { return GetTypeHash(Name.ComparisonIndex) + Name.Number; }
 
-	/** A number's shown text turned into a name; same as ToString on the way back. */
+	/** The text at a place with a number (internal form). */
 	static FString SafeString(FNameEntryId InDisplayIndex, int32 InstanceNumber = NAME_NO_NUMBER_INTERNAL);
 
 private:

@@ -99,7 +99,7 @@ FName UEnum::GetNameByValue(int64 InValue) const
 int64 UEnum::GetValueByName(FName InName) const
 {
 	const int32 Index = GetIndexByName(InName);
-	return Index == INDEX_NONE ? INDEX_NONE : Names[Index].Value;
+	return Index == INDEX_NONE ? int64(INDEX_NONE) : Names[Index].Value;
 }
 
 bool UEnum::IsValidEnumName(FName InName) const

@@ -77,6 +77,21 @@ void Wake(FNativeType& Entry)
 	MarkNative(Entry.Type);
 }
 
+// The objects that the type refers to are gone by now.
+void Sleep(FNativeType& Entry)
+{
+	Entry.bAwake = false;
+	FObjectSystemAccess::RemoveObject(Entry.Type);
+	if (Entry.Type->IsA(UClass::StaticClass()))
+	{
+		((UClass*)Entry.Type)->ClassDefaultObject = nullptr;
+	}
+	else if (Entry.Type->IsA(UPackage::StaticClass()))
+	{
+		FObjectSystemAccess::ForgetMetaData((UPackage*)Entry.Type);
+	}
+}
+
 // Gives a type made by static data its class, name and package.
 void Place(UObject* Type, UClass* TypeClass, const FString& PackageName, const FString& Name)
 {
@@ -180,8 +195,7 @@ void SleepAllNativeTypes()
 {
 	for (FNativeType& Entry : GetTypes().Types)
 	{
-		Entry.bAwake = false;
-		FObjectSystemAccess::RemoveObject(Entry.Type);
+		Sleep(Entry);
 	}
 }
 
@@ -214,8 +228,7 @@ void DropNativeTypes(const FString& PackageName)
 	{
 		if (Entry.bAwake && Entry.PackageName == PackageName)
 		{
-			Entry.bAwake = false;
-			FObjectSystemAccess::RemoveObject(Entry.Type);
+			Sleep(Entry);
 		}
 	}
 }

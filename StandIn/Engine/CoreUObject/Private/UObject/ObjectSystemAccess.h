@@ -25,6 +25,7 @@ struct FObjectSystemAccess
 		Package->BodyCRC = BodyCRC;
 		Package->DeclarationsCRC = DeclarationsCRC;
 	}
+	static void ForgetMetaData(UPackage* Package) { Package->MetaData = nullptr; }
 	static TMap<FName, FString>& TypeMetaData(UField* Field) { return Field->TypeMetaData; }
 	static FUObjectItem* GetItem(const UObjectBase* Object) { return GUObjectArray.IndexToObject(Object->InternalIndex); }
 

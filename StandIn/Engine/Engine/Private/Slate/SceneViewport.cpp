@@ -8,8 +8,7 @@ FSceneViewport::FSceneViewport(FViewportClient* InViewportClient, TSharedPtr<SVi
 	: FViewport(InViewportClient)
 	, ViewportWidget(InViewportWidget)
 	, bForceViewportSize(false)
-{
-}
+{}
 
 FSceneViewport::~FSceneViewport()
 {
@@ -56,8 +55,8 @@ TWeakPtr<SWidget> FSceneViewport::GetWidget()
 	return ViewportWidget;
 }
 
-void FSceneViewport::OnDrawViewport(const FGeometry& AllottedGeometry, const FSlateRect&, FSlateWindowElementList&, int32,
-	const FWidgetStyle&, bool)
+void FSceneViewport::OnDrawViewport(
+	const FGeometry& AllottedGeometry, const FSlateRect&, FSlateWindowElementList&, int32, const FWidgetStyle&, bool)
 {
 	if (!bForceViewportSize)
 	{

@@ -20,8 +20,7 @@ void USubsystem::Deinitialize() {}
 
 FSubsystemCollectionBase::FSubsystemCollectionBase(UClass* (*InGetBaseClass)())
 	: GetBaseClass(InGetBaseClass)
-{
-}
+{}
 
 FSubsystemCollectionBase::~FSubsystemCollectionBase() {}
 

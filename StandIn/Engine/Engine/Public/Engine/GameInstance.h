@@ -45,8 +45,7 @@ private:
 	FGameInstancePIEResult(const FText& InReason, bool bInSuccess)
 		: FailureReason(InReason)
 		, bSuccess(bInSuccess)
-	{
-	}
+	{}
 
 	bool bSuccess;
 };

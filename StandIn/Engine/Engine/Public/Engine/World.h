@@ -37,8 +37,7 @@ public:
 	/** Points at no world. */
 	UWorldProxy()
 		: World(nullptr)
-	{
-	}
+	{}
 
 	/** Points at a world, or at none. */
 	UWorldProxy& operator=(UWorld* InWorld)
@@ -99,8 +98,7 @@ public:
 			, bEnableTraceCollision(false)
 			, bTransactional(true)
 			, bCreateFXSystem(true)
-		{
-		}
+		{}
 
 		uint32 bInitializeScenes : 1;
 		uint32 bAllowAudioPlayback : 1;

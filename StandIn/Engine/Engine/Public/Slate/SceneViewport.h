@@ -49,7 +49,8 @@ public:
 	virtual bool RequiresVsync() const override { return false; }
 	virtual TWeakPtr<SWidget> GetWidget() override;
 	virtual void OnDrawViewport(const FGeometry& AllottedGeometry, const FSlateRect& MyCullingRect,
-		class FSlateWindowElementList& OutDrawElements, int32 LayerId, const class FWidgetStyle& InWidgetStyle, bool bParentEnabled) override;
+		class FSlateWindowElementList& OutDrawElements, int32 LayerId, const class FWidgetStyle& InWidgetStyle,
+		bool bParentEnabled) override;
 	virtual FReply OnMouseButtonDown(const FGeometry& MyGeometry, const FPointerEvent& MouseEvent) override;
 	virtual FReply OnMouseButtonUp(const FGeometry& MyGeometry, const FPointerEvent& MouseEvent) override;
 	virtual FReply OnKeyDown(const FGeometry& MyGeometry, const FKeyEvent& InKeyEvent) override;

@@ -43,8 +43,7 @@ class FSubsystemCollection : public FSubsystemCollectionBase
 public:
 	FSubsystemCollection()
 		: FSubsystemCollectionBase(&TBaseType::StaticClass)
-	{
-	}
+	{}
 
 	/** Returns the subsystem of a class, or null. */
 	template <typename TSubsystemClass>

@@ -3,10 +3,7 @@
 #include "Widgets/SPanel.h"
 #include "Layout/ArrangedChildren.h"
 
-SPanel::SPanel()
-{
-	SetVisibility(EVisibility::SelfHitTestInvisible);
-}
+SPanel::SPanel() {}
 
 int32 SPanel::OnPaint(const FPaintArgs& Args, const FGeometry& AllottedGeometry, const FSlateRect& MyCullingRect,
 	FSlateWindowElementList& OutDrawElements, int32 LayerId, const FWidgetStyle& InWidgetStyle, bool bParentEnabled) const

@@ -12,7 +12,7 @@
 class SLATECORE_API SPanel : public SWidget
 {
 protected:
-	/** Makes the panel, which the mouse passes through. */
+	/** Makes the panel. */
 	SPanel();
 
 	int32 OnPaint(const FPaintArgs& Args, const FGeometry& AllottedGeometry, const FSlateRect& MyCullingRect,

@@ -67,7 +67,7 @@ const TArray<FText>& UFactory::GetMenuCategorySubMenus() const
 FText UFactory::GetToolTip() const
 {
 	const UClass* Class = GetSupportedClass();
-	return Class ? Class->GetToolTipText() : FText::GetEmpty();
+	return Class ? FText::FromString(Class->GetMetaData(TEXT("ToolTip"))) : FText::GetEmpty();
 }
 
 bool UFactory::DoesSupportClass(UClass* Class)

@@ -5,5 +5,4 @@
 ULevelEditorPlaySettings::ULevelEditorPlaySettings(const FObjectInitializer& ObjectInitializer)
 	: Super(ObjectInitializer)
 	, PlayNumberOfClients(1)
-{
-}
+{}

@@ -2,6 +2,7 @@
 
 #include "StandIn/EngineLoop.h"
 
+#include "Containers/Ticker.h"
 #include "CoreGlobals.h"
 #include "Editor.h"
 #include "Editor/UnrealEdEngine.h"
@@ -19,8 +20,7 @@
 
 StandIn::FEngineLoop::FEngineLoop()
 	: Stage(EStage::Fresh)
-{
-}
+{}
 
 StandIn::FEngineLoop::~FEngineLoop() {}
 
@@ -104,6 +104,7 @@ void StandIn::FEngineLoop::TickFrame(float DeltaSeconds)
 	{
 		FSlateApplication::Get().Tick(DeltaSeconds);
 	}
+	FTicker::GetCoreTicker().Tick(DeltaSeconds);
 	FCoreDelegates::OnEndFrame.Broadcast();
 	++GFrameCounter;
 	++GFrameNumber;

@@ -6,8 +6,12 @@
 
 #include <vector>
 
+#ifndef WIN32_LEAN_AND_MEAN
 #define WIN32_LEAN_AND_MEAN
+#endif
+#ifndef NOMINMAX
 #define NOMINMAX
+#endif
 #include <windows.h>
 
 void* FPlatformProcess::GetDllHandle(const TCHAR* Filename)

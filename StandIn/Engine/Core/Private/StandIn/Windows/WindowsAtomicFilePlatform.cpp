@@ -2,8 +2,14 @@
 
 #include "StandIn/AtomicFilePlatform.h"
 
+#include "Misc/TextCodec.h"
+
+#ifndef WIN32_LEAN_AND_MEAN
 #define WIN32_LEAN_AND_MEAN
+#endif
+#ifndef NOMINMAX
 #define NOMINMAX
+#endif
 #include <windows.h>
 
 namespace StandInPrivate
@@ -13,14 +19,14 @@ namespace
 	bool FailWithLastError(std::string& OutReason)
 	{
 		const DWORD Error = GetLastError();
-		char Text[512] = {};
-		DWORD Length = FormatMessageA(
-			FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS, nullptr, Error, 0, Text, DWORD(sizeof(Text) - 1), nullptr);
-		while (Length > 0 && (Text[Length - 1] == '\r' || Text[Length - 1] == '\n' || Text[Length - 1] == '.'))
+		wchar_t Text[512] = {};
+		DWORD Length =
+			FormatMessageW(FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS, nullptr, Error, 0, Text, 511, nullptr);
+		while (Length > 0 && (Text[Length - 1] == L'\r' || Text[Length - 1] == L'\n' || Text[Length - 1] == L'.'))
 		{
-			Text[--Length] = 0;
+			--Length;
 		}
-		OutReason = Length > 0 ? std::string(Text) : "error " + std::to_string(Error);
+		OutReason = Length > 0 ? ToUtf8(Text, Length) : "error " + std::to_string(Error);
 		return false;
 	}
 

@@ -31,7 +31,7 @@ public:
 	bool OpensOnHover() const { return HasSubMenu() && !Block->GetArguments().bOpenSubMenuOnClick; }
 
 	/** True while the submenu is open. */
-	bool IsSubMenuOpen() const { return SubMenu.IsValid(); }
+	bool IsSubMenuOpen() const { return GetSubMenuContent().IsValid(); }
 
 	/** Makes the submenu's content and pops it up beside the row. */
 	void OpenSubMenu();

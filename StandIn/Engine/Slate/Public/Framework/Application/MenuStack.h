@@ -95,9 +95,14 @@ public:
 	void UpdatePlacement();
 
 private:
-	int32 FindIndex(const TSharedPtr<IMenu>& InMenu) const;
-	void RemoveMenusFrom(int32 FirstIndex);
+	int32 FindIndex(const IMenu* InMenu) const;
+	void RemoveMenusFrom(int32 FirstIndex, bool bRestoreFocus);
+	TSharedRef<IMenu> PushInternal(const TSharedPtr<IMenu>& InParentMenu, const TSharedPtr<SWindow>& InParentWindow,
+		const TSharedRef<SWidget>& InContent, const FSlateRect& InAnchor, const FPopupTransitionEffect& TransitionEffect,
+		bool bFocusImmediately, bool bIsCollapsedByParent);
 
 	TArray<TSharedPtr<FMenuBase>> Stack;
 	TWeakPtr<SWindow> HostWindow;
+	TWeakPtr<SWidget> FocusBeforeMenus;
+	bool bIsRemoving = false;
 };

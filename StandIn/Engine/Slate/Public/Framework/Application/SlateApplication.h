@@ -198,9 +198,6 @@ public:
 	/** Activates or deactivates a window; deactivation closes its menus and gives up the mouse. */
 	bool ProcessWindowActivatedEvent(const FWindowActivateEvent& ActivateEvent);
 
-	/** Tells the application that the mouse is on none of its windows. */
-	void OnCursorSet() {}
-
 	/** Takes the hover off all widgets, as when the mouse leaves the host's surface. */
 	void ProcessMouseLeft();
 
@@ -311,4 +308,5 @@ private:
 	TSharedPtr<SWindow> ToolTipWindow;
 	bool bAllowToolTips;
 	bool bToolTipSuppressed;
+	bool bToolTipFollowsHover;
 };
