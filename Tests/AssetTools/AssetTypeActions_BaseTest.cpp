@@ -81,6 +81,6 @@ TEST_F(FAssetTypeActionsBaseTest, AllowsAllAssetsToBeOpened)
 
 TEST_F(FAssetTypeActionsBaseTest, RefusesToOpenThePropertyEditor)
 {
-	FTestActions Test = Actions();
-	EXPECT_DEATH(Test.FAssetTypeActions_Base::OpenAssetEditor(TArray<UObject*>()), "not in this stand-in: FSimpleAssetEditor");
+	FTestActions TestActions = Actions();
+	EXPECT_DEATH(TestActions.FAssetTypeActions_Base::OpenAssetEditor(TArray<UObject*>()), "not in this stand-in: FSimpleAssetEditor");
 }

@@ -38,8 +38,7 @@ std::string Save(const FString& FileName, const std::string& Bytes)
 }
 
 class AtomicFileStep : public testing::TestWithParam<StandIn::EAtomicFileStep>
-{
-};
+{};
 }
 
 TEST(AtomicFile, NewFileIsMade)

@@ -7,8 +7,7 @@
 namespace
 {
 class ConfigRead : public FConfigTestBase
-{
-};
+{};
 }
 
 TEST_F(ConfigRead, RepeatedBareKeysAreAnArrayInFileOrder)

@@ -136,8 +136,10 @@ TEST_F(ConfigTrouble, FolderInTheFilesPlaceIsRenamedBeforeTheFirstSave)
 	Folder.Write("User.ini/inside.txt", "kept");
 	EXPECT_EQ(FTexts(), Get(TEXT("S"), TEXT("K")));
 	Set(TEXT("S"), TEXT("K"), {"1"});
-	EXPECT_EQ(FTexts({"The settings in " + Name() + " cannot be read: it is not a file; they are not used, and before anything is saved "
-				  "there it is renamed to " + Name() + ".unreadable-1."}),
+	EXPECT_EQ(FTexts({"The settings in " + Name()
+				  + " cannot be read: it is not a file; they are not used, and before anything is saved "
+					"there it is renamed to "
+				  + Name() + ".unreadable-1."}),
 		Notices());
 	Cache.Flush(false, File());
 	EXPECT_EQ("[S]\nK=1\n\n", ReadFile());

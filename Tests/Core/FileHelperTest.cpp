@@ -29,12 +29,17 @@ TEST(FileHelper, PlainTextIsUtf8)
 
 TEST(FileHelper, Utf8MarkIsRecognisedAndDropped)
 {
-	EXPECT_EQ("caf\xc3\xa9", Load("\xef\xbb\xbf" "caf\xc3\xa9"));
+	EXPECT_EQ("caf\xc3\xa9",
+		Load("\xef\xbb\xbf"
+			 "caf\xc3\xa9"));
 }
 
 TEST(FileHelper, Utf16IsRecognisedInBothOrders)
 {
-	EXPECT_EQ("a\xc3\xa9", Load(std::string("\xff\xfe" "a\0\xe9\0", 6)));
+	EXPECT_EQ("a\xc3\xa9",
+		Load(std::string("\xff\xfe"
+						 "a\0\xe9\0",
+			6)));
 	EXPECT_EQ("a\xc3\xa9", Load(std::string("\xfe\xff\0a\0\xe9", 6)));
 }
 
@@ -45,7 +50,10 @@ TEST(FileHelper, CharactersBeyondTheFirstPlaneSurvive)
 
 TEST(FileHelper, BadBytesBecomeTheReplacementCharacter)
 {
-	EXPECT_EQ("a\xef\xbf\xbd" "b", Load("a\xff" "b"));
+	EXPECT_EQ("a\xef\xbf\xbd"
+			  "b",
+		Load("a\xff"
+			 "b"));
 	EXPECT_EQ("\xef\xbf\xbd\xef\xbf\xbd", Load("\xc0\xaf"));
 	EXPECT_EQ("\xef\xbf\xbd", Load("\xe2"));
 }

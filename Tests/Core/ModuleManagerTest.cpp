@@ -40,8 +40,7 @@ class FFirstModule : public FRecordingModule
 public:
 	FFirstModule()
 		: FRecordingModule("first")
-	{
-	}
+	{}
 };
 
 /** Loads the first module while it starts. */
@@ -50,8 +49,7 @@ class FSecondModule : public FRecordingModule
 public:
 	FSecondModule()
 		: FRecordingModule("second")
-	{
-	}
+	{}
 
 	virtual void StartupModule() override
 	{
@@ -66,8 +64,7 @@ class FStayingModule : public FRecordingModule
 public:
 	FStayingModule()
 		: FRecordingModule("staying")
-	{
-	}
+	{}
 
 	virtual bool SupportsAutomaticShutdown() override { return false; }
 };
@@ -150,8 +147,8 @@ TEST_F(ModuleManager, ShutdownGoesAgainstTheOrderOfFinishedStarts)
 	Manager.LoadModule("ModuleTestStaying");
 	ModuleEvents.clear();
 	Manager.UnloadModulesAtShutdown();
-	EXPECT_EQ(FEvents({"second told", "second shut down", "second destroyed", "first told", "first shut down", "first destroyed"}),
-		ModuleEvents);
+	EXPECT_EQ(
+		FEvents({"second told", "second shut down", "second destroyed", "first told", "first shut down", "first destroyed"}), ModuleEvents);
 	ASSERT_EQ(2u, Capture.TextsOf("LogModuleManager").size());
 	EXPECT_EQ(0u, Capture.TextsOf("LogModuleManager")[0].find("Shutting down and abandoning module ModuleTestSecond ("));
 	EXPECT_TRUE(Manager.IsModuleLoaded("ModuleTestStaying"));
@@ -174,8 +171,8 @@ TEST_F(ModuleManager, ChangesAreReportedAfterTheyHappened)
 
 TEST_F(ModuleManager, LoadedObjectsAreProcessedBeforeTheModuleIsMade)
 {
-	const FDelegateHandle Handle = Manager.OnProcessLoadedObjectsCallback().AddLambda(
-		[](FName Name, bool) { ModuleEvents.push_back("processed " + ToStd(Name)); });
+	const FDelegateHandle Handle =
+		Manager.OnProcessLoadedObjectsCallback().AddLambda([](FName Name, bool) { ModuleEvents.push_back("processed " + ToStd(Name)); });
 	Manager.LoadModule("ModuleTestFirst");
 	Manager.OnProcessLoadedObjectsCallback().Remove(Handle);
 	EXPECT_EQ(FEvents({"processed None", "processed ModuleTestFirst", "first made", "first started"}), ModuleEvents);

@@ -11,7 +11,9 @@ TEST(StdOutOutputDevice, PrintsTheEnginesFormAsUtf8)
 	testing::internal::CaptureStdout();
 	Device.Serialize(TEXT("\u00fcber"), ELogVerbosity::Warning, FName(TEXT("LogTemp")));
 	Device.Flush();
-	EXPECT_EQ("LogTemp: Warning: \xc3\xbc" "ber\n", testing::internal::GetCapturedStdout());
+	EXPECT_EQ("LogTemp: Warning: \xc3\xbc"
+			  "ber\n",
+		testing::internal::GetCapturedStdout());
 }
 
 TEST(StdOutOutputDevice, LeavesOutLinesAboveItsVerbosity)

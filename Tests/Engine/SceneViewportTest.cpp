@@ -57,3 +57,19 @@ TEST_F(FSceneViewportTest, HasSizeZeroOnceDestroyed)
 	Viewport->Destroy();
 	EXPECT_EQ(Viewport->GetSizeXY(), FIntPoint(0, 0));
 }
+
+TEST_F(FSceneViewportTest, FiresNoResizeEventWhenDestroyed)
+{
+	int NumEvents = 0;
+	const FDelegateHandle Handle = FViewport::ViewportResizedEvent.AddLambda([&NumEvents](FViewport*, uint32) { ++NumEvents; });
+	Viewport->Destroy();
+	FViewport::ViewportResizedEvent.Remove(Handle);
+	EXPECT_EQ(NumEvents, 0);
+}
+
+TEST_F(FSceneViewportTest, ShowsNothingOnceDestroyed)
+{
+	Viewport->Draw();
+	Viewport->Destroy();
+	EXPECT_EQ(Viewport->GetPresentedSurface().Pixels.Num(), 0);
+}

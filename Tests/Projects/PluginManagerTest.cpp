@@ -80,7 +80,8 @@ TEST_F(PluginManager, ProjectFileTurnsPluginsOnAndOff)
 {
 	WritePlugin("On");
 	WritePlugin("Off", "\"EnabledByDefault\": false");
-	Folder.Write("Demo.uproject", "{ \"Plugins\": [ { \"Name\": \"on\", \"Enabled\": false }, { \"Name\": \"Off\", \"Enabled\": true } ] }");
+	Folder.Write(
+		"Demo.uproject", "{ \"Plugins\": [ { \"Name\": \"on\", \"Enabled\": false }, { \"Name\": \"Off\", \"Enabled\": true } ] }");
 	Manager().RefreshPluginsList();
 	EXPECT_EQ(FTexts({"Off"}), Enabled());
 }
@@ -197,7 +198,8 @@ TEST_F(PluginManager, ModuleWithoutLibraryGivesANoticeAndAFailure)
 	EXPECT_EQ(ELoadingPhase::PostDefault, Phase);
 	EXPECT_FALSE(bSuccess);
 	ASSERT_EQ(1u, Notices().size());
-	EXPECT_NE(std::string::npos, Notices()[0].find("module PluginTestAbsent could not be loaded: its library was not found")) << Notices()[0];
+	EXPECT_NE(std::string::npos, Notices()[0].find("module PluginTestAbsent could not be loaded: its library was not found"))
+		<< Notices()[0];
 }
 
 TEST_F(PluginManager, LibrariesAreLookedForInThePluginsBinariesFolder)

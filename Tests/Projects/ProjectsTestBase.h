@@ -33,7 +33,8 @@ protected:
 
 	void WritePlugin(const std::string& Name, const std::string& Fields = "") const
 	{
-		Folder.Write("Plugins/" + Name + "/" + Name + ".uplugin", "{\n\t\"FileVersion\": 3" + (Fields.empty() ? "" : ",\n\t" + Fields) + "\n}\n");
+		Folder.Write(
+			"Plugins/" + Name + "/" + Name + ".uplugin", "{\n\t\"FileVersion\": 3" + (Fields.empty() ? "" : ",\n\t" + Fields) + "\n}\n");
 	}
 
 	/** Names of this project's plug-ins that are on. */

@@ -36,6 +36,7 @@ protected:
 		Options.bLoadPlugins = false;
 		Options.bSlate = false;
 		Options.MaximizedPane = NAME_None;
+		ChooseOptions();
 		StartEngine();
 	}
 
@@ -49,6 +50,9 @@ protected:
 			Loop.Exit();
 		}
 	}
+
+	/** Changes Options before the engine is brought up. */
+	virtual void ChooseOptions() {}
 
 	/** Brings the engine up. */
 	void StartEngine()

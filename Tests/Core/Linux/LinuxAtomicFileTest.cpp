@@ -38,7 +38,8 @@ void SaveGeneration(FConfigCacheIni& Cache, const FString& FileName, int32 Gener
 	TArray<FString> Looks;
 	for (int32 Index = 0; Index < NumSavedLooks; ++Index)
 	{
-		Looks.Add(FString::Printf(TEXT("(ViewportIdentifier=\"FourPanes2x2.Viewport %d.Viewport%d\",Generation=%d)"), Index, Index, Generation));
+		Looks.Add(
+			FString::Printf(TEXT("(ViewportIdentifier=\"FourPanes2x2.Viewport %d.Viewport%d\",Generation=%d)"), Index, Index, Generation));
 	}
 	Cache.SetArray(TEXT("/Script/TintmillEditor.TintmillLevelViewportSettings"), TEXT("ViewportsSettings"), Looks, FileName);
 	Cache.SetInt(TEXT("Test"), TEXT("Generation"), Generation, FileName);
@@ -97,13 +98,11 @@ pid_t StartSavingChild(const FString& FileName, int32 FirstGeneration)
 void WaitUntil(std::chrono::steady_clock::time_point Moment)
 {
 	while (std::chrono::steady_clock::now() < Moment)
-	{
-	}
+	{}
 }
 
 class LinuxAtomicFileStep : public testing::TestWithParam<StandIn::EAtomicFileStep>
-{
-};
+{};
 }
 
 TEST(LinuxAtomicFile, SettingsAreWholeAfterTheProcessIsKilledAtARandomInstantOfASave)

@@ -63,11 +63,20 @@ CORE_API void RequestEngineExit(const TCHAR* ReasonString);
 CORE_API bool IsInGameThread();
 
 /** True in a command-line tool run of the editor. */
-FORCEINLINE bool IsRunningCommandlet() { return PRIVATE_GIsRunningCommandlet; }
+FORCEINLINE bool IsRunningCommandlet()
+{
+	return PRIVATE_GIsRunningCommandlet;
+}
 /** True in a game without editor; never here. */
-FORCEINLINE bool IsRunningGame() { return false; }
+FORCEINLINE bool IsRunningGame()
+{
+	return false;
+}
 /** True in a server without editor; never here. */
-FORCEINLINE bool IsRunningDedicatedServer() { return false; }
+FORCEINLINE bool IsRunningDedicatedServer()
+{
+	return false;
+}
 
 CORE_API DECLARE_LOG_CATEGORY_EXTERN(LogHAL, Log, All);
 CORE_API DECLARE_LOG_CATEGORY_EXTERN(LogCore, Log, All);

@@ -103,6 +103,16 @@ void FViewport::UpdateSize(uint32 NewSizeX, uint32 NewSizeY)
 	ViewportResizedEvent.Broadcast(this, 0);
 }
 
+void FViewport::ReleaseSurfaces()
+{
+	SizeX = 0;
+	SizeY = 0;
+	Scene.Reset(FIntPoint(0, 0));
+	Surface.Reset(FIntPoint(0, 0));
+	PresentedSurface.Reset(FIntPoint(0, 0));
+	InvalidateScene();
+}
+
 void FViewportClient::RedrawRequested(FViewport* Viewport)
 {
 	Viewport->Draw();

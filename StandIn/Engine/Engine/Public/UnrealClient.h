@@ -112,6 +112,9 @@ protected:
 	/** Gives the viewport another size in pixels, empties its surface and fires ViewportResizedEvent; the same size changes nothing. */
 	void UpdateSize(uint32 NewSizeX, uint32 NewSizeY);
 
+	/** Makes the size zero and lets go of all memory, without an event. */
+	void ReleaseSurfaces();
+
 	/** Forgets the client's picture, so that the next draw has it painted anew. */
 	void InvalidateScene() { bSceneValid = false; }
 

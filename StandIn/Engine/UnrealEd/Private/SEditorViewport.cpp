@@ -18,7 +18,11 @@ SEditorViewport::~SEditorViewport()
 		Client->Viewport = nullptr;
 	}
 	Client.Reset();
-	check(!SceneViewport.IsValid() || SceneViewport.IsUnique());
+	if (SceneViewport.IsValid())
+	{
+		// A list of draw elements may still hold the viewport.
+		SceneViewport->Destroy();
+	}
 }
 
 void SEditorViewport::Construct(const FArguments&)

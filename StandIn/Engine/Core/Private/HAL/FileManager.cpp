@@ -66,8 +66,8 @@ std::vector<fs::directory_entry> ListFolder(const fs::path& Folder)
 	{
 		Entries.push_back(*It);
 	}
-	std::sort(Entries.begin(), Entries.end(),
-		[](const fs::directory_entry& A, const fs::directory_entry& B) { return A.path() < B.path(); });
+	std::sort(
+		Entries.begin(), Entries.end(), [](const fs::directory_entry& A, const fs::directory_entry& B) { return A.path() < B.path(); });
 	return Entries;
 }
 
@@ -132,8 +132,8 @@ public:
 		return fs::remove(Path, Error) && !Error;
 	}
 
-	virtual bool Move(const TCHAR* Dest, const TCHAR* Src, bool bReplace, bool bEvenIfReadOnly, bool bAttributes,
-		bool bDoNotRetryOrError) override
+	virtual bool Move(
+		const TCHAR* Dest, const TCHAR* Src, bool bReplace, bool bEvenIfReadOnly, bool bAttributes, bool bDoNotRetryOrError) override
 	{
 		(void)bAttributes;
 		(void)bDoNotRetryOrError;

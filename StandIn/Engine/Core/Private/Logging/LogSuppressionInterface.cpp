@@ -88,8 +88,8 @@ public:
 			}
 		}
 		const std::lock_guard<std::mutex> Lock(Mutex);
-		Settings.erase(std::remove_if(Settings.begin(), Settings.end(),
-						   [&Setting](const FSetting& Other) { return Other.Name == Setting.Name; }),
+		Settings.erase(
+			std::remove_if(Settings.begin(), Settings.end(), [&Setting](const FSetting& Other) { return Other.Name == Setting.Name; }),
 			Settings.end());
 		Settings.push_back(Setting);
 		for (FLogCategoryBase* Category : Categories)

@@ -15,8 +15,7 @@ DEFINE_LOG_CATEGORY(LogConfig);
 FConfigCacheIni::FConfigCacheIni(EConfigCacheType InType)
 	: Type(InType)
 	, bAreFileOperationsDisabled(false)
-{
-}
+{}
 
 FConfigCacheIni::~FConfigCacheIni()
 {
@@ -187,8 +186,7 @@ bool FConfigCacheIni::GetSection(const TCHAR* Section, TArray<FString>& Result, 
 	return true;
 }
 
-FConfigSection* FConfigCacheIni::GetSectionPrivate(
-	const TCHAR* Section, const bool Force, const bool Const, const FString& Filename)
+FConfigSection* FConfigCacheIni::GetSectionPrivate(const TCHAR* Section, const bool Force, const bool Const, const FString& Filename)
 {
 	FConfigFile* const File = Find(Filename, Force);
 	if (!File)
@@ -296,9 +294,8 @@ void FConfigCacheIni::InitializeConfigSystem()
 	FCoreDelegates::ConfigReadyForUse.Broadcast();
 }
 
-bool FConfigCacheIni::LoadGlobalIniFile(FString& FinalIniFilename, const TCHAR* BaseIniName, const TCHAR* Platform,
-	bool bForceReload, bool bRequireDefaultIni, bool bAllowGeneratedIniWhenCooked, bool bAllowRemoteConfig,
-	const TCHAR* GeneratedConfigDir)
+bool FConfigCacheIni::LoadGlobalIniFile(FString& FinalIniFilename, const TCHAR* BaseIniName, const TCHAR* Platform, bool bForceReload,
+	bool bRequireDefaultIni, bool bAllowGeneratedIniWhenCooked, bool bAllowRemoteConfig, const TCHAR* GeneratedConfigDir)
 {
 	(void)bRequireDefaultIni;
 	(void)bAllowGeneratedIniWhenCooked;
@@ -335,7 +332,8 @@ bool FConfigCacheIni::LoadHierarchy(const FString& DestFilename, const FString& 
 {
 	FConfigFile File;
 	File.Name = FName(*BaseIniName);
-	const TSharedPtr<FConfigFile> Hierarchy = AreFileOperationsDisabled() ? TSharedPtr<FConfigFile>() : StandIn::ReadConfigHierarchy(BaseIniName);
+	const TSharedPtr<FConfigFile> Hierarchy =
+		AreFileOperationsDisabled() ? TSharedPtr<FConfigFile>() : StandIn::ReadConfigHierarchy(BaseIniName);
 	FConfigFileAccess::SetHierarchy(File, Hierarchy);
 	if (!AreFileOperationsDisabled())
 	{

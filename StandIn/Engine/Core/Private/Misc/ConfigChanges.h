@@ -29,8 +29,7 @@ struct FConfigSectionChange
 };
 
 /** Finds the changes that lead from what was known to what is now; a key that is as in the hierarchy gets no lines. */
-std::vector<FConfigSectionChange> FindConfigChanges(
-	const FConfigFile& Known, const FConfigFile& Now, const FConfigFile* Hierarchy);
+std::vector<FConfigSectionChange> FindConfigChanges(const FConfigFile& Known, const FConfigFile& Now, const FConfigFile* Hierarchy);
 
 /** Gives one file all keys as another has them. */
 void AbsorbConfigChanges(FConfigFile& File, const FConfigFile& Other);

@@ -9,100 +9,100 @@ namespace StandIn
 {
 namespace
 {
-	typedef std::basic_string<TCHAR> FChars;
+typedef std::basic_string<TCHAR> FChars;
 
-	bool IsConfigBlank(TCHAR Char)
+bool IsConfigBlank(TCHAR Char)
+{
+	return Char == ' ' || Char == '\t';
+}
+
+FChars TrimConfigText(const FChars& Text)
+{
+	size_t Begin = 0;
+	size_t End = Text.size();
+	while (Begin < End && IsConfigBlank(Text[Begin]))
 	{
-		return Char == ' ' || Char == '\t';
+		++Begin;
 	}
-
-	FChars TrimConfigText(const FChars& Text)
+	while (End > Begin && IsConfigBlank(Text[End - 1]))
 	{
-		size_t Begin = 0;
-		size_t End = Text.size();
-		while (Begin < End && IsConfigBlank(Text[Begin]))
-		{
-			++Begin;
-		}
-		while (End > Begin && IsConfigBlank(Text[End - 1]))
-		{
-			--End;
-		}
-		return Text.substr(Begin, End - Begin);
+		--End;
 	}
+	return Text.substr(Begin, End - Begin);
+}
 
-	/** Reads a value: a quoted one is un-escaped; a quote that is never closed stands for itself. */
-	FString ReadConfigValue(const FChars& Text)
+/** Reads a value: a quoted one is un-escaped; a quote that is never closed stands for itself. */
+FString ReadConfigValue(const FChars& Text)
+{
+	FString Quoted;
+	if (!Text.empty() && Text[0] == '"' && FParse::QuotedString(Text.c_str(), Quoted))
 	{
-		FString Quoted;
-		if (!Text.empty() && Text[0] == '"' && FParse::QuotedString(Text.c_str(), Quoted))
-		{
-			return Quoted;
-		}
-		return FString(Text.c_str());
+		return Quoted;
 	}
+	return FString(Text.c_str());
+}
 
-	/** Fills in a line that stands below a readable heading. */
-	void ReadKeyAndValue(const FChars& Trimmed, FConfigDocument::FLine& Line)
+/** Fills in a line that stands below a readable heading. */
+void ReadKeyAndValue(const FChars& Trimmed, FConfigDocument::FLine& Line)
+{
+	Line.Kind = FConfigDocument::ELine::Other;
+	const size_t Equals = Trimmed.find(TCHAR('='));
+	if (Trimmed[0] == ';' || Equals == FChars::npos)
 	{
-		Line.Kind = FConfigDocument::ELine::Other;
-		const size_t Equals = Trimmed.find(TCHAR('='));
-		if (Trimmed[0] == ';' || Equals == FChars::npos)
-		{
-			return;
-		}
-		const FChars Key = TrimConfigText(Trimmed.substr(0, Equals));
-		// Longer names cannot exist; such a line is somebody's text.
-		if (Key.empty() || Key.size() >= NAME_SIZE)
-		{
-			return;
-		}
-		Line.Kind = FConfigDocument::ELine::Value;
-		Line.KeyText = FString(Key.c_str());
-		Line.Key = FName(Key.c_str());
-		Line.Text = ReadConfigValue(TrimConfigText(Trimmed.substr(Equals + 1)));
+		return;
 	}
-
-	bool IsHalfPair(const FString& Value, int32 Index)
+	const FChars Key = TrimConfigText(Trimmed.substr(0, Equals));
+	// Longer names cannot exist; such a line is somebody's text.
+	if (Key.empty() || Key.size() >= NAME_SIZE)
 	{
-		const uint16 Char = uint16(Value[Index]);
-		if (Char >= 0xd800 && Char <= 0xdbff)
-		{
-			return Index + 1 >= Value.Len() || uint16(Value[Index + 1]) < 0xdc00 || uint16(Value[Index + 1]) > 0xdfff;
-		}
-		if (Char >= 0xdc00 && Char <= 0xdfff)
-		{
-			return Index == 0 || uint16(Value[Index - 1]) < 0xd800 || uint16(Value[Index - 1]) > 0xdbff;
-		}
+		return;
+	}
+	Line.Kind = FConfigDocument::ELine::Value;
+	Line.KeyText = FString(Key.c_str());
+	Line.Key = FName(Key.c_str());
+	Line.Text = ReadConfigValue(TrimConfigText(Trimmed.substr(Equals + 1)));
+}
+
+bool IsHalfPair(const FString& Value, int32 Index)
+{
+	const uint16 Char = uint16(Value[Index]);
+	if (Char >= 0xd800 && Char <= 0xdbff)
+	{
+		return Index + 1 >= Value.Len() || uint16(Value[Index + 1]) < 0xdc00 || uint16(Value[Index + 1]) > 0xdfff;
+	}
+	if (Char >= 0xdc00 && Char <= 0xdfff)
+	{
+		return Index == 0 || uint16(Value[Index - 1]) < 0xd800 || uint16(Value[Index - 1]) > 0xdbff;
+	}
+	return false;
+}
+
+bool NeedsQuotes(const FString& Value)
+{
+	if (Value.IsEmpty())
+	{
 		return false;
 	}
-
-	bool NeedsQuotes(const FString& Value)
+	const TCHAR First = Value[0];
+	const TCHAR Last = Value[Value.Len() - 1];
+	if (IsConfigBlank(First) || IsConfigBlank(Last) || First == '"' || Last == '\\')
 	{
-		if (Value.IsEmpty())
-		{
-			return false;
-		}
-		const TCHAR First = Value[0];
-		const TCHAR Last = Value[Value.Len() - 1];
-		if (IsConfigBlank(First) || IsConfigBlank(Last) || First == '"' || Last == '\\')
+		return true;
+	}
+	bool bInQuotes = false;
+	for (int32 Index = 0; Index < Value.Len(); ++Index)
+	{
+		const TCHAR Char = Value[Index];
+		bInQuotes = Char == '"' ? !bInQuotes : bInQuotes;
+		const bool bIsComment = Char == '/' && Index + 1 < Value.Len() && Value[Index + 1] == '/';
+		const bool bIsControl = uint16(Char) < 0x20 || uint16(Char) == 0x7f || IsHalfPair(Value, Index);
+		if ((bIsControl && Char != '\t') || (!bInQuotes && (Char == '{' || Char == '}' || bIsComment)))
 		{
 			return true;
 		}
-		bool bInQuotes = false;
-		for (int32 Index = 0; Index < Value.Len(); ++Index)
-		{
-			const TCHAR Char = Value[Index];
-			bInQuotes = Char == '"' ? !bInQuotes : bInQuotes;
-			const bool bIsComment = Char == '/' && Index + 1 < Value.Len() && Value[Index + 1] == '/';
-			const bool bIsControl = uint16(Char) < 0x20 || uint16(Char) == 0x7f || IsHalfPair(Value, Index);
-			if ((bIsControl && Char != '\t') || (!bInQuotes && (Char == '{' || Char == '}' || bIsComment)))
-			{
-				return true;
-			}
-		}
-		return false;
 	}
+	return false;
+}
 }
 
 TSharedRef<FConfigDocument> FConfigDocument::Parse(std::string InBytes)

@@ -75,12 +75,9 @@ FConfigFile::FConfigFile()
 	: Dirty(false)
 	, NoSave(false)
 	, SourceConfigFile(nullptr)
-{
-}
+{}
 
-FConfigFile::~FConfigFile()
-{
-}
+FConfigFile::~FConfigFile() {}
 
 FConfigFile::FConfigFile(const FConfigFile& Other) = default;
 FConfigFile& FConfigFile::operator=(const FConfigFile& Other) = default;

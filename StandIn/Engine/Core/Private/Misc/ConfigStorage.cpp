@@ -22,166 +22,164 @@ namespace StandIn
 {
 namespace
 {
-	/** No ini file of a person is larger. */
-	const std::uintmax_t MaxConfigBytes = 256 * 1024 * 1024;
+/** No ini file of a person is larger. */
+const std::uintmax_t MaxConfigBytes = 256 * 1024 * 1024;
 
-	TArray<FString>& OriginFiles()
-	{
-		static TArray<FString>* const Files = new TArray<FString>();
-		return *Files;
-	}
+TArray<FString>& OriginFiles()
+{
+	static TArray<FString>* const Files = new TArray<FString>();
+	return *Files;
+}
 
-	FString ReasonText(const std::string& Text)
-	{
-		return StandInPrivate::DecodeText(reinterpret_cast<const uint8*>(Text.data()), int64(Text.size()));
-	}
+FString ReasonText(const std::string& Text)
+{
+	return StandInPrivate::DecodeText(reinterpret_cast<const uint8*>(Text.data()), int64(Text.size()));
+}
 
-	FString ReadNoticeKey(const FString& Filename)
-	{
-		return TEXT("Config.Read:") + Filename;
-	}
+FString ReadNoticeKey(const FString& Filename)
+{
+	return TEXT("Config.Read:") + Filename;
+}
 
-	FString SaveNoticeKey(const FString& Filename)
-	{
-		return TEXT("Config.Save:") + Filename;
-	}
+FString SaveNoticeKey(const FString& Filename)
+{
+	return TEXT("Config.Save:") + Filename;
+}
 
-	FString AsideName(const FString& Filename, int32 Number)
-	{
-		return FString::Printf(TEXT("%s.unreadable-%d"), *Filename, Number);
-	}
+FString AsideName(const FString& Filename, int32 Number)
+{
+	return FString::Printf(TEXT("%s.unreadable-%d"), *Filename, Number);
+}
 
-	/** Whether anything, file or other, has this name. */
-	bool NameIsTaken(const FString& Filename)
-	{
-		std::filesystem::path Path;
-		std::error_code Error;
-		return StandInPrivate::ToNativePath(*Filename, Path)
-			&& std::filesystem::exists(std::filesystem::symlink_status(Path, Error));
-	}
+/** Whether anything, file or other, has this name. */
+bool NameIsTaken(const FString& Filename)
+{
+	std::filesystem::path Path;
+	std::error_code Error;
+	return StandInPrivate::ToNativePath(*Filename, Path) && std::filesystem::exists(std::filesystem::symlink_status(Path, Error));
+}
 
-	/** The first free name aside, or the name of an earlier copy of the same bytes. */
-	FString FindAsideName(const FString& Filename, const std::string* Bytes, bool& bOutIsKept)
+/** The first free name aside, or the name of an earlier copy of the same bytes. */
+FString FindAsideName(const FString& Filename, const std::string* Bytes, bool& bOutIsKept)
+{
+	bOutIsKept = false;
+	for (int32 Number = 1;; ++Number)
 	{
-		bOutIsKept = false;
-		for (int32 Number = 1;; ++Number)
+		const FString Name = AsideName(Filename, Number);
+		if (!NameIsTaken(Name))
 		{
-			const FString Name = AsideName(Filename, Number);
-			if (!NameIsTaken(Name))
-			{
-				return Name;
-			}
-			std::string Earlier;
-			FString Reason;
-			if (Bytes && ReadConfigBytes(Name, Earlier, Reason) == EConfigRead::Read && Earlier == *Bytes)
-			{
-				bOutIsKept = true;
-				return Name;
-			}
+			return Name;
+		}
+		std::string Earlier;
+		FString Reason;
+		if (Bytes && ReadConfigBytes(Name, Earlier, Reason) == EConfigRead::Read && Earlier == *Bytes)
+		{
+			bOutIsKept = true;
+			return Name;
 		}
 	}
+}
 
-	/** Renames a file that cannot be read. */
-	bool MoveAside(const FString& Filename, FString& OutName, FString& OutReason)
+/** Renames a file that cannot be read. */
+bool MoveAside(const FString& Filename, FString& OutName, FString& OutReason)
+{
+	std::filesystem::path From;
+	std::filesystem::path To;
+	std::error_code Error;
+	bool bIsKept = false;
+	OutName = FindAsideName(Filename, nullptr, bIsKept);
+	if (!StandInPrivate::ToNativePath(*Filename, From) || !StandInPrivate::ToNativePath(*OutName, To))
 	{
-		std::filesystem::path From;
-		std::filesystem::path To;
-		std::error_code Error;
-		bool bIsKept = false;
-		OutName = FindAsideName(Filename, nullptr, bIsKept);
-		if (!StandInPrivate::ToNativePath(*Filename, From) || !StandInPrivate::ToNativePath(*OutName, To))
-		{
-			OutReason = TEXT("the file name is not valid");
-			return false;
-		}
-		std::filesystem::rename(From, To, Error);
-		OutReason = Error ? ReasonText(Error.message()) : FString();
-		return !Error;
+		OutReason = TEXT("the file name is not valid");
+		return false;
 	}
+	std::filesystem::rename(From, To, Error);
+	OutReason = Error ? ReasonText(Error.message()) : FString();
+	return !Error;
+}
 
-	FString LinesAre(int32 FirstLine, int32 NumLines)
-	{
-		return NumLines == 1 ? FString::Printf(TEXT("line %d is not text and is ignored"), FirstLine)
-							 : FString::Printf(TEXT("%d lines, the first is line %d, are not text and are ignored"), NumLines, FirstLine);
-	}
+FString LinesAre(int32 FirstLine, int32 NumLines)
+{
+	return NumLines == 1 ? FString::Printf(TEXT("line %d is not text and is ignored"), FirstLine)
+						 : FString::Printf(TEXT("%d lines, the first is line %d, are not text and are ignored"), NumLines, FirstLine);
+}
 
-	/**
+/**
 	 * Keeps a copy of a file with unreadable lines, once, and tells a person: on loading in any case, on saving when the copy
 	 * could only be made now. False when there is no copy.
 	 */
-	bool KeepUnreadable(const FString& Filename, const FConfigDocument& Document, bool bLoading)
+bool KeepUnreadable(const FString& Filename, const FConfigDocument& Document, bool bLoading)
+{
+	int32 NumLines = 0;
+	const int32 FirstLine = Document.FirstUnreadableLine(NumLines);
+	if (NumLines == 0)
 	{
-		int32 NumLines = 0;
-		const int32 FirstLine = Document.FirstUnreadableLine(NumLines);
-		if (NumLines == 0)
-		{
-			return true;
-		}
-		bool bIsKept = false;
-		FString Reason;
-		const FString Aside = FindAsideName(Filename, &Document.Bytes, bIsKept);
-		if (bIsKept && !bLoading)
-		{
-			return true;
-		}
-		bIsKept = bIsKept || SaveFileAtomically(Aside, Document.Bytes.data(), int64(Document.Bytes.size()), Reason);
-		if (bIsKept || bLoading)
-		{
-			const FString Done = bIsKept
-				? FString::Printf(TEXT("the file as it was is kept as %s"), *Aside)
-				: FString::Printf(TEXT("the file could not be copied to %s (%s), so it will not be saved over"), *Aside, *Reason);
-			ClearNotice(ReadNoticeKey(Filename));
-			AddNotice(ReadNoticeKey(Filename),
-				FString::Printf(TEXT("%s:%d: %s; %s."), *Filename, FirstLine, *LinesAre(FirstLine, NumLines), *Done));
-		}
-		return bIsKept;
-	}
-
-	bool FailSave(const FString& Filename, const FString& Reason)
-	{
-		AddNotice(SaveNoticeKey(Filename),
-			FString::Printf(TEXT("The settings could not be saved to %s: %s. They stay in use and are saved with the next change once "
-								 "this is put right."),
-				*Filename, *Reason));
-		return false;
-	}
-
-	/** The lines that a save edits. */
-	struct FLinesToEdit
-	{
-		TSharedPtr<FConfigDocument> Lines;
-		bool bAreOnDisk = false;
-	};
-
-	/** Finds the lines to edit: those on disk now, or those last known when the file has gone; false when it must not be written. */
-	bool FindLinesToEdit(
-		const FString& Filename, const TSharedPtr<FConfigDocument>& Last, FLinesToEdit& Out, FString& OutReason)
-	{
-		std::string Bytes;
-		const EConfigRead Result = ReadConfigBytes(Filename, Bytes, OutReason);
-		Out.bAreOnDisk = Result == EConfigRead::Read;
-		if (Out.bAreOnDisk && !(Last.IsValid() && Bytes == Last->Bytes))
-		{
-			Out.Lines = FConfigDocument::Parse(std::move(Bytes));
-		}
-		else
-		{
-			Out.Lines = Last.IsValid() ? Last : TSharedPtr<FConfigDocument>(FConfigDocument::Parse(std::string()));
-		}
-		if (Out.bAreOnDisk && !KeepUnreadable(Filename, *Out.Lines, false))
-		{
-			OutReason = TEXT("the file there has lines that are not text, and it could not be copied aside");
-			return false;
-		}
-		FString Aside;
-		FString Why;
-		if (Result == EConfigRead::Failed && !MoveAside(Filename, Aside, Why))
-		{
-			OutReason = FString::Printf(TEXT("the file there cannot be read (%s) and cannot be renamed (%s)"), *OutReason, *Why);
-			return false;
-		}
 		return true;
 	}
+	bool bIsKept = false;
+	FString Reason;
+	const FString Aside = FindAsideName(Filename, &Document.Bytes, bIsKept);
+	if (bIsKept && !bLoading)
+	{
+		return true;
+	}
+	bIsKept = bIsKept || SaveFileAtomically(Aside, Document.Bytes.data(), int64(Document.Bytes.size()), Reason);
+	if (bIsKept || bLoading)
+	{
+		const FString Done = bIsKept
+			? FString::Printf(TEXT("the file as it was is kept as %s"), *Aside)
+			: FString::Printf(TEXT("the file could not be copied to %s (%s), so it will not be saved over"), *Aside, *Reason);
+		ClearNotice(ReadNoticeKey(Filename));
+		AddNotice(
+			ReadNoticeKey(Filename), FString::Printf(TEXT("%s:%d: %s; %s."), *Filename, FirstLine, *LinesAre(FirstLine, NumLines), *Done));
+	}
+	return bIsKept;
+}
+
+bool FailSave(const FString& Filename, const FString& Reason)
+{
+	AddNotice(SaveNoticeKey(Filename),
+		FString::Printf(TEXT("The settings could not be saved to %s: %s. They stay in use and are saved with the next change once "
+							 "this is put right."),
+			*Filename, *Reason));
+	return false;
+}
+
+/** The lines that a save edits. */
+struct FLinesToEdit
+{
+	TSharedPtr<FConfigDocument> Lines;
+	bool bAreOnDisk = false;
+};
+
+/** Finds the lines to edit: those on disk now, or those last known when the file has gone; false when it must not be written. */
+bool FindLinesToEdit(const FString& Filename, const TSharedPtr<FConfigDocument>& Last, FLinesToEdit& Out, FString& OutReason)
+{
+	std::string Bytes;
+	const EConfigRead Result = ReadConfigBytes(Filename, Bytes, OutReason);
+	Out.bAreOnDisk = Result == EConfigRead::Read;
+	if (Out.bAreOnDisk && !(Last.IsValid() && Bytes == Last->Bytes))
+	{
+		Out.Lines = FConfigDocument::Parse(std::move(Bytes));
+	}
+	else
+	{
+		Out.Lines = Last.IsValid() ? Last : TSharedPtr<FConfigDocument>(FConfigDocument::Parse(std::string()));
+	}
+	if (Out.bAreOnDisk && !KeepUnreadable(Filename, *Out.Lines, false))
+	{
+		OutReason = TEXT("the file there has lines that are not text, and it could not be copied aside");
+		return false;
+	}
+	FString Aside;
+	FString Why;
+	if (Result == EConfigRead::Failed && !MoveAside(Filename, Aside, Why))
+	{
+		OutReason = FString::Printf(TEXT("the file there cannot be read (%s) and cannot be renamed (%s)"), *OutReason, *Why);
+		return false;
+	}
+	return true;
+}
 }
 
 int32 InternConfigOriginFile(const FString& Filename)
@@ -275,7 +273,8 @@ void NoticeHierarchyFile(const FString& Filename, const FString& Reason, int32 F
 {
 	const FString Text = NumLines > 0
 		? FString::Printf(TEXT("%s:%d: %s; correct the file."), *Filename, FirstLine, *LinesAre(FirstLine, NumLines))
-		: FString::Printf(TEXT("The settings in %s cannot be read: %s; they are not used until the file is put right."), *Filename, *Reason);
+		: FString::Printf(
+			TEXT("The settings in %s cannot be read: %s; they are not used until the file is put right."), *Filename, *Reason);
 	AddNotice(ReadNoticeKey(Filename), Text);
 }
 

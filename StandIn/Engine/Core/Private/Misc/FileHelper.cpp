@@ -124,8 +124,7 @@ bool FFileHelper::SaveStringToFile(
 	(void)FileManager;
 	(void)WriteFlags;
 	std::string Bytes;
-	if (EncodingOptions == EEncodingOptions::ForceUnicode
-		|| (EncodingOptions == EEncodingOptions::AutoDetect && !IsAscii(String)))
+	if (EncodingOptions == EEncodingOptions::ForceUnicode || (EncodingOptions == EEncodingOptions::AutoDetect && !IsAscii(String)))
 	{
 		Bytes = "\xff\xfe";
 		for (int32 Index = 0; Index < String.Len(); ++Index)

@@ -45,8 +45,7 @@ bool FOutputDeviceFile::Open()
 	}
 	bFailed = true;
 	const FString Folder = FPaths::GetPath(Filename);
-	if ((!Folder.IsEmpty() && !IFileManager::Get().MakeDirectory(*Folder, true))
-		|| !StandInPrivate::ToNativePath(*Filename, Path))
+	if ((!Folder.IsEmpty() && !IFileManager::Get().MakeDirectory(*Folder, true)) || !StandInPrivate::ToNativePath(*Filename, Path))
 	{
 		return false;
 	}

@@ -15,16 +15,15 @@ namespace
 FString FormatMoment(std::chrono::system_clock::time_point Moment, bool bLocal)
 {
 	const std::time_t Seconds = std::chrono::system_clock::to_time_t(Moment);
-	const int32 Milliseconds =
-		int32(std::chrono::duration_cast<std::chrono::milliseconds>(Moment.time_since_epoch()).count() % 1000);
+	const int32 Milliseconds = int32(std::chrono::duration_cast<std::chrono::milliseconds>(Moment.time_since_epoch()).count() % 1000);
 	const std::tm* const Found = bLocal ? std::localtime(&Seconds) : std::gmtime(&Seconds);
 	if (!Found)
 	{
 		return FString();
 	}
 	const std::tm Parts = *Found;
-	return FString::Printf(TEXT("[%d.%02d.%02d-%02d.%02d.%02d:%03d]"), Parts.tm_year + 1900, Parts.tm_mon + 1, Parts.tm_mday,
-		Parts.tm_hour, Parts.tm_min, Parts.tm_sec, Milliseconds);
+	return FString::Printf(TEXT("[%d.%02d.%02d-%02d.%02d.%02d:%03d]"), Parts.tm_year + 1900, Parts.tm_mon + 1, Parts.tm_mday, Parts.tm_hour,
+		Parts.tm_min, Parts.tm_sec, Milliseconds);
 }
 
 FString FormatLogTime(ELogTimes::Type LogTime, double Time)
@@ -34,8 +33,7 @@ FString FormatLogTime(ELogTimes::Type LogTime, double Time)
 	{
 	case ELogTimes::UTC:
 	case ELogTimes::Local:
-		return FormatMoment(std::chrono::system_clock::now(), LogTime == ELogTimes::Local)
-			+ FString::Printf(TEXT("[%3d]"), Frame);
+		return FormatMoment(std::chrono::system_clock::now(), LogTime == ELogTimes::Local) + FString::Printf(TEXT("[%3d]"), Frame);
 	case ELogTimes::SinceGStartTime:
 		return FString::Printf(TEXT("[%07.2f][%3d]"), Time < 0.0 ? FPlatformTime::Seconds() - GStartTime : Time, Frame);
 	default:

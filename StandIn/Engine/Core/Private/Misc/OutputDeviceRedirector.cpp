@@ -14,21 +14,18 @@
 #include <thread>
 #include <vector>
 
-namespace
-{
-/** A line that waits for the master thread or for a later device. */
-struct FWaitingLine
-{
-	FString Text;
-	ELogVerbosity::Type Verbosity;
-	FName Category;
-	double Time;
-	StandInPrivate::FLogSource Source;
-};
-}
-
 struct FOutputDeviceRedirector::FState
 {
+	/** A line that waits for the master thread or for a later device. */
+	struct FWaitingLine
+	{
+		FString Text;
+		ELogVerbosity::Type Verbosity;
+		FName Category;
+		double Time;
+		StandInPrivate::FLogSource Source;
+	};
+
 	/** Recursive, because a device may log or remove itself while it takes a line. */
 	mutable std::recursive_mutex Mutex;
 	TArray<FOutputDevice*> Devices;
@@ -163,8 +160,8 @@ void FOutputDeviceRedirector::EnableBacklog(bool bEnable)
 void FOutputDeviceRedirector::SerializeBacklog(FOutputDevice* OutputDevice)
 {
 	const std::lock_guard<std::recursive_mutex> Lock(State->Mutex);
-	const std::vector<FWaitingLine> Lines = State->Backlog;
-	for (const FWaitingLine& Line : Lines)
+	const std::vector<FState::FWaitingLine> Lines = State->Backlog;
+	for (const FState::FWaitingLine& Line : Lines)
 	{
 		OutputDevice->Serialize(*Line.Text, Line.Verbosity, Line.Category, Line.Time);
 	}
@@ -192,11 +189,11 @@ void FOutputDeviceRedirector::Serialize(const TCHAR* V, ELogVerbosity::Type Verb
 	}
 	else
 	{
-		State->Waiting.push_back(FWaitingLine{V, Verbosity, Category, Time, Source});
+		State->Waiting.push_back(FState::FWaitingLine{V, Verbosity, Category, Time, Source});
 	}
 	if (State->bEnableBacklog)
 	{
-		State->Backlog.push_back(FWaitingLine{V, Verbosity, Category, Time, Source});
+		State->Backlog.push_back(FState::FWaitingLine{V, Verbosity, Category, Time, Source});
 	}
 	State->Deliver(V, Verbosity, Category, Time, true, bOnMaster);
 }

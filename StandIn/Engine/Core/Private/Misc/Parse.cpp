@@ -203,8 +203,7 @@ bool FParse::Param(const TCHAR* Stream, const TCHAR* Param)
 		bInQuotes = *At == '"' ? !bInQuotes : bInQuotes;
 		const bool bStartsWord = At == Stream || IsBlank(At[-1]) || At[-1] == '"';
 		const TCHAR* Rest = nullptr;
-		if (!bInQuotes && bStartsWord && (*At == '-' || *At == '/') && StartsWithText(At + 1, Param, Rest)
-			&& (!*Rest || IsBlank(*Rest)))
+		if (!bInQuotes && bStartsWord && (*At == '-' || *At == '/') && StartsWithText(At + 1, Param, Rest) && (!*Rest || IsBlank(*Rest)))
 		{
 			return true;
 		}

@@ -48,9 +48,7 @@ FModuleManager::FModuleManager()
 	StandIn::AddRegistry(TEXT("Modules"), [](TArray<StandIn::FRegistration>& Out) { FModuleManagerAccess::ListModules(Out); });
 }
 
-FModuleManager::~FModuleManager()
-{
-}
+FModuleManager::~FModuleManager() {}
 
 FModuleManager& FModuleManager::Get()
 {
@@ -86,8 +84,8 @@ void FModuleManager::AddModule(const FName InModuleName)
 
 FString FModuleManager::FindModuleFile(const FString& ModuleName) const
 {
-	const FString Leaf = FString(FPlatformProcess::GetModulePrefix()) + TEXT("UE4Editor-") + ModuleName + TEXT(".")
-		+ FPlatformProcess::GetModuleExtension();
+	const FString Leaf =
+		FString(FPlatformProcess::GetModulePrefix()) + TEXT("UE4Editor-") + ModuleName + TEXT(".") + FPlatformProcess::GetModuleExtension();
 	const FString InEngine = FPaths::Combine(FPlatformProcess::BaseDir(), Leaf);
 	if (FPaths::FileExists(InEngine))
 	{
@@ -188,8 +186,7 @@ IModuleInterface* FModuleManager::LoadLibraryModule(FName InModuleName, FModuleI
 	return StartModule(InModuleName, Info, Initialize(), OutResult);
 }
 
-IModuleInterface* FModuleManager::StartModule(
-	FName InModuleName, FModuleInfo& Info, IModuleInterface* Module, EModuleLoadResult& OutResult)
+IModuleInterface* FModuleManager::StartModule(FName InModuleName, FModuleInfo& Info, IModuleInterface* Module, EModuleLoadResult& OutResult)
 {
 	if (!Module)
 	{

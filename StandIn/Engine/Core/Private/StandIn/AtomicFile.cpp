@@ -19,190 +19,189 @@ namespace StandIn
 {
 namespace
 {
-	typedef StandInPrivate::FAtomicFilePlatform FPlatform;
+typedef StandInPrivate::FAtomicFilePlatform FPlatform;
 
-	const char* const TemporaryMark = ".tmp-";
+const char* const TemporaryMark = ".tmp-";
 
-	FAtomicFileHook AtomicFileHook = nullptr;
+FAtomicFileHook AtomicFileHook = nullptr;
 
-	/** Names of this process's temporaries that are being written. */
-	struct FTemporariesInUse
+/** Names of this process's temporaries that are being written. */
+struct FTemporariesInUse
+{
+	std::mutex Mutex;
+	std::set<std::filesystem::path> Names;
+	uint64 Counter = 0;
+};
+
+FTemporariesInUse& TemporariesInUse()
+{
+	static FTemporariesInUse* const InUse = new FTemporariesInUse();
+	return *InUse;
+}
+
+bool RunHook(EAtomicFileStep Step, const FString& FileName, std::string& OutReason)
+{
+	if (AtomicFileHook && !AtomicFileHook(Step, *FileName))
 	{
-		std::mutex Mutex;
-		std::set<std::filesystem::path> Names;
-		uint64 Counter = 0;
-	};
-
-	FTemporariesInUse& TemporariesInUse()
-	{
-		static FTemporariesInUse* const InUse = new FTemporariesInUse();
-		return *InUse;
+		OutReason = "injected failure";
+		return false;
 	}
+	return true;
+}
 
-	bool RunHook(EAtomicFileStep Step, const FString& FileName, std::string& OutReason)
+/** The file that is really to be replaced: what a symbolic link names, else the file itself. */
+bool ResolveTarget(const FString& FileName, std::filesystem::path& OutTarget)
+{
+	if (!StandInPrivate::ToNativePath(*FileName, OutTarget))
 	{
-		if (AtomicFileHook && !AtomicFileHook(Step, *FileName))
-		{
-			OutReason = "injected failure";
-			return false;
-		}
-		return true;
+		return false;
 	}
-
-	/** The file that is really to be replaced: what a symbolic link names, else the file itself. */
-	bool ResolveTarget(const FString& FileName, std::filesystem::path& OutTarget)
+	std::error_code Error;
+	if (std::filesystem::is_symlink(OutTarget, Error))
 	{
-		if (!StandInPrivate::ToNativePath(*FileName, OutTarget))
+		const std::filesystem::path Real = std::filesystem::weakly_canonical(OutTarget, Error);
+		if (!Error)
 		{
-			return false;
+			OutTarget = Real;
 		}
+	}
+	return true;
+}
+
+std::filesystem::path TemporaryName(const std::filesystem::path& Target, uint64 Number)
+{
+	std::filesystem::path Name = Target;
+	Name += TemporaryMark + std::to_string(FPlatformProcess::GetCurrentProcessId()) + "-" + std::to_string(Number);
+	return Name;
+}
+
+/** A temporary that deletes itself unless it has taken the target's place. */
+class FTemporary
+{
+public:
+	~FTemporary()
+	{
+		std::string Ignored;
 		std::error_code Error;
-		if (std::filesystem::is_symlink(OutTarget, Error))
+		if (bOpen)
 		{
-			const std::filesystem::path Real = std::filesystem::weakly_canonical(OutTarget, Error);
-			if (!Error)
-			{
-				OutTarget = Real;
-			}
+			FPlatform::Close(Handle, Ignored);
 		}
-		return true;
+		if (!Path.empty())
+		{
+			if (!bReplaced)
+			{
+				std::filesystem::remove(Path, Error);
+			}
+			const std::lock_guard<std::mutex> Lock(TemporariesInUse().Mutex);
+			TemporariesInUse().Names.erase(Path);
+		}
 	}
 
-	std::filesystem::path TemporaryName(const std::filesystem::path& Target, uint64 Number)
+	bool Create(const std::filesystem::path& Target, std::string& OutReason)
 	{
-		std::filesystem::path Name = Target;
-		Name += TemporaryMark + std::to_string(FPlatformProcess::GetCurrentProcessId()) + "-" + std::to_string(Number);
-		return Name;
-	}
-
-	/** A temporary that deletes itself unless it has taken the target's place. */
-	class FTemporary
-	{
-	public:
-		~FTemporary()
+		FTemporariesInUse& InUse = TemporariesInUse();
+		const std::lock_guard<std::mutex> Lock(InUse.Mutex);
+		for (int32 Try = 0; Try < 1000; ++Try)
 		{
-			std::string Ignored;
-			std::error_code Error;
-			if (bOpen)
+			const std::filesystem::path Name = TemporaryName(Target, ++InUse.Counter);
+			const FPlatform::ECreate Created = FPlatform::Create(Name, Target, Handle, OutReason);
+			if (Created == FPlatform::ECreate::Created)
 			{
-				FPlatform::Close(Handle, Ignored);
+				Path = Name;
+				bOpen = true;
+				InUse.Names.insert(Path);
+				return true;
 			}
-			if (!Path.empty())
+			if (Created == FPlatform::ECreate::Failed)
 			{
-				if (!bReplaced)
-				{
-					std::filesystem::remove(Path, Error);
-				}
-				const std::lock_guard<std::mutex> Lock(TemporariesInUse().Mutex);
-				TemporariesInUse().Names.erase(Path);
+				return false;
 			}
 		}
-
-		bool Create(const std::filesystem::path& Target, std::string& OutReason)
-		{
-			FTemporariesInUse& InUse = TemporariesInUse();
-			const std::lock_guard<std::mutex> Lock(InUse.Mutex);
-			for (int32 Try = 0; Try < 1000; ++Try)
-			{
-				const std::filesystem::path Name = TemporaryName(Target, ++InUse.Counter);
-				const FPlatform::ECreate Created = FPlatform::Create(Name, Target, Handle, OutReason);
-				if (Created == FPlatform::ECreate::Created)
-				{
-					Path = Name;
-					bOpen = true;
-					InUse.Names.insert(Path);
-					return true;
-				}
-				if (Created == FPlatform::ECreate::Failed)
-				{
-					return false;
-				}
-			}
-			return false;
-		}
-
-		bool Close(std::string& OutReason)
-		{
-			bOpen = false;
-			return FPlatform::Close(Handle, OutReason);
-		}
-
-		bool Replace(const std::filesystem::path& Target, std::string& OutReason)
-		{
-			bReplaced = FPlatform::Replace(Path, Target, OutReason);
-			return bReplaced;
-		}
-
-		FPlatform::FHandle Handle = 0;
-
-	private:
-		std::filesystem::path Path;
-		bool bOpen = false;
-		bool bReplaced = false;
-	};
-
-	bool SaveWhole(const FString& FileName, const char* Bytes, int64 NumBytes, std::string& OutReason)
-	{
-		std::filesystem::path Target;
-		if (!ResolveTarget(FileName, Target))
-		{
-			OutReason = "the file name is not valid";
-			return false;
-		}
-		std::error_code Error;
-		if (std::filesystem::is_directory(Target, Error))
-		{
-			OutReason = "it is a folder";
-			return false;
-		}
-		if (IFileManager::Get().IsReadOnly(*FileName))
-		{
-			OutReason = "the file is read-only";
-			return false;
-		}
-		FTemporary Temporary;
-		const int64 Half = NumBytes / 2;
-		if (!RunHook(EAtomicFileStep::CreateTemporary, FileName, OutReason) || !Temporary.Create(Target, OutReason)
-			|| !FPlatform::Write(Temporary.Handle, Bytes, Half, OutReason) || !RunHook(EAtomicFileStep::Write, FileName, OutReason)
-			|| !FPlatform::Write(Temporary.Handle, Bytes + Half, NumBytes - Half, OutReason)
-			|| !RunHook(EAtomicFileStep::FlushFile, FileName, OutReason) || !FPlatform::FlushFile(Temporary.Handle, OutReason)
-			|| !Temporary.Close(OutReason) || !RunHook(EAtomicFileStep::Replace, FileName, OutReason)
-			|| !Temporary.Replace(Target, OutReason))
-		{
-			return false;
-		}
-		const std::filesystem::path Folder = Target.has_parent_path() ? Target.parent_path() : std::filesystem::path(".");
-		if (!RunHook(EAtomicFileStep::FlushFolder, FileName, OutReason) || !FPlatform::FlushFolder(Folder, OutReason))
-		{
-			OutReason += " (the new file is in place but might not outlive a power cut)";
-			return false;
-		}
-		return true;
+		return false;
 	}
 
-	/** Reads "<process>-<number>" behind the mark of a temporary's name; false for anything else. */
-	bool ReadTemporaryMark(const std::filesystem::path& Name, const std::filesystem::path& Start, uint32& OutProcess)
+	bool Close(std::string& OutReason)
 	{
-		const std::filesystem::path::string_type& Native = Name.native();
-		if (Native.compare(0, Start.native().size(), Start.native()) != 0)
-		{
-			return false;
-		}
-		std::string Text;
-		for (size_t Index = Start.native().size(); Index < Native.size(); ++Index)
-		{
-			const uint32 Unit = uint32(Native[Index]);
-			Text += Unit < 0x80 ? char(Unit) : '?';
-		}
-		const size_t Dash = Text.find('-');
-		if (Dash == std::string::npos || Dash == 0 || Dash > 9 || Dash + 1 == Text.size()
-			|| Text.find_first_not_of("0123456789-") != std::string::npos || Text.find('-', Dash + 1) != std::string::npos)
-		{
-			return false;
-		}
-		OutProcess = uint32(std::stoul(Text.substr(0, Dash)));
-		return true;
+		bOpen = false;
+		return FPlatform::Close(Handle, OutReason);
 	}
+
+	bool Replace(const std::filesystem::path& Target, std::string& OutReason)
+	{
+		bReplaced = FPlatform::Replace(Path, Target, OutReason);
+		return bReplaced;
+	}
+
+	FPlatform::FHandle Handle = 0;
+
+private:
+	std::filesystem::path Path;
+	bool bOpen = false;
+	bool bReplaced = false;
+};
+
+bool SaveWhole(const FString& FileName, const char* Bytes, int64 NumBytes, std::string& OutReason)
+{
+	std::filesystem::path Target;
+	if (!ResolveTarget(FileName, Target))
+	{
+		OutReason = "the file name is not valid";
+		return false;
+	}
+	std::error_code Error;
+	if (std::filesystem::is_directory(Target, Error))
+	{
+		OutReason = "it is a folder";
+		return false;
+	}
+	if (IFileManager::Get().IsReadOnly(*FileName))
+	{
+		OutReason = "the file is read-only";
+		return false;
+	}
+	FTemporary Temporary;
+	const int64 Half = NumBytes / 2;
+	if (!RunHook(EAtomicFileStep::CreateTemporary, FileName, OutReason) || !Temporary.Create(Target, OutReason)
+		|| !FPlatform::Write(Temporary.Handle, Bytes, Half, OutReason) || !RunHook(EAtomicFileStep::Write, FileName, OutReason)
+		|| !FPlatform::Write(Temporary.Handle, Bytes + Half, NumBytes - Half, OutReason)
+		|| !RunHook(EAtomicFileStep::FlushFile, FileName, OutReason) || !FPlatform::FlushFile(Temporary.Handle, OutReason)
+		|| !Temporary.Close(OutReason) || !RunHook(EAtomicFileStep::Replace, FileName, OutReason) || !Temporary.Replace(Target, OutReason))
+	{
+		return false;
+	}
+	const std::filesystem::path Folder = Target.has_parent_path() ? Target.parent_path() : std::filesystem::path(".");
+	if (!RunHook(EAtomicFileStep::FlushFolder, FileName, OutReason) || !FPlatform::FlushFolder(Folder, OutReason))
+	{
+		OutReason += " (the new file is in place but might not outlive a power cut)";
+		return false;
+	}
+	return true;
+}
+
+/** Reads "<process>-<number>" behind the mark of a temporary's name; false for anything else. */
+bool ReadTemporaryMark(const std::filesystem::path& Name, const std::filesystem::path& Start, uint32& OutProcess)
+{
+	const std::filesystem::path::string_type& Native = Name.native();
+	if (Native.compare(0, Start.native().size(), Start.native()) != 0)
+	{
+		return false;
+	}
+	std::string Text;
+	for (size_t Index = Start.native().size(); Index < Native.size(); ++Index)
+	{
+		const uint32 Unit = uint32(Native[Index]);
+		Text += Unit < 0x80 ? char(Unit) : '?';
+	}
+	const size_t Dash = Text.find('-');
+	if (Dash == std::string::npos || Dash == 0 || Dash > 9 || Dash + 1 == Text.size()
+		|| Text.find_first_not_of("0123456789-") != std::string::npos || Text.find('-', Dash + 1) != std::string::npos)
+	{
+		return false;
+	}
+	OutProcess = uint32(std::stoul(Text.substr(0, Dash)));
+	return true;
+}
 }
 
 FAtomicFileHook SetAtomicFileHook(FAtomicFileHook Hook)
@@ -246,7 +245,9 @@ int32 SweepTemporaries(const FString& FileName)
 			LeftOver.push_back(It->path());
 		}
 	}
-	return int32(std::count_if(LeftOver.begin(), LeftOver.end(),
-		[](const std::filesystem::path& Path) { std::error_code Failed; return std::filesystem::remove(Path, Failed); }));
+	return int32(std::count_if(LeftOver.begin(), LeftOver.end(), [](const std::filesystem::path& Path) {
+		std::error_code Failed;
+		return std::filesystem::remove(Path, Failed);
+	}));
 }
 }

@@ -25,8 +25,8 @@ struct FAtomicFilePlatform
 	};
 
 	/** Creates a new file with the rights of the file it is to replace. */
-	static ECreate Create(const std::filesystem::path& Temporary, const std::filesystem::path& Target, FHandle& OutHandle,
-		std::string& OutReason);
+	static ECreate Create(
+		const std::filesystem::path& Temporary, const std::filesystem::path& Target, FHandle& OutHandle, std::string& OutReason);
 	static bool Write(FHandle Handle, const char* Bytes, int64 NumBytes, std::string& OutReason);
 	static bool FlushFile(FHandle Handle, std::string& OutReason);
 	static bool Close(FHandle Handle, std::string& OutReason);

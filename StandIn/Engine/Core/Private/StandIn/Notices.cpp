@@ -10,17 +10,17 @@ namespace StandIn
 {
 namespace
 {
-	struct FNoticeState
-	{
-		TArray<FNotice> Notices;
-		FOnNotice OnNotice;
-	};
+struct FNoticeState
+{
+	TArray<FNotice> Notices;
+	FOnNotice OnNotice;
+};
 
-	FNoticeState& NoticeState()
-	{
-		static FNoticeState* const State = new FNoticeState();
-		return *State;
-	}
+FNoticeState& NoticeState()
+{
+	static FNoticeState* const State = new FNoticeState();
+	return *State;
+}
 }
 
 void AddNotice(const FString& Key, const FString& Text)

@@ -13,8 +13,7 @@ namespace StandIn
 FStdOutOutputDevice::FStdOutOutputDevice(ELogVerbosity::Type InMaxVerbosity, ELogTimes::Type InLogTimes)
 	: MaxVerbosity(InMaxVerbosity)
 	, LogTimes(InLogTimes)
-{
-}
+{}
 
 void FStdOutOutputDevice::Serialize(const TCHAR* V, ELogVerbosity::Type Verbosity, const FName& Category)
 {

@@ -32,8 +32,8 @@ public:
 	virtual bool Delete(const TCHAR* Filename, bool bRequireExists = false, bool bEvenReadOnly = false, bool bQuiet = false) = 0;
 
 	/** Moves a file; an existing target is replaced if asked for. */
-	virtual bool Move(const TCHAR* Dest, const TCHAR* Src, bool bReplace = true, bool bEvenIfReadOnly = false,
-		bool bAttributes = false, bool bDoNotRetryOrError = false) = 0;
+	virtual bool Move(const TCHAR* Dest, const TCHAR* Src, bool bReplace = true, bool bEvenIfReadOnly = false, bool bAttributes = false,
+		bool bDoNotRetryOrError = false) = 0;
 
 	/** Copies a file; returns 0 for success, 1 for failure. */
 	virtual uint32 Copy(const TCHAR* Dest, const TCHAR* Src, bool bReplace = true, bool bEvenIfReadOnly = false) = 0;

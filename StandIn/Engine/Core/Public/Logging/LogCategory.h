@@ -14,8 +14,7 @@
 struct CORE_API FLogCategoryBase
 {
 	/** Registers the category; the configuration or command line may already replace the default verbosity here. */
-	FLogCategoryBase(
-		const TCHAR* InCategoryName, ELogVerbosity::Type InDefaultVerbosity, ELogVerbosity::Type InCompileTimeVerbosity);
+	FLogCategoryBase(const TCHAR* InCategoryName, ELogVerbosity::Type InDefaultVerbosity, ELogVerbosity::Type InCompileTimeVerbosity);
 
 	/** Takes the category out of the suppression interface. */
 	~FLogCategoryBase();
@@ -68,6 +67,5 @@ struct FLogCategory : public FLogCategoryBase
 	/** Registers the category under this name. */
 	FORCEINLINE FLogCategory(const TCHAR* InCategoryName)
 		: FLogCategoryBase(InCategoryName, ELogVerbosity::Type(InDefaultVerbosity), ELogVerbosity::Type(CompileTimeVerbosity))
-	{
-	}
+	{}
 };

@@ -17,12 +17,11 @@ struct CORE_API FMsg
 {
 	/** Formats one line and sends it to GWarn (Error, Warning, Display) or GLog; a Fatal line ends the process. */
 	template <typename FmtType, typename... Types>
-	static void Logf(const ANSICHAR* File, int32 Line, const FName& Category, ELogVerbosity::Type Verbosity, const FmtType& Fmt,
-		Types... Args)
+	static void Logf(
+		const ANSICHAR* File, int32 Line, const FName& Category, ELogVerbosity::Type Verbosity, const FmtType& Fmt, Types... Args)
 	{
 		static_assert(TIsArrayOrRefOfType<FmtType, TCHAR>::Value, "Formatting string must be a TCHAR array.");
-		static_assert(
-			TAreValidVariadicFunctionArgs<Types...>::Value, "Invalid argument(s) passed to FMsg::Logf");
+		static_assert(TAreValidVariadicFunctionArgs<Types...>::Value, "Invalid argument(s) passed to FMsg::Logf");
 		Logf_Internal(File, Line, Category, Verbosity, Fmt, Args...);
 	}
 
@@ -40,11 +39,10 @@ struct CORE_API FMsg
 #define UE_LOG(CategoryName, Verbosity, Format, ...) \
 	{ \
 		static_assert(TIsArrayOrRefOfType<decltype(Format), TCHAR>::Value, "Formatting string must be a TCHAR array."); \
-		static_assert((ELogVerbosity::Verbosity & ELogVerbosity::VerbosityMask) < ELogVerbosity::NumVerbosity \
-				&& ELogVerbosity::Verbosity > 0, \
+		static_assert( \
+			(ELogVerbosity::Verbosity & ELogVerbosity::VerbosityMask) < ELogVerbosity::NumVerbosity && ELogVerbosity::Verbosity > 0, \
 			"Verbosity must be constant and in range."); \
-		if (int32(ELogVerbosity::Verbosity & ELogVerbosity::VerbosityMask) \
-			<= int32(FLogCategory##CategoryName::CompileTimeVerbosity)) \
+		if (int32(ELogVerbosity::Verbosity & ELogVerbosity::VerbosityMask) <= int32(FLogCategory##CategoryName::CompileTimeVerbosity)) \
 		{ \
 			if (ELogVerbosity::Verbosity == ELogVerbosity::Fatal || !CategoryName.IsSuppressed(ELogVerbosity::Verbosity)) \
 			{ \
@@ -57,11 +55,10 @@ struct CORE_API FMsg
 #define UE_CLOG(Condition, CategoryName, Verbosity, Format, ...) \
 	{ \
 		static_assert(TIsArrayOrRefOfType<decltype(Format), TCHAR>::Value, "Formatting string must be a TCHAR array."); \
-		static_assert((ELogVerbosity::Verbosity & ELogVerbosity::VerbosityMask) < ELogVerbosity::NumVerbosity \
-				&& ELogVerbosity::Verbosity > 0, \
+		static_assert( \
+			(ELogVerbosity::Verbosity & ELogVerbosity::VerbosityMask) < ELogVerbosity::NumVerbosity && ELogVerbosity::Verbosity > 0, \
 			"Verbosity must be constant and in range."); \
-		if (int32(ELogVerbosity::Verbosity & ELogVerbosity::VerbosityMask) \
-			<= int32(FLogCategory##CategoryName::CompileTimeVerbosity)) \
+		if (int32(ELogVerbosity::Verbosity & ELogVerbosity::VerbosityMask) <= int32(FLogCategory##CategoryName::CompileTimeVerbosity)) \
 		{ \
 			if (ELogVerbosity::Verbosity == ELogVerbosity::Fatal || !CategoryName.IsSuppressed(ELogVerbosity::Verbosity)) \
 			{ \
@@ -88,8 +85,7 @@ struct CORE_API FMsg
 	{ \
 		FORCEINLINE FLogCategory##CategoryName() \
 			: FLogCategory(TEXT(#CategoryName)) \
-		{ \
-		} \
+		{} \
 	} CategoryName
 
 /** Defines a declared log category. */
@@ -101,8 +97,7 @@ struct CORE_API FMsg
 	{ \
 		FORCEINLINE FLogCategory##CategoryName() \
 			: FLogCategory(TEXT(#CategoryName)) \
-		{ \
-		} \
+		{} \
 	} CategoryName
 
 /** Declares a log category that is a static member of a class. */

@@ -44,16 +44,13 @@ struct CORE_API FConfigValue
 	FConfigValue() {}
 	FConfigValue(const TCHAR* InValue)
 		: SavedValue(InValue)
-	{
-	}
+	{}
 	FConfigValue(const FString& InValue)
 		: SavedValue(InValue)
-	{
-	}
+	{}
 	FConfigValue(FString&& InValue)
 		: SavedValue(MoveTemp(InValue))
-	{
-	}
+	{}
 
 	/** The value; the engine expands macros here. */
 	const FString& GetValue() const { return SavedValue; }
@@ -227,8 +224,8 @@ public:
 		bool bAllowRemoteConfig = true, const TCHAR* GeneratedConfigDir = *FPaths::GeneratedConfigDir());
 
 	/** Reads an ini with its hierarchy (or the one file) into an object apart from GConfig. */
-	static bool LoadLocalIniFile(FConfigFile& ConfigFile, const TCHAR* IniName, bool bIsBaseIniName, const TCHAR* Platform = nullptr,
-		bool bForceReload = false);
+	static bool LoadLocalIniFile(
+		FConfigFile& ConfigFile, const TCHAR* IniName, bool bIsBaseIniName, const TCHAR* Platform = nullptr, bool bForceReload = false);
 
 	/** The saved file's name of an ini: <GeneratedConfigDir>/<Platform>/<BaseIniName>.ini. */
 	static FString GetDestIniFilename(const TCHAR* BaseIniName, const TCHAR* PlatformName, const TCHAR* GeneratedConfigDir);

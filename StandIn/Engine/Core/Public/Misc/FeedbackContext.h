@@ -14,8 +14,7 @@ class CORE_API FFeedbackContext : public FOutputDevice
 public:
 	FFeedbackContext()
 		: TreatWarningsAsErrors(false)
-	{
-	}
+	{}
 
 	virtual void Serialize(const TCHAR* V, ELogVerbosity::Type Verbosity, const FName& Category) override;
 	virtual void Serialize(const TCHAR* V, ELogVerbosity::Type Verbosity, const FName& Category, const double Time) override;

@@ -33,8 +33,7 @@ public:
 	FOutputDevice()
 		: bSuppressEventTag(false)
 		, bAutoEmitLineTerminator(true)
-	{
-	}
+	{}
 
 	virtual ~FOutputDevice() {}
 
@@ -68,10 +67,7 @@ public:
 	/** Says whether the printed form leaves out category and verbosity. */
 	FORCEINLINE bool GetSuppressEventTag() const { return bSuppressEventTag; }
 	/** Sets whether the printed form ends each line itself. */
-	FORCEINLINE void SetAutoEmitLineTerminator(bool bInAutoEmitLineTerminator)
-	{
-		bAutoEmitLineTerminator = bInAutoEmitLineTerminator;
-	}
+	FORCEINLINE void SetAutoEmitLineTerminator(bool bInAutoEmitLineTerminator) { bAutoEmitLineTerminator = bInAutoEmitLineTerminator; }
 	/** Says whether the printed form ends each line itself. */
 	FORCEINLINE bool GetAutoEmitLineTerminator() const { return bAutoEmitLineTerminator; }
 
@@ -113,8 +109,7 @@ public:
 	void CategorizedLogf(const FName& Category, ELogVerbosity::Type Verbosity, const FmtType& Fmt, Types... Args)
 	{
 		static_assert(TIsArrayOrRefOfType<FmtType, TCHAR>::Value, "Formatting string must be a TCHAR array.");
-		static_assert(
-			TAreValidVariadicFunctionArgs<Types...>::Value, "Invalid argument(s) passed to FOutputDevice::CategorizedLogf");
+		static_assert(TAreValidVariadicFunctionArgs<Types...>::Value, "Invalid argument(s) passed to FOutputDevice::CategorizedLogf");
 		CategorizedLogfImpl(Category, Verbosity, Fmt, Args...);
 	}
 

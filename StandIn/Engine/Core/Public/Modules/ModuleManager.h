@@ -209,8 +209,7 @@ private:
 
 /** A module that does nothing of its own. */
 class FDefaultModuleImpl : public IModuleInterface
-{
-};
+{};
 
 /** A game module that does nothing of its own. */
 class FDefaultGameModuleImpl : public FDefaultModuleImpl
@@ -228,7 +227,10 @@ public:
 #else
 /** Makes a class the object of a module; the name stands without quotes and is the one of the module's folder. */
 #define IMPLEMENT_MODULE(ModuleImplClass, ModuleName) \
-	extern "C" DLLEXPORT IModuleInterface* InitializeModule() { return new ModuleImplClass(); } \
+	extern "C" DLLEXPORT IModuleInterface* InitializeModule() \
+	{ \
+		return new ModuleImplClass(); \
+	} \
 	extern "C" void IMPLEMENT_MODULE_##ModuleName() {} \
 	PER_MODULE_BOILERPLATE \
 	PER_MODULE_BOILERPLATE_ANYLINK(ModuleImplClass, ModuleName)

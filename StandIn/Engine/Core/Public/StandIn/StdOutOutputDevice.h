@@ -14,8 +14,7 @@ class CORE_API FStdOutOutputDevice : public FOutputDevice
 {
 public:
 	/** Lets lines pass up to a verbosity, with a time stamp of choice. */
-	explicit FStdOutOutputDevice(
-		ELogVerbosity::Type InMaxVerbosity = ELogVerbosity::Log, ELogTimes::Type InLogTimes = ELogTimes::None);
+	explicit FStdOutOutputDevice(ELogVerbosity::Type InMaxVerbosity = ELogVerbosity::Log, ELogTimes::Type InLogTimes = ELogTimes::None);
 
 	virtual void Serialize(const TCHAR* V, ELogVerbosity::Type Verbosity, const FName& Category) override;
 	virtual void Serialize(const TCHAR* V, ELogVerbosity::Type Verbosity, const FName& Category, const double Time) override;

@@ -55,5 +55,4 @@ struct TIsArrayOrRefOfType<const ArrType[N], ArrType>
 
 template <typename T, typename ArrType>
 struct TIsArrayOrRefOfType<T&, ArrType> : TIsArrayOrRefOfType<T, ArrType>
-{
-};
+{};

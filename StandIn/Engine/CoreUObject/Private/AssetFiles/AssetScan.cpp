@@ -5,12 +5,19 @@
 #include "Misc/Paths.h"
 #include "StandIn/AssetFiles.h"
 
+#include <set>
+
 namespace StandInPrivate
 {
 namespace
 {
 // How many files go by between two reports of progress.
 const int32 FilesAReport = 1000;
+
+struct FSpellingLess
+{
+	bool operator()(const FString& A, const FString& B) const { return A.Compare(B) < 0; }
+};
 
 // One scan of a folder tree.
 class FAssetScan
@@ -33,12 +40,11 @@ public:
 	{
 		// A folder that is reached once more, through a link, is not read again.
 		const FString RealFolder = GetRealFolder(Folder);
-		if (RealFolder.Len() > 0 && Seen.Contains(RealFolder))
+		if (RealFolder.Len() > 0 && !SeenFolders.insert(RealFolder).second)
 		{
 			return;
 		}
-		Seen.Add(RealFolder);
-		++Report.NumFolders;
+		Report.Folders.Add(Folder);
 		FFolderContent Content;
 		if (!ListFolder(Folder, Content))
 		{
@@ -88,7 +94,7 @@ private:
 	// Sets of strings do not tell upper from lower case: neither do package names.
 	TSet<FString> PackageNames;
 	TSet<FString> Extensions;
-	TSet<FString> Seen;
+	std::set<FString, FSpellingLess> SeenFolders;
 	int32 NumFiles;
 	bool bStopped;
 };

@@ -3,8 +3,10 @@
 #include "StandIn/ObjectSystem.h"
 #include "Misc/CoreDelegates.h"
 #include "Modules/ModuleManager.h"
+#include "StandIn/AssetFiles.h"
 #include "StandIn/ModuleHooks.h"
 #include "StandIn/ReflectionData.h"
+#include "StandIn/Registrations.h"
 #include "UObject/MetaData.h"
 #include "UObject/NativeTypes.h"
 #include "UObject/ObjectRemoval.h"
@@ -47,6 +49,17 @@ void BindEvents()
 		FModuleManager::Get().OnProcessLoadedObjectsCallback().AddStatic(&ProcessNewlyLoadedUObjects);
 		StandIn::OnModuleBinaryUnloading().AddStatic(&OnModuleUnloading);
 		FCoreDelegates::OnExit.AddStatic(&StandIn::ShutdownObjectSystem);
+		StandIn::AddDelegate(TEXT("FCoreUObjectDelegates::OnObjectPropertyChanged"), FCoreUObjectDelegates::OnObjectPropertyChanged);
+		StandIn::AddDelegate(TEXT("FCoreUObjectDelegates::OnAssetLoaded"), FCoreUObjectDelegates::OnAssetLoaded);
+		StandIn::AddDelegate(
+			TEXT("FCoreUObjectDelegates::GetPreGarbageCollectDelegate"), FCoreUObjectDelegates::GetPreGarbageCollectDelegate());
+		StandIn::AddDelegate(TEXT("FCoreUObjectDelegates::GetPostGarbageCollect"), FCoreUObjectDelegates::GetPostGarbageCollect());
+		StandIn::AddRegistry(TEXT("AssetFileTypes"), [](TArray<StandIn::FRegistration>& OutRegistrations) {
+			for (const StandIn::FAssetFileType& Type : StandIn::GetAssetFileTypes())
+			{
+				OutRegistrations.Add(StandIn::FRegistration{TEXT("AssetFileTypes"), Type.Extension, nullptr});
+			}
+		});
 	}
 }
 

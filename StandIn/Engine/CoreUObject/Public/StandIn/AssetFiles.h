@@ -65,7 +65,8 @@ COREUOBJECT_API bool DescribeAssetFile(const FString& FileName, FAssetFile& OutF
 /** What a scan met beside assets. */
 struct FAssetScanReport
 {
-	int32 NumFolders = 0;
+	/** Full names of the folders that were met, with a slash at the end. */
+	TArray<FString> Folders;
 	/** Folders that could not be read. */
 	TArray<FString> UnreadableFolders;
 	/** Files with an asset's extension that give no package name of their own, such as two that differ in case only. */

@@ -18,7 +18,7 @@ FSceneViewport::~FSceneViewport()
 void FSceneViewport::Destroy()
 {
 	ViewportClient = nullptr;
-	UpdateSize(0, 0);
+	ReleaseSurfaces();
 }
 
 void FSceneViewport::Invalidate()

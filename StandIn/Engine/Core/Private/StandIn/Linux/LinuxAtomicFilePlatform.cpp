@@ -13,11 +13,11 @@ namespace StandInPrivate
 {
 namespace
 {
-	bool FailWithErrno(std::string& OutReason)
-	{
-		OutReason = std::strerror(errno);
-		return false;
-	}
+bool FailWithErrno(std::string& OutReason)
+{
+	OutReason = std::strerror(errno);
+	return false;
+}
 }
 
 FAtomicFilePlatform::ECreate FAtomicFilePlatform::Create(
@@ -70,8 +70,7 @@ bool FAtomicFilePlatform::Close(FHandle Handle, std::string& OutReason)
 	return close(int(Handle)) == 0 || errno == EINTR || FailWithErrno(OutReason);
 }
 
-bool FAtomicFilePlatform::Replace(
-	const std::filesystem::path& Temporary, const std::filesystem::path& Target, std::string& OutReason)
+bool FAtomicFilePlatform::Replace(const std::filesystem::path& Temporary, const std::filesystem::path& Target, std::string& OutReason)
 {
 	return std::rename(Temporary.c_str(), Target.c_str()) == 0 || FailWithErrno(OutReason);
 }

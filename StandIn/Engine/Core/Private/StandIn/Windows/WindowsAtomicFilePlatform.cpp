@@ -16,24 +16,23 @@ namespace StandInPrivate
 {
 namespace
 {
-	bool FailWithLastError(std::string& OutReason)
+bool FailWithLastError(std::string& OutReason)
+{
+	const DWORD Error = GetLastError();
+	wchar_t Text[512] = {};
+	DWORD Length = FormatMessageW(FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS, nullptr, Error, 0, Text, 511, nullptr);
+	while (Length > 0 && (Text[Length - 1] == L'\r' || Text[Length - 1] == L'\n' || Text[Length - 1] == L'.'))
 	{
-		const DWORD Error = GetLastError();
-		wchar_t Text[512] = {};
-		DWORD Length =
-			FormatMessageW(FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS, nullptr, Error, 0, Text, 511, nullptr);
-		while (Length > 0 && (Text[Length - 1] == L'\r' || Text[Length - 1] == L'\n' || Text[Length - 1] == L'.'))
-		{
-			--Length;
-		}
-		OutReason = Length > 0 ? ToUtf8(Text, Length) : "error " + std::to_string(Error);
-		return false;
+		--Length;
 	}
+	OutReason = Length > 0 ? ToUtf8(Text, Length) : "error " + std::to_string(Error);
+	return false;
+}
 
-	HANDLE ToHandle(FAtomicFilePlatform::FHandle Handle)
-	{
-		return reinterpret_cast<HANDLE>(Handle);
-	}
+HANDLE ToHandle(FAtomicFilePlatform::FHandle Handle)
+{
+	return reinterpret_cast<HANDLE>(Handle);
+}
 }
 
 FAtomicFilePlatform::ECreate FAtomicFilePlatform::Create(
@@ -77,8 +76,7 @@ bool FAtomicFilePlatform::Close(FHandle Handle, std::string& OutReason)
 	return CloseHandle(ToHandle(Handle)) || FailWithLastError(OutReason);
 }
 
-bool FAtomicFilePlatform::Replace(
-	const std::filesystem::path& Temporary, const std::filesystem::path& Target, std::string& OutReason)
+bool FAtomicFilePlatform::Replace(const std::filesystem::path& Temporary, const std::filesystem::path& Target, std::string& OutReason)
 {
 	// Virus scanners and indexers hold a fresh file for moments: wait for those, and for nothing else.
 	const DWORD Pauses[] = {5, 20, 50, 110};
