@@ -9,7 +9,7 @@
 #include "AssetTypeActions_Base.h"
 #include "StandIn/ObjectSystem.h"
 #include "UObject/Package.h"
-#include "gtest/gtest.h"
+#include <gtest/gtest.h>
 
 /** Type actions that note what they are asked to open. */
 class FTestActions : public FAssetTypeActions_Base

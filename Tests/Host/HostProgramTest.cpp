@@ -157,12 +157,12 @@ TEST_F(HostProgram, ALookThatDoesNotExistMakesOneNoticeWithFileAndLine)
 {
 	WriteSettings(Pair(0, "1.000000", "None") + Pair(1, "1.000000", Look("Gone")));
 	const FResult Result = RunProject("--exec 'notices'");
-	const size_t First = Result.Output.find("Notice: ");
+	const size_t First = Result.Output.find("\nNotice: ");
 	ASSERT_NE(First, std::string::npos) << Result.Output;
-	EXPECT_EQ(Result.Output.find("Notice: ", First + 1), std::string::npos) << Result.Output;
-	const std::string Notice = Result.Output.substr(First, Result.Output.find('\n', First) - First);
+	EXPECT_EQ(Result.Output.find("\nNotice: ", First + 1), std::string::npos) << Result.Output;
+	const std::string Notice = Result.Output.substr(First + 1, Result.Output.find('\n', First + 1) - First - 1);
 	EXPECT_NE(Notice.find("EditorPerProjectUserSettings.ini"), std::string::npos) << Notice;
-	EXPECT_NE(Notice.find("3"), std::string::npos) << Notice;
+	EXPECT_NE(Notice.find(".ini:3"), std::string::npos) << Notice;
 	EXPECT_NE(Notice.find("Gone"), std::string::npos) << Notice;
 }
 

@@ -11,7 +11,7 @@
 #include "StandIn/ObjectSystem.h"
 #include "Widgets/Layout/SBox.h"
 #include "Widgets/SWindow.h"
-#include "gtest/gtest.h"
+#include <gtest/gtest.h>
 
 /** Object system for the length of a test. */
 class FObjectSystemScope
@@ -25,9 +25,13 @@ public:
 class FMenuUser
 {
 public:
-	FMenuUser()
+	/** Makes an application for the length of the test, or uses the one that is there. */
+	explicit FMenuUser(const bool bInOwnsApplication = true) : bOwnsApplication(bInOwnsApplication)
 	{
-		FSlateApplication::Create();
+		if (bOwnsApplication)
+		{
+			FSlateApplication::Create();
+		}
 		Anchor = SNew(SBox);
 		Window = SNew(SWindow).ClientSize(FVector2D(1200.0f, 900.0f)).AutoCenter(EAutoCenter::None)[Anchor.ToSharedRef()];
 		FSlateApplication::Get().AddWindow(Window.ToSharedRef());
@@ -37,8 +41,15 @@ public:
 	~FMenuUser()
 	{
 		Anchor.Reset();
-		Window.Reset();
-		FSlateApplication::Shutdown();
+		if (bOwnsApplication)
+		{
+			Window.Reset();
+			FSlateApplication::Shutdown();
+		}
+		else if (FSlateApplication::IsInitialized())
+		{
+			FSlateApplication::Get().DestroyWindowImmediately(Window.ToSharedRef());
+		}
 	}
 
 	/** Puts a widget into the window itself. */
@@ -190,6 +201,7 @@ private:
 	}
 
 	TSet<FKey> Pressed;
+	bool bOwnsApplication;
 };
 
 /** Comparison of engine strings with a readable message. */

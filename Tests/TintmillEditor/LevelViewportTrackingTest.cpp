@@ -43,6 +43,14 @@ protected:
 	/** Fires the event of the list of level viewport clients without a change. */
 	static void ReportListChange() { StandIn::BroadcastLevelViewportClientListChanged(); }
 
+	/** Keeps the module from hearing of list changes, and gives what tells it of one. */
+	static TMulticastDelegate<void()> TakeListEvent()
+	{
+		const TMulticastDelegate<void()> Event = GEditor->OnLevelViewportClientListChanged();
+		GEditor->OnLevelViewportClientListChanged().RemoveAll(GetModule());
+		return Event;
+	}
+
 	/** Changes what a pane displays, as its menu does. */
 	static void Display(int32 Number, bool bEnable, float Intensity)
 	{
@@ -225,20 +233,39 @@ TEST_F(FLevelViewportTracking, EveryDepartedPaneWithARecordLogsALine)
 	EXPECT_EQ(Log.Count(SavedLine), 4);
 }
 
-TEST_F(FLevelViewportTracking, DepartedPanesAreSavedInTheOrderInWhichTheyWereTracked)
+TEST_F(FLevelViewportTracking, PanesThatDepartedTogetherAreSavedInTheOrderInWhichTheyWereTracked)
 {
 	StartEditor(FourPanes);
 	ReportListChange();
-	Project.Write(
-		PLATFORM_WINDOWS ? "Saved/Config/Windows/EditorPerProjectUserSettings.ini" : "Saved/Config/Linux/EditorPerProjectUserSettings.ini",
-		"");
-	StandIn::SetViewportLayout(OnePane);
-	std::vector<std::string> Expected;
-	for (int Number = 0; Number < 4; ++Number)
+	std::vector<const FViewportClient*> Clients;
+	for (int32 Number = 0; Number < 4; ++Number)
 	{
-		Expected.push_back(MakePair(FourPaneKey(Number), false, "1.000000", ""));
+		Clients.push_back(GetClient(Number));
 	}
-	EXPECT_EQ(ReadSettings(), Expected);
+	// At each line, which clients still have a record.
+	std::string Remaining;
+	const FDelegateHandle Handle = StandIn::OnLogRecord().AddLambda([&](const StandIn::FLogRecord& Record) {
+		for (size_t Index = 0; FString(Record.Text) == SavedLine && Index < Clients.size(); ++Index)
+		{
+			Remaining += GetDisplayManager().GetDisplayConfiguration(Clients[Index]) ? std::to_string(Index) : "";
+		}
+		Remaining += ' ';
+	});
+	const TMulticastDelegate<void()> Event = TakeListEvent();
+	StandIn::CloseLevelEditor();
+	Event.Broadcast();
+	StandIn::OnLogRecord().Remove(Handle);
+	EXPECT_EQ(Remaining, "123 23 3  ");
+}
+
+TEST_F(FLevelViewportTracking, PanesThatDepartedTogetherCauseALineEach)
+{
+	StartEditor(FourPanes);
+	ReportListChange();
+	const TMulticastDelegate<void()> Event = TakeListEvent();
+	StandIn::CloseLevelEditor();
+	Event.Broadcast();
+	EXPECT_EQ(Log.Count(SavedLine), 4);
 }
 
 TEST_F(FLevelViewportTracking, APaneComesBackAsItsPredecessorLeft)

@@ -135,7 +135,8 @@ TEST_F(FTintmillEditorModuleLife, TheRuntimeModuleIsLoadedByWhoeverNeedsItFirst)
 {
 	Options.bLoadPlugins = false;
 	PreInit();
-	EXPECT_EQ(&FTintmillEditorModule::GetTintmillModule(), FModuleManager::Get().GetModule(TEXT("Tintmill")));
+	const IModuleInterface* const Found = &FTintmillEditorModule::GetTintmillModule();
+	EXPECT_EQ(Found, FModuleManager::Get().GetModule(TEXT("Tintmill")));
 }
 
 TEST_F(FTintmillEditorModuleLife, TheEndOfInitializationBindsTheLevelViewportListEvent)

@@ -5,6 +5,8 @@
 #include "LevelEditor.h"
 #include "Modules/ModuleManager.h"
 #include "Support/EditorFixture.h"
+#include "Support/TemporaryProject.h"
+#include "UObject/Package.h"
 #include "UObject/WeakObjectPtrTemplates.h"
 
 /** Notes what happens to worlds and maps. */
@@ -106,4 +108,44 @@ TEST_F(FEditorMapsTest, KeepsTheEditedWorldWhenAMapIsNotThere)
 {
 	FEditorFileUtils::LoadMap(TEXT("/Game/Maps/NoSuchMap"));
 	EXPECT_EQ(Log.Get(), "");
+}
+
+TEST_F(FEditorMapsTest, OpensAMapByItsPackageName)
+{
+	const FTemporaryProject Project("MapByName");
+	Project.Write("Content/Maps/Demo.umap", "");
+	EXPECT_TRUE(FEditorFileUtils::LoadMap(TEXT("/Game/Maps/Demo")));
+}
+
+TEST_F(FEditorMapsTest, OpensAMapByItsFile)
+{
+	const FTemporaryProject Project("MapByFile");
+	Project.Write("Content/Maps/Demo.umap", "");
+	FEditorFileUtils::LoadMap(Project.Path("Content/Maps/Demo.umap"));
+	EXPECT_EQ(ToText(GWorld->GetOutermost()->GetName()), "/Game/Maps/Demo");
+}
+
+TEST_F(FEditorMapsTest, TellsOfAnOpenedMapLastOfAll)
+{
+	const FTemporaryProject Project("MapOpened");
+	Project.Write("Content/Demo.umap", "");
+	FEditorFileUtils::LoadMap(TEXT("/Game/Demo"));
+	EXPECT_EQ(Log.Get(), "TearDown Cleanup PostCleanup PreInit PostInit MapChange Load MapOpened");
+}
+
+TEST_F(FEditorMapsTest, MakesAnUntitledMapFromATemplate)
+{
+	const FTemporaryProject Project("MapTemplate");
+	Project.Write("Content/Demo.umap", "");
+	FEditorFileUtils::LoadMap(TEXT("/Game/Demo"), true);
+	EXPECT_EQ(ToText(GWorld->GetName()), "Untitled");
+}
+
+TEST_F(FEditorMapsTest, DropsFeatureLevelHandlersWithTheOldWorld)
+{
+	int NumCalls = 0;
+	GWorld->AddOnFeatureLevelChangedHandler(
+		FOnFeatureLevelChanged::FDelegate::CreateLambda([&NumCalls](ERHIFeatureLevel::Type) { ++NumCalls; }));
+	GEditor->NewMap()->ChangeFeatureLevel(ERHIFeatureLevel::ES3_1);
+	EXPECT_EQ(NumCalls, 0);
 }

@@ -5,7 +5,9 @@
 #include "Engine/World.h"
 #include "Misc/CoreDelegates.h"
 #include "Modules/ModuleManager.h"
+#include "Interfaces/IPluginManager.h"
 #include "Support/EditorFixture.h"
+#include "Support/TemporaryProject.h"
 #include "UObject/UObjectBase.h"
 
 namespace
@@ -27,6 +29,20 @@ public:
 	}
 };
 
+/** Says which phase it was loaded in by what is there. */
+class FLateModule : public IModuleInterface
+{
+public:
+	virtual void StartupModule() override
+	{
+		ModuleLog.Add(GEditor == nullptr ? "Late:NoEditor" : "Late:Editor");
+		FCoreDelegates::OnPostEngineInit.AddRaw(this, &FLateModule::OnPostEngineInit);
+	}
+	virtual void ShutdownModule() override { FCoreDelegates::OnPostEngineInit.RemoveAll(this); }
+	void OnPostEngineInit() { ModuleLog.Add("Late:PostEngineInit"); }
+};
+
+FStaticallyLinkedModuleRegistrant<FLateModule> LateModuleRegistrant(TEXT("EngineLoopTestLate"));
 FStaticallyLinkedModuleRegistrant<FWatchingModule> WatchingModuleRegistrant(TEXT("EngineLoopTestWatcher"));
 }
 
@@ -252,4 +268,22 @@ TEST_F(FEngineLoopTest, CountsFrames)
 	Loop.Tick();
 	EXPECT_EQ(GFrameCounter, Before + 1);
 	Loop.Exit();
+}
+
+TEST_F(FEngineLoopTest, LoadsPluginModulesInTheirPhases)
+{
+	const FTemporaryProject Project("Phases");
+	Project.Write("Plugins/Phased/Phased.uplugin",
+		"{ \"FileVersion\": 3, \"EnabledByDefault\": true, \"Modules\": ["
+		"{ \"Name\": \"EngineLoopTestLate\", \"Type\": \"Editor\", \"LoadingPhase\": \"PostEngineInit\" },"
+		"{ \"Name\": \"EngineLoopTestWatcher\", \"Type\": \"Editor\", \"LoadingPhase\": \"Default\" } ] }");
+	IPluginManager::Get().RefreshPluginsList();
+	Options.bLoadPlugins = true;
+	Loop.PreInit(Options);
+	Loop.Init();
+	const std::string Seen = ModuleLog.Get();
+	Loop.Exit();
+	FPaths::SetProjectFilePath(FString());
+	IPluginManager::Get().RefreshPluginsList();
+	EXPECT_EQ(Seen, "Startup:NoEditor Late:Editor");
 }

@@ -6,6 +6,7 @@
 #include "AssetRegistry/AssetData.h"
 #include "AssetTypeCategories.h"
 #include "Containers/ArrayView.h"
+#include "Misc/DateTime.h"
 #include "ThumbnailRendering/ThumbnailManager.h"
 
 class IToolkitHost;
@@ -16,7 +17,7 @@ struct FARFilter;
 struct FToolMenuSection;
 
 // What the editor knows about a type of assets. All virtual functions of the interface are here, in its order; those for
-// merging, source files and differences are called by nobody in the stand-in, and FRevisionInfo has no date.
+// merging, source files and differences are called by nobody in the stand-in.
 
 /** How an asset was activated in the content browser. */
 namespace EAssetTypeActivationMethod
@@ -48,6 +49,7 @@ struct FRevisionInfo
 {
 	FString Revision;
 	int32 Changelist;
+	FDateTime Date;
 };
 
 /** Name, look and behaviour of a type of assets. */

@@ -62,6 +62,12 @@ bool SEditorViewport::IsVisible() const
 	return true;
 }
 
+void SEditorViewport::Tick(const FGeometry& AllottedGeometry, const double InCurrentTime, const float InDeltaTime)
+{
+	SCompoundWidget::Tick(AllottedGeometry, InCurrentTime, InDeltaTime);
+	LastTickTime = InCurrentTime;
+}
+
 FReply SEditorViewport::OnFocusReceived(const FGeometry&, const FFocusEvent& InFocusEvent)
 {
 	return FReply::Handled().SetUserFocus(ViewportWidget.ToSharedRef(), InFocusEvent.GetCause());

@@ -8,6 +8,7 @@
 #include "Framework/Application/SlateApplication.h"
 #include "Framework/MultiBox/MultiBoxBuilder.h"
 #include "InputCoreTypes.h"
+#include "StandIn/AssetFiles.h"
 #include "StandIn/FatalHandler.h"
 #include "Styling/CoreStyle.h"
 #include "Styling/SlateIconFinder.h"
@@ -153,7 +154,12 @@ void SAssetPickerWithMenu::FillList(const FOnShouldFilterAsset& OnShouldFilterAs
 {
 	IAssetRegistry& Registry = FModuleManager::LoadModuleChecked<FAssetRegistryModule>(TEXT("AssetRegistry")).Get();
 	// What was put on disk since the last time is to be listed too.
-	Registry.SearchAllAssets(true);
+	TArray<FString> Roots;
+	for (const StandIn::FMountPoint& MountPoint : StandIn::GetMountPoints())
+	{
+		Roots.Add(MountPoint.RootPath.LeftChop(1));
+	}
+	Registry.ScanPathsSynchronous(Roots, true);
 
 	FARFilter Filter;
 	for (const UClass* Class : AllowedClasses)

@@ -3,9 +3,28 @@
 #include "Factories/Factory.h"
 #include "AssetToolsModule.h"
 #include "AssetTypeCategories.h"
+#include "Misc/Char.h"
 
 namespace FactoryPrivate
 {
+/** "MyLookHD" as "My Look HD". */
+FString InWords(const FString& Name)
+{
+	FString Words;
+	for (int32 Index = 0; Index < Name.Len(); ++Index)
+	{
+		const bool bUpper = FChar::IsUpper(Name[Index]);
+		const bool bAfterLower = Index > 0 && !FChar::IsUpper(Name[Index - 1]);
+		const bool bBeforeLower = Index > 0 && Index + 1 < Name.Len() && FChar::IsLower(Name[Index + 1]);
+		if (Index > 0 && bUpper && (bAfterLower || bBeforeLower))
+		{
+			Words += TEXT(" ");
+		}
+		Words.AppendChar(Name[Index]);
+	}
+	return Words;
+}
+
 TSharedPtr<IAssetTypeActions> FindActions(const UClass* Class)
 {
 	return Class ? FAssetToolsModule::GetModule().Get().GetAssetTypeActionsForClass(Class).Pin() : TSharedPtr<IAssetTypeActions>();
@@ -48,7 +67,9 @@ FText UFactory::GetDisplayName() const
 			return Name;
 		}
 	}
-	return Class->GetDisplayNameText();
+	const FString ClassName = Class->GetName();
+	const FString DisplayName = Class->GetDisplayNameText().ToString();
+	return FText::FromString(DisplayName == ClassName ? FactoryPrivate::InWords(ClassName) : DisplayName);
 }
 
 uint32 UFactory::GetMenuCategories() const
