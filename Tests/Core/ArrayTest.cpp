@@ -265,8 +265,9 @@ TEST(TArray, ChangingTheLengthInARangedForIsReportedOnceAndTheLoopEnds)
 TEST(TArrayDeathTest, IndexPastTheEndIsFatalWithTheEnginesText)
 {
 	FNumbers Array{1, 2};
-	EXPECT_DEATH(Array[2], "Assertion failed: \\(Index >= 0\\) & \\(Index < ArrayNum\\) .*\\] \n"
-						   "Array index out of bounds: 2 from an array of size 2");
+	EXPECT_DEATH(Array[2],
+		"Assertion failed: \\(Index >= 0\\) & \\(Index < ArrayNum\\) .*\\] \n"
+		"Array index out of bounds: 2 from an array of size 2");
 	EXPECT_DEATH(Array[-1], "Array index out of bounds: -1 from an array of size 2");
 }
 
@@ -279,8 +280,9 @@ TEST(TArrayDeathTest, LastOfAnEmptyArrayIsFatal)
 TEST(TArrayDeathTest, AddingAnElementOfTheArrayItselfIsFatal)
 {
 	FNumbers Array{1, 2};
-	EXPECT_DEATH(Array.Add(Array[0]), "Attempting to use a container element \\(0x[0-9a-f]+\\) which already comes from the container "
-									  "being modified");
+	EXPECT_DEATH(Array.Add(Array[0]),
+		"Attempting to use a container element \\(0x[0-9a-f]+\\) which already comes from the container "
+		"being modified");
 }
 
 TEST(TArrayDeathTest, RemovingOutsideIsFatal)

@@ -70,7 +70,7 @@ TEST(AssertionMacrosDeathTest, FailedCheckfShowsItsTextOnTheNextLine)
 TEST(AssertionMacrosDeathTest, ExpressionKeepsParenthesesAndCollapsesBlanks)
 {
 	const void* Object = nullptr;
-	EXPECT_DEATH(check(Object != nullptr   &&   (1 | 2)), "Assertion failed: Object != nullptr && \\(1 \\| 2\\) ");
+	EXPECT_DEATH(check(Object != nullptr && (1 | 2)), "Assertion failed: Object != nullptr && \\(1 \\| 2\\) ");
 }
 
 TEST(AssertionMacrosDeathTest, FailedCheckEndsTheProcessWithCodeThree)

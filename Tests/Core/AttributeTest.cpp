@@ -50,8 +50,7 @@ TEST(TAttribute, ValueConvertsImplicitly)
 TEST(TAttribute, BoundGetterIsAskedEachTime)
 {
 	const TSharedRef<FSource> Source = MakeShared<FSource>();
-	const TAttribute<int32> Attribute =
-		TAttribute<int32>::Create(TAttribute<int32>::FGetter::CreateSP(Source, &FSource::GetValue));
+	const TAttribute<int32> Attribute = TAttribute<int32>::Create(TAttribute<int32>::FGetter::CreateSP(Source, &FSource::GetValue));
 	EXPECT_EQ(1, Attribute.Get());
 	Source->Value = 2;
 	EXPECT_EQ(2, Attribute.Get());

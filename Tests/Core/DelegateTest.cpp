@@ -5,45 +5,43 @@
 #include "Support/Printers.h"
 #include "gtest/gtest.h"
 
-DECLARE_DELEGATE_OneParam(FNumberDelegate, int32)
-DECLARE_DELEGATE_RetVal_TwoParams(int32, FSumDelegate, int32, int32)
-DECLARE_DELEGATE_TwoParams(FReferenceDelegate, int32&, const FString&)
+DECLARE_DELEGATE_OneParam(FNumberDelegate, int32) DECLARE_DELEGATE_RetVal_TwoParams(int32, FSumDelegate, int32, int32)
+	DECLARE_DELEGATE_TwoParams(FReferenceDelegate, int32&, const FString&)
 
-namespace
+		namespace
 {
-class FReceiver : public TSharedFromThis<FReceiver>
-{
-public:
-	void Take(int32 Value) { Sum += Value; }
-	void TakeMore(int32 Value, FString Suffix, int32 Factor)
+	class FReceiver : public TSharedFromThis<FReceiver>
 	{
-		Sum += Value * Factor;
-		Text += Suffix;
+	public:
+		void Take(int32 Value) { Sum += Value; }
+		void TakeMore(int32 Value, FString Suffix, int32 Factor)
+		{
+			Sum += Value * Factor;
+			Text += Suffix;
+		}
+		void Look(int32 Value) const { LastSeen = Value; }
+		int32 Add(int32 A, int32 B) const { return A + B; }
+		FNumberDelegate MakeDelegateFromThis() { return FNumberDelegate::CreateSP(this, &FReceiver::Take); }
+
+		int32 Sum = 0;
+		FString Text;
+		mutable int32 LastSeen = 0;
+	};
+
+	class FDerivedReceiver : public FReceiver
+	{};
+
+	int32 StaticSum = 0;
+
+	void TakeStatic(int32 Value)
+	{
+		StaticSum += Value;
 	}
-	void Look(int32 Value) const { LastSeen = Value; }
-	int32 Add(int32 A, int32 B) const { return A + B; }
-	FNumberDelegate MakeDelegateFromThis() { return FNumberDelegate::CreateSP(this, &FReceiver::Take); }
 
-	int32 Sum = 0;
-	FString Text;
-	mutable int32 LastSeen = 0;
-};
-
-class FDerivedReceiver : public FReceiver
-{
-};
-
-int32 StaticSum = 0;
-
-void TakeStatic(int32 Value)
-{
-	StaticSum += Value;
-}
-
-void TakeStaticScaled(int32 Value, int32 Factor)
-{
-	StaticSum += Value * Factor;
-}
+	void TakeStaticScaled(int32 Value, int32 Factor)
+	{
+		StaticSum += Value * Factor;
+	}
 }
 
 TEST(TDelegate, DefaultIsUnboundAndDoesNothing)
@@ -161,8 +159,7 @@ TEST(TDelegate, ObjectStaysAliveWhileItIsCalled)
 	public:
 		explicit FSuicidal(TSharedPtr<FSuicidal>* InOwner)
 			: Owner(InOwner)
-		{
-		}
+		{}
 		void Die(int32 Value)
 		{
 			Owner->Reset();
@@ -247,8 +244,7 @@ TEST(TDelegateDeathTest, SharedBindingOfAnUnownedObjectIsFatal)
 TEST(TDelegateDeathTest, BindingByFunctionNameIsRefused)
 {
 	FReceiver Receiver;
-	EXPECT_DEATH(
-		FNumberDelegate::CreateUFunction(&Receiver, FName(TEXT("Take"))), "not in this stand-in: TDelegate::CreateUFunction");
+	EXPECT_DEATH(FNumberDelegate::CreateUFunction(&Receiver, FName(TEXT("Take"))), "not in this stand-in: TDelegate::CreateUFunction");
 }
 
 TEST(FDelegateHandle, HandlesAreNeverGivenTwice)

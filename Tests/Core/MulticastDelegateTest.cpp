@@ -9,11 +9,10 @@
 
 DECLARE_MULTICAST_DELEGATE_OneParam(FTextEvent, std::string&)
 
-class FEventOwner
+	class FEventOwner
 {
 public:
-	DECLARE_EVENT_OneParam(FEventOwner, FHappened, int32)
-	FHappened& OnHappened() { return Happened; }
+	DECLARE_EVENT_OneParam(FEventOwner, FHappened, int32) FHappened& OnHappened() { return Happened; }
 	void Happen() { Happened.Broadcast(7); }
 
 private:
@@ -28,8 +27,7 @@ class FWriter
 public:
 	explicit FWriter(char InLetter)
 		: Letter(InLetter)
-	{
-	}
+	{}
 	void Write(std::string& Out)
 	{
 		Out += Letter;
@@ -255,8 +253,7 @@ TEST(TMulticastDelegate, RemoveAllComparesTheAddressAsItWasGiven)
 	public:
 		FBoth()
 			: FWriter('x')
-		{
-		}
+		{}
 	};
 	FBoth Both;
 	FTextEvent Event;

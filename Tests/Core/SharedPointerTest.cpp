@@ -174,3 +174,20 @@ TEST(TSharedPtrDeathTest, UnownedObjectHasNoSharedThis)
 	FLeaf Leaf;
 	EXPECT_DEATH(Leaf.Me(), "Assertion failed: SharedThis.Get\\(\\) == this ");
 }
+
+TEST(TSharedRef, MayBeAssignedFromInsideTheObjectThatGoes)
+{
+	struct FLink
+	{
+		explicit FLink(int32 InValue)
+			: Value(InValue)
+		{}
+		TSharedPtr<TSharedRef<FLink>> Next;
+		int32 Value;
+	};
+	TSharedRef<FLink> Head = MakeShared<FLink>(1);
+	Head->Next = MakeShared<TSharedRef<FLink>>(MakeShared<FLink>(2));
+	Head = *Head->Next;
+	EXPECT_EQ(2, Head->Value);
+	EXPECT_TRUE(Head.IsUnique());
+}

@@ -47,8 +47,12 @@ TEST(StringConv, LoneSurrogatesBecomeQuestionMarks)
 
 TEST(StringConv, BrokenUtf8BecomesOneQuestionMarkForEachBadByte)
 {
-	EXPECT_EQ("003F 0041 ", FromUtf8("\x80" "A"));
-	EXPECT_EQ("003F 0041 ", FromUtf8("\xC3" "A"));
+	EXPECT_EQ("003F 0041 ",
+		FromUtf8("\x80"
+				 "A"));
+	EXPECT_EQ("003F 0041 ",
+		FromUtf8("\xC3"
+				 "A"));
 	EXPECT_EQ("003F 003F ", FromUtf8("\xE2\x82"));
 	EXPECT_EQ("003F ", FromUtf8("\xFF"));
 }

@@ -117,8 +117,10 @@ TEST_F(FLevelViewportToolBarTest, ShowsTheKeyOfAViewMode)
 
 TEST_F(FLevelViewportToolBarTest, PutsAnExtensionMadeBeforeTheFirstOpeningBelowEverything)
 {
-	UToolMenus::Get()->ExtendMenu(ViewMenu)->AddSection("ColorManagement", FText::FromString(TEXT("Color Management"))).AddEntry(
-		FToolMenuEntry::InitMenuEntry("Mine", FText::FromString(TEXT("Mine")), FText(), FSlateIcon(), FUIAction()));
+	UToolMenus::Get()
+		->ExtendMenu(ViewMenu)
+		->AddSection("ColorManagement", FText::FromString(TEXT("Color Management")))
+		.AddEntry(FToolMenuEntry::InitMenuEntry("Mine", FText::FromString(TEXT("Mine")), FText(), FSlateIcon(), FUIAction()));
 	OpenViewMenu(0);
 	EXPECT_TRUE(IsText(User->GetHeadings(), TEXT("View Mode|Collision|Landscape|Exposure|Color Management")));
 }
@@ -170,11 +172,11 @@ TEST_F(FLevelViewportToolBarTest, LeavesTheActiveViewportAsItIsOnceItsMenuIsClos
 	EXPECT_EQ(GEditor->GetActiveViewport(), GetPane(1)->GetActiveViewport());
 }
 
-TEST_F(FLevelViewportToolBarTest, MakesItsViewportTheOneThatIsWorkedIn)
+TEST_F(FLevelViewportToolBarTest, LeavesTheClientThatIsWorkedInAsItIs)
 {
 	StandIn::ActivatePane(GetPane(1)->GetConfigKey());
 	OpenViewMenu(0);
-	EXPECT_EQ(GCurrentLevelEditingViewportClient, &GetPane(0)->GetLevelViewportClient());
+	EXPECT_EQ(GCurrentLevelEditingViewportClient, &GetPane(1)->GetLevelViewportClient());
 }
 
 TEST_F(FLevelViewportToolBarTest, ClosesTheViewMenuOnASecondClick)

@@ -22,6 +22,30 @@ IMPLEMENT_MODULE(TPluginTestModule<2>, PluginTestFirst)
 IMPLEMENT_MODULE(TPluginTestModule<3>, PluginTestSecond)
 IMPLEMENT_MODULE(TPluginTestModule<4>, PluginTestElsewhere)
 
+/** A folder of plug-ins below the engine's, deleted at the end. */
+class FEnginePluginFolder
+{
+public:
+	explicit FEnginePluginFolder(const char* Name)
+		: Folder(std::filesystem::path(ToStd(FPaths::EnginePluginsDir())) / Name)
+	{}
+
+	~FEnginePluginFolder()
+	{
+		std::error_code Error;
+		std::filesystem::remove_all(Folder, Error);
+	}
+
+	void Write(const std::string& Name, const std::string& Text) const
+	{
+		std::filesystem::create_directories(Folder / Name);
+		std::ofstream(Folder / Name / (Name + ".uplugin")) << Text;
+	}
+
+private:
+	std::filesystem::path Folder;
+};
+
 class PluginManager : public FProjectsTestBase
 {
 protected:
@@ -74,6 +98,37 @@ TEST_F(PluginManager, ProjectPluginIsOnUnlessItsDescriptorSaysOtherwise)
 	Manager().RefreshPluginsList();
 	EXPECT_EQ(FTexts({"On", "Silent"}), Enabled());
 	EXPECT_FALSE(Manager().FindPlugin(TEXT("Off"))->IsEnabled());
+}
+
+TEST_F(PluginManager, EnginePluginIsOnOnlyWhenItsDescriptorOrTheProjectSaysSo)
+{
+	const FEnginePluginFolder Engine("ProjectsTestPlugins");
+	Engine.Write("ProjectsTestSilent", "{ \"FileVersion\": 3 }");
+	Engine.Write("ProjectsTestOn", "{ \"FileVersion\": 3, \"EnabledByDefault\": true }");
+	Engine.Write("ProjectsTestAsked", "{ \"FileVersion\": 3 }");
+	Folder.Write("Demo.uproject", "{ \"Plugins\": [ { \"Name\": \"ProjectsTestAsked\", \"Enabled\": true } ] }");
+	Manager().RefreshPluginsList();
+	EXPECT_FALSE(Manager().FindPlugin(TEXT("ProjectsTestSilent"))->IsEnabled());
+	EXPECT_TRUE(Manager().FindPlugin(TEXT("ProjectsTestOn"))->IsEnabled());
+	EXPECT_TRUE(Manager().FindPlugin(TEXT("ProjectsTestAsked"))->IsEnabled());
+	EXPECT_EQ(EPluginLoadedFrom::Engine, Manager().FindPlugin(TEXT("ProjectsTestOn"))->GetLoadedFrom());
+}
+
+TEST_F(PluginManager, ProjectPluginWinsOverTheEnginesOfItsName)
+{
+	const FEnginePluginFolder Engine("ProjectsTestDouble");
+	Engine.Write("Painter", "{ \"FileVersion\": 3 }");
+	WritePlugin("Painter");
+	Manager().RefreshPluginsList();
+	EXPECT_EQ(EPluginLoadedFrom::Project, Manager().FindPlugin(TEXT("Painter"))->GetLoadedFrom());
+}
+
+TEST_F(PluginManager, ExtraFolderIsSearchedOnceItIsAdded)
+{
+	Folder.Write("Elsewhere/Guest/Guest.uplugin", "{ \"FileVersion\": 3 }");
+	EXPECT_TRUE(Manager().AddPluginSearchPath(Folder.Path("Elsewhere")));
+	EXPECT_FALSE(Manager().AddPluginSearchPath(Folder.Path("Elsewhere")));
+	EXPECT_TRUE(Manager().FindPlugin(TEXT("Guest")).IsValid());
 }
 
 TEST_F(PluginManager, ProjectFileTurnsPluginsOnAndOff)

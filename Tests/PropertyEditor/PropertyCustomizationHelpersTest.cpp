@@ -336,6 +336,23 @@ TEST_F(FAssetPickerTest, SelectsTheFirstAssetOnTheDownKey)
 	EXPECT_TRUE(IsText(GetSelected(), TEXT("Amber")));
 }
 
+TEST_F(FAssetPickerTest, SelectsAnAssetOnTheDownKeyEvenWithRowsAboveTheList)
+{
+	Write("Amber.look");
+	Open(FAssetData(), true);
+	User.Press(EKeys::Down);
+	EXPECT_TRUE(IsText(GetSelected(), TEXT("Amber")));
+}
+
+TEST_F(FAssetPickerTest, ReportsInvalidDataOnTheNoneButton)
+{
+	Write("Amber.look");
+	Open(FAssetData(), true);
+	const StandIn::FAssetPickerState State = GetState();
+	User.ClickAt(FVector2D(State.ListTopLeft.X + State.ListSize.X * 0.5f, State.ListTopLeft.Y - 8.0f));
+	EXPECT_TRUE(IsText(Events, TEXT("Set:-;Close;")));
+}
+
 TEST_F(FAssetPickerTest, ReportsNothingOnArrowKeys)
 {
 	Write("Amber.look");

@@ -1,5 +1,6 @@
 // Copyright The Tintmill authors. All rights reserved.
 
+#include "Containers/Ticker.h"
 #include "ToolMenuFixture.h"
 #include "ToolMenuTestContext.h"
 #include "UObject/UObjectGlobals.h"
@@ -239,6 +240,34 @@ TEST_F(UToolMenusWidgetsTest, AreMadeAnewByARefreshInsideAPanel)
 	Menu->AddMenuEntry("S", MakeEntry(TEXT("B")));
 	UToolMenus::Get()->RefreshMenuWidget("M");
 	EXPECT_EQ(StandIn::ListMenuRows(User.Anchor.ToSharedRef()).Num(), 2);
+}
+
+TEST_F(UToolMenusWidgetsTest, AreMadeAnewAtTheNextTickWhenAMenuIsExtended)
+{
+	UToolMenus::Get()->ExtendMenu("M")->AddMenuEntry("S", MakeEntry(TEXT("A")));
+	User.Show(UToolMenus::Get()->GenerateWidget("M", FToolMenuContext()));
+	UToolMenus::Get()->ExtendMenu("M")->AddMenuEntry("S", MakeEntry(TEXT("B")));
+	const int32 NumBefore = StandIn::ListMenuRows(User.Anchor.ToSharedRef()).Num();
+	FTicker::GetCoreTicker().Tick(0.0f);
+	const int32 NumAfter = StandIn::ListMenuRows(User.Anchor.ToSharedRef()).Num();
+	EXPECT_TRUE(NumBefore == 1 && NumAfter == 2);
+}
+
+TEST_F(UToolMenusWidgetsTest, KeepAWidgetThatGoesWithThemUntilItsActionHasRun)
+{
+	TWeakPtr<SWidget> Weak;
+	bool bAliveDuringAction = false;
+	{
+		UToolMenu* Inner = UToolMenus::Get()->RegisterMenu("Inner");
+		Inner->AddMenuEntry("S", ToolMenusWidgetsTestPrivate::MakeAction(TEXT("A"), [&]() { bAliveDuringAction = Weak.IsValid(); }));
+		const TSharedRef<SWidget> Holder = SNew(SBox)[UToolMenus::Get()->GenerateWidget(Inner)];
+		Weak = Holder;
+		FMenuBuilder Builder(true, nullptr);
+		Builder.AddWidget(Holder, FText::GetEmpty(), true);
+		User.Open(Builder.MakeWidget());
+	}
+	User.Click(TEXT("A"));
+	EXPECT_TRUE(bAliveDuringAction);
 }
 
 TEST_F(UToolMenusWidgetsTest, TakeCommandsFromTheContext)

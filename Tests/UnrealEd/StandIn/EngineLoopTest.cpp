@@ -273,6 +273,7 @@ TEST_F(FEngineLoopTest, CountsFrames)
 TEST_F(FEngineLoopTest, LoadsPluginModulesInTheirPhases)
 {
 	const FTemporaryProject Project("Phases");
+	Project.Write("Test.uproject", "{ \"FileVersion\": 3, \"Plugins\": [ { \"Name\": \"Tintmill\", \"Enabled\": false } ] }");
 	Project.Write("Plugins/Phased/Phased.uplugin",
 		"{ \"FileVersion\": 3, \"EnabledByDefault\": true, \"Modules\": ["
 		"{ \"Name\": \"EngineLoopTestLate\", \"Type\": \"Editor\", \"LoadingPhase\": \"PostEngineInit\" },"

@@ -43,6 +43,8 @@
 #include "Math/IntRect.h"
 #include "Math/UnrealMathUtility.h"
 #include "Math/Vector.h"
+#include "Math/Rotator.h"
 #include "Math/Vector2D.h"
+#include "Math/Vector4.h"
 
-// What nearly every file of an engine module uses. Left out beside the engine's: transforms, rotations, boxes, ranges, dates.
+// What nearly every file of an engine module uses. Left out beside the engine's: transforms, boxes, ranges, dates.

@@ -1,7 +1,6 @@
 // Copyright The Tintmill authors. All rights reserved.
 
 #include "SLevelEditorViewportViewMenu.h"
-#include "LevelEditorViewport.h"
 #include "SEditorViewportViewMenuContext.h"
 #include "SLevelViewport.h"
 #include "ToolMenus.h"
@@ -15,15 +14,6 @@ void SLevelEditorViewportViewMenu::Construct(
 {
 	SEditorViewportViewMenu::Construct(
 		SEditorViewportViewMenu::FArguments().MenuName(TEXT("LevelEditor.LevelViewportToolBar.View")), InViewport, InParentToolBar);
-}
-
-void SLevelEditorViewportViewMenu::OnMenuOpening()
-{
-	const TSharedPtr<SEditorViewport> Pinned = Viewport.Pin();
-	if (Pinned.IsValid())
-	{
-		StaticCastSharedPtr<SLevelViewport>(Pinned)->GetLevelViewportClient().SetCurrentViewport();
-	}
 }
 
 void SLevelEditorViewportViewMenu::RegisterMenus() const

@@ -21,5 +21,4 @@ public:
 
 protected:
 	virtual void RegisterMenus() const override;
-	virtual void OnMenuOpening() override;
 };

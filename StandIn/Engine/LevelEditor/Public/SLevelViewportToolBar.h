@@ -8,7 +8,8 @@
 class SLevelViewport;
 
 // The toolbar over a level viewport: viewport options, camera, view mode, show flags. Only the view mode button has a menu; the
-// buttons on the right are left out. Using the toolbar does not make its viewport the active one.
+// buttons on the right are left out.
+// Uncertain in the engine and settled here: using the toolbar changes neither the active viewport nor the client that is worked in.
 
 /** Toolbar over a level viewport. */
 class LEVELEDITOR_API SLevelViewportToolBar : public SViewportToolBar

@@ -84,7 +84,6 @@ void SEditorViewportToolbarMenu::SetMenuOpen(const bool bOpen)
 	{
 		return;
 	}
-	OnMenuOpening();
 	const FGeometry& Geometry = GetCachedGeometry();
 	OpenedMenu = FSlateApplication::Get().PushMenu(AsShared(), FWidgetPath(), OnGetMenuContent.Execute(), Geometry.GetAbsolutePosition(),
 		FPopupTransitionEffect(FPopupTransitionEffect::ComboButton), true, Geometry.GetAbsoluteSize());

@@ -43,10 +43,6 @@ public:
 	virtual FReply OnMouseButtonUp(const FGeometry& MyGeometry, const FPointerEvent& MouseEvent) override;
 	virtual FReply OnMouseButtonDoubleClick(const FGeometry& InMyGeometry, const FPointerEvent& InMouseEvent) override;
 
-protected:
-	/** Called before the menu's content is made. */
-	virtual void OnMenuOpening() {}
-
 private:
 	const FSlateBrush* GetBackground() const;
 	void OnMenuDismissed(TSharedRef<IMenu> InMenu);

@@ -6,7 +6,7 @@
 
 namespace LookTableGraderPrivate
 {
-/** Where a value lies on an axis with Size entries over Min..Max: a whole entry and the part towards the next one. */
+/** Where a value lies on an axis with Size entries over Min..Max: a whole entry and the fraction towards the next one. */
 static double Position(double Value, double Min, double Max, std::int64_t Size)
 {
 	return std::clamp((Value - Min) / (Max - Min), 0.0, 1.0) * static_cast<double>(Size - 1);

@@ -68,7 +68,7 @@ bool FString::StartsWith(const TCHAR* InPrefix, ESearchCase::Type SearchCase) co
 	return Length > 0
 		&& (SearchCase == ESearchCase::IgnoreCase ? FCString::Strnicmp(**this, InPrefix, (SIZE_T)Length)
 												  : FCString::Strncmp(**this, InPrefix, (SIZE_T)Length))
-			== 0;
+		== 0;
 }
 
 bool FString::EndsWith(const TCHAR* InSuffix, ESearchCase::Type SearchCase) const
@@ -120,8 +120,7 @@ bool FString::MatchesWildcard(const FString& Wildcard, ESearchCase::Type SearchC
 	return *Pattern == 0;
 }
 
-bool FString::Split(
-	const FString& InS, FString* LeftS, FString* RightS, ESearchCase::Type SearchCase, ESearchDir::Type SearchDir) const
+bool FString::Split(const FString& InS, FString* LeftS, FString* RightS, ESearchCase::Type SearchCase, ESearchDir::Type SearchDir) const
 {
 	check(LeftS != RightS || LeftS == nullptr);
 	const int32 Index = Find(*InS, SearchCase, SearchDir);
@@ -160,7 +159,7 @@ int32 FString::ReplaceInline(const TCHAR* SearchText, const TCHAR* ReplacementTe
 	int32 NumReplaced = 0;
 	int32 Start = 0;
 	for (int32 Index = Find(SearchText, SearchCase); Index != INDEX_NONE;
-		Index = Find(SearchText, SearchCase, ESearchDir::FromStart, Start))
+		 Index = Find(SearchText, SearchCase, ESearchDir::FromStart, Start))
 	{
 		Result.AppendChars(**this + Start, Index - Start);
 		Result += ReplacementText;
@@ -176,8 +175,7 @@ FString& FString::ReplaceCharInline(const TCHAR SearchChar, const TCHAR Replacem
 {
 	for (TCHAR& Char : *this)
 	{
-		const bool bSame =
-			SearchCase == ESearchCase::IgnoreCase ? FChar::ToLower(Char) == FChar::ToLower(SearchChar) : Char == SearchChar;
+		const bool bSame = SearchCase == ESearchCase::IgnoreCase ? FChar::ToLower(Char) == FChar::ToLower(SearchChar) : Char == SearchChar;
 		Char = bSame ? ReplacementChar : Char;
 	}
 	return *this;
@@ -262,8 +260,7 @@ int32 FString::ParseIntoArray(TArray<FString>& OutArray, const TCHAR* pchDelim, 
 	return ParseIntoArray(OutArray, &pchDelim, 1, InCullEmpty);
 }
 
-int32 FString::ParseIntoArray(
-	TArray<FString>& OutArray, const TCHAR* const* DelimArray, int32 NumDelims, bool InCullEmpty) const
+int32 FString::ParseIntoArray(TArray<FString>& OutArray, const TCHAR* const* DelimArray, int32 NumDelims, bool InCullEmpty) const
 {
 	check(DelimArray != nullptr);
 	OutArray.Reset();

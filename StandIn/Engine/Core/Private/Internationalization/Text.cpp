@@ -70,12 +70,11 @@ FString WriteReal(double Value, const FNumberFormattingOptions* InOptions)
 	}
 	char Buffer[512];
 	const int32 Precision = std::min(Options.MaximumFractionalDigits, 100);
-	const std::to_chars_result End =
-		std::to_chars(Buffer, Buffer + sizeof(Buffer), std::fabs(Value), std::chars_format::fixed, Precision);
+	const std::to_chars_result End = std::to_chars(Buffer, Buffer + sizeof(Buffer), std::fabs(Value), std::chars_format::fixed, Precision);
 	const std::string Digits(Buffer, End.ptr);
 	const size_t Point = Digits.find('.');
-	return Widened(WriteNumber(std::signbit(Value), Digits.substr(0, Point),
-		Point == std::string::npos ? std::string() : Digits.substr(Point + 1), Options));
+	return Widened(WriteNumber(
+		std::signbit(Value), Digits.substr(0, Point), Point == std::string::npos ? std::string() : Digits.substr(Point + 1), Options));
 }
 
 /** The pattern with every placeholder replaced by what Find gives for its name; one that Find does not know stays. */
@@ -128,11 +127,17 @@ struct FText::FTextData
 	uint32 Flags = 0;
 };
 
-FTextFormat::FTextFormat(const FText& InText) : Pattern(InText.ToString()) {}
+FTextFormat::FTextFormat(const FText& InText)
+	: Pattern(InText.ToString())
+{}
 
-FText::FText() : Data(GetEmpty().Data) {}
+FText::FText()
+	: Data(GetEmpty().Data)
+{}
 
-FText::FText(const TSharedRef<FTextData, ESPMode::ThreadSafe>& InData) : Data(InData) {}
+FText::FText(const TSharedRef<FTextData, ESPMode::ThreadSafe>& InData)
+	: Data(InData)
+{}
 
 const FText& FText::GetEmpty()
 {
@@ -222,8 +227,7 @@ FText FText::MakeLocalizable(const TCHAR* InSource, const TCHAR* InNamespace, co
 FText FText::Format(FTextFormat Fmt, const FFormatNamedArguments& InArguments)
 {
 	return Make(FillPattern(Fmt.GetSourceString(),
-					[&InArguments](const FString& Name) -> const FString*
-					{
+					[&InArguments](const FString& Name) -> const FString* {
 						const FFormatArgumentValue* const Value = InArguments.Find(Name);
 						return Value ? &Value->ToString() : nullptr;
 					}),
@@ -233,8 +237,7 @@ FText FText::Format(FTextFormat Fmt, const FFormatNamedArguments& InArguments)
 FText FText::Format(FTextFormat Fmt, const FFormatOrderedArguments& InArguments)
 {
 	return Make(FillPattern(Fmt.GetSourceString(),
-					[&InArguments](const FString& Name) -> const FString*
-					{
+					[&InArguments](const FString& Name) -> const FString* {
 						bool bNumber = !Name.IsEmpty();
 						for (int32 Index = 0; Index < Name.Len(); ++Index)
 						{

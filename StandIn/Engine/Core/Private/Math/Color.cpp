@@ -54,7 +54,12 @@ uint8 Rounded(float Value)
 }
 }
 
-FLinearColor::FLinearColor(const FColor& Color) : R(Decode(Color.R)), G(Decode(Color.G)), B(Decode(Color.B)), A(Color.A / 255.0f) {}
+FLinearColor::FLinearColor(const FColor& Color)
+	: R(Decode(Color.R))
+	, G(Decode(Color.G))
+	, B(Decode(Color.B))
+	, A(Color.A / 255.0f)
+{}
 
 FLinearColor FLinearColor::FromSRGBColor(const FColor& Color)
 {
@@ -83,8 +88,8 @@ FColor FLinearColor::QuantizeRound() const
 
 FString FLinearColor::ToString() const
 {
-	return FString::Printf(TEXT("(R=%f,G=%f,B=%f,A=%f)"), static_cast<double>(R), static_cast<double>(G), static_cast<double>(B),
-		static_cast<double>(A));
+	return FString::Printf(
+		TEXT("(R=%f,G=%f,B=%f,A=%f)"), static_cast<double>(R), static_cast<double>(G), static_cast<double>(B), static_cast<double>(A));
 }
 
 FColor FColor::FromHex(const FString& HexString)

@@ -47,6 +47,6 @@ FVector FRotator::Vector() const
 {
 	const float PitchRadians = FMath::DegreesToRadians(Pitch);
 	const float YawRadians = FMath::DegreesToRadians(Yaw);
-	return FVector(FMath::Cos(PitchRadians) * FMath::Cos(YawRadians), FMath::Cos(PitchRadians) * FMath::Sin(YawRadians),
-		FMath::Sin(PitchRadians));
+	return FVector(
+		FMath::Cos(PitchRadians) * FMath::Cos(YawRadians), FMath::Cos(PitchRadians) * FMath::Sin(YawRadians), FMath::Sin(PitchRadians));
 }

@@ -28,8 +28,8 @@ void VARARGS FDebug::AssertFailedImpl(const ANSICHAR* Expr, const ANSICHAR* File
 	va_start(Args, Format);
 	const FString Text = StandIn::FormatVString(Format, Args);
 	va_end(Args);
-	const FString Message = FString::Printf(TEXT("Assertion failed: %s [File:%s] [Line: %d] \n%s\n"), UTF8_TO_TCHAR(Expr),
-		UTF8_TO_TCHAR(File), Line, *Text);
+	const FString Message =
+		FString::Printf(TEXT("Assertion failed: %s [File:%s] [Line: %d] \n%s\n"), UTF8_TO_TCHAR(Expr), UTF8_TO_TCHAR(File), Line, *Text);
 	StandIn::Fatal(*Message);
 }
 
@@ -57,8 +57,8 @@ void VARARGS FDebug::EnsureFailedImpl(
 	va_start(Args, Format);
 	const FString Text = StandIn::FormatVString(Format, Args);
 	va_end(Args);
-	const FString Condition = FString::Printf(
-		TEXT("Ensure condition failed: %s [File:%s] [Line: %d] "), UTF8_TO_TCHAR(Expr), UTF8_TO_TCHAR(File), Line);
+	const FString Condition =
+		FString::Printf(TEXT("Ensure condition failed: %s [File:%s] [Line: %d] "), UTF8_TO_TCHAR(Expr), UTF8_TO_TCHAR(File), Line);
 	FOutputDeviceRedirector* Log = FOutputDeviceRedirector::Get();
 	const FName Category(TEXT("LogOutputDevice"));
 	Log->RedirectLog(Category, ELogVerbosity::Error, TEXT("=== Handled ensure: ==="));

@@ -160,5 +160,5 @@ FDateTime FDateTime::Now()
 	const std::tm* const Local = std::localtime(&Seconds);
 	return Local == nullptr ? Utc
 							: FDateTime(Local->tm_year + 1900, Local->tm_mon + 1, Local->tm_mday, Local->tm_hour, Local->tm_min,
-								  Local->tm_sec < 60 ? Local->tm_sec : 59, Utc.GetMillisecond());
+								Local->tm_sec < 60 ? Local->tm_sec : 59, Utc.GetMillisecond());
 }

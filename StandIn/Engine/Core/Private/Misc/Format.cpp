@@ -108,7 +108,7 @@ void AppendFloating(FBuffer& Out, const FConversion& Conversion, double Value)
 	}
 	const char Kind = (char)FChar::ToLower(Conversion.Letter);
 	const std::chars_format Format = Kind == 'f' ? std::chars_format::fixed
-		: Kind == 'e'							 ? std::chars_format::scientific
+		: Kind == 'e'                            ? std::chars_format::scientific
 												 : std::chars_format::general;
 	const int32 Precision = Conversion.Precision < 0 ? 6 : Conversion.Precision;
 	std::string Text((std::size_t)Precision + 400, '\0');
@@ -138,8 +138,7 @@ void AppendNarrowText(FBuffer& Out, const FConversion& Conversion, const ANSICHA
 		AppendText(Out, Conversion, nullptr);
 		return;
 	}
-	const int32 Length =
-		Conversion.Precision < 0 ? FCStringAnsi::Strlen(Text) : FCStringAnsi::Strnlen(Text, (SIZE_T)Conversion.Precision);
+	const int32 Length = Conversion.Precision < 0 ? FCStringAnsi::Strlen(Text) : FCStringAnsi::Strnlen(Text, (SIZE_T)Conversion.Precision);
 	const FANSIToTCHAR Wide(Text, Length);
 	AppendPadded(Out, Conversion, "", FBuffer(Wide.Get(), (std::size_t)Wide.Length()), false);
 }
@@ -275,7 +274,8 @@ void AppendConversion(FBuffer& Out, const TCHAR*& Format, FArguments& Arguments)
 	switch (Conversion.Letter)
 	{
 	case 'd':
-	case 'i': {
+	case 'i':
+	{
 		const int64 Value = TakeSigned(Conversion, Arguments);
 		AppendInteger(Out, Conversion, Value < 0 ? 0 - (uint64)Value : (uint64)Value, SignPrefix(Conversion, Value < 0));
 		break;
@@ -310,7 +310,8 @@ void AppendConversion(FBuffer& Out, const TCHAR*& Format, FArguments& Arguments)
 	case 'S':
 		AppendNarrowText(Out, Conversion, va_arg(Arguments.List, const ANSICHAR*));
 		break;
-	case 'p': {
+	case 'p':
+	{
 		FConversion Address = Conversion;
 		Address.Letter = 'x';
 		Address.Precision = 16;

@@ -57,8 +57,7 @@ void Fatal(const TCHAR* Message)
 
 void FatalAt(const ANSICHAR* File, int32 Line, const TCHAR* Text)
 {
-	const FString Message =
-		FString::Printf(TEXT("Fatal error: [File:%s] [Line: %d] \n%s\n"), UTF8_TO_TCHAR(File), Line, Text);
+	const FString Message = FString::Printf(TEXT("Fatal error: [File:%s] [Line: %d] \n%s\n"), UTF8_TO_TCHAR(File), Line, Text);
 	Fatal(*Message);
 }
 

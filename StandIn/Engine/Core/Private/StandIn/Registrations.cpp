@@ -53,8 +53,7 @@ void ListBindings(const TCHAR* Name, const FMulticastDelegateBase& Delegate, TAr
 void AddDelegate(const TCHAR* Name, const FMulticastDelegateBase& Delegate)
 {
 	const FString NameCopy(Name);
-	AddRegistry(Name, [NameCopy, &Delegate](TArray<FRegistration>& OutRegistrations) {
-		ListBindings(*NameCopy, Delegate, OutRegistrations);
-	});
+	AddRegistry(
+		Name, [NameCopy, &Delegate](TArray<FRegistration>& OutRegistrations) { ListBindings(*NameCopy, Delegate, OutRegistrations); });
 }
 }

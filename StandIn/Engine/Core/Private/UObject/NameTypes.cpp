@@ -57,7 +57,8 @@ FName MakeName(FNameTable::FView Text, int32 Number, EFindName FindType)
 	uint32 DisplayIndex = 0;
 	switch (FindType)
 	{
-	case FNAME_Find: {
+	case FNAME_Find:
+	{
 		const int64 Found = Table.Find(Text);
 		if (Found < 0)
 		{
@@ -96,33 +97,27 @@ FName MakeNameDetectNumber(FNameTable::FView Text, EFindName FindType)
 
 FName::FName(const WIDECHAR* Name, EFindName FindType)
 	: FName(MakeNameDetectNumber(OrEmpty(Name), FindType))
-{
-}
+{}
 
 FName::FName(const ANSICHAR* Name, EFindName FindType)
 	: FName(FANSIToTCHAR(Name).Get(), FindType)
-{
-}
+{}
 
 FName::FName(int32 Len, const WIDECHAR* Name, EFindName FindType)
 	: FName(MakeNameDetectNumber(FNameTable::FView(Name, (std::size_t)Len), FindType))
-{
-}
+{}
 
 FName::FName(int32 Len, const ANSICHAR* Name, EFindName FindType)
 	: FName(Len, FANSIToTCHAR(Name, Len).Get(), FindType)
-{
-}
+{}
 
 FName::FName(const WIDECHAR* Name, int32 InNumber, EFindName FindType)
 	: FName(MakeName(OrEmpty(Name), InNumber, FindType))
-{
-}
+{}
 
 FName::FName(const ANSICHAR* Name, int32 InNumber, EFindName FindType)
 	: FName(FANSIToTCHAR(Name).Get(), InNumber, FindType)
-{
-}
+{}
 
 FString FName::SafeString(FNameEntryId InDisplayIndex, int32 InstanceNumber)
 {
@@ -163,8 +158,8 @@ bool FName::IsValid() const
 
 bool FName::IsEqual(const FName& Other, const ENameCase CompareMethod, const bool bCompareNumber) const
 {
-	const bool bSameText = CompareMethod == ENameCase::IgnoreCase ? ComparisonIndex == Other.ComparisonIndex
-																  : DisplayIndex == Other.DisplayIndex;
+	const bool bSameText =
+		CompareMethod == ENameCase::IgnoreCase ? ComparisonIndex == Other.ComparisonIndex : DisplayIndex == Other.DisplayIndex;
 	return bSameText && (!bCompareNumber || Number == Other.Number);
 }
 
@@ -175,6 +170,6 @@ int32 FName::Compare(const FName& Other) const
 		return (int32)Number - (int32)Other.Number;
 	}
 	const FNameTable& Table = FNameTable::Get();
-	return FCString::Stricmp(Table.GetText(ComparisonIndex.ToUnstableInt()).c_str(),
-		Table.GetText(Other.ComparisonIndex.ToUnstableInt()).c_str());
+	return FCString::Stricmp(
+		Table.GetText(ComparisonIndex.ToUnstableInt()).c_str(), Table.GetText(Other.ComparisonIndex.ToUnstableInt()).c_str());
 }

@@ -30,8 +30,7 @@ public:
 	TArray()
 		: ArrayNum(0)
 		, ArrayMax(AllocatorType::GetInitialCapacity())
-	{
-	}
+	{}
 
 	/** Copies Count elements from a plain array. */
 	TArray(const ElementType* Ptr, SizeType Count)
@@ -854,7 +853,7 @@ private:
 	}
 
 	template <typename ReturnType, typename ObjectType>
-	static bool InvokeImpl(ReturnType (ObjectType::*&Func)() const, const ElementType& Element)
+	static bool InvokeImpl(ReturnType (ObjectType::*& Func)() const, const ElementType& Element)
 	{
 		return (bool)(Element.*Func)();
 	}
@@ -907,10 +906,7 @@ private:
 		}
 	}
 
-	void CheckRemoval(SizeType Index, SizeType Count) const
-	{
-		check((Count >= 0) & (Index >= 0) & (Index + Count <= ArrayNum));
-	}
+	void CheckRemoval(SizeType Index, SizeType Count) const { check((Count >= 0) & (Index >= 0) & (Index + Count <= ArrayNum)); }
 
 	void CutTo(SizeType NewNum, bool bAllowShrinking)
 	{

@@ -16,8 +16,7 @@ struct TCheckedPointerIterator
 		: Ptr(InPtr)
 		, CurrentNum(InNum)
 		, InitialNum(InNum)
-	{
-	}
+	{}
 
 	/** The element. */
 	ElementType& operator*() const { return *Ptr; }
@@ -61,8 +60,7 @@ public:
 	explicit TIndexedContainerIterator(ContainerType& InContainer, SizeType StartIndex = 0)
 		: Container(InContainer)
 		, Index(StartIndex)
-	{
-	}
+	{}
 
 	/** Goes to the next element. */
 	TIndexedContainerIterator& operator++()

@@ -30,8 +30,7 @@ public:
 	TArrayView(TArray<OtherElementType, Allocator>& Other)
 		: DataPtr(Other.GetData())
 		, ArrayNum(Other.Num())
-	{
-	}
+	{}
 
 	/** Views a const array. */
 	template <typename OtherElementType, typename Allocator,
@@ -39,8 +38,7 @@ public:
 	TArrayView(const TArray<OtherElementType, Allocator>& Other)
 		: DataPtr(Other.GetData())
 		, ArrayNum(Other.Num())
-	{
-	}
+	{}
 
 	/** Views what another view views. */
 	template <typename OtherElementType,
@@ -48,23 +46,20 @@ public:
 	TArrayView(const TArrayView<OtherElementType>& Other)
 		: DataPtr(Other.GetData())
 		, ArrayNum(Other.Num())
-	{
-	}
+	{}
 
 	/** Views a list, which must outlive the view. */
 	TArrayView(std::initializer_list<typename TRemoveConst<ElementType>::Type> List)
 		: DataPtr(List.begin())
 		, ArrayNum((SizeType)List.size())
-	{
-	}
+	{}
 
 	/** Views a C array. */
 	template <SIZE_T Size>
 	TArrayView(ElementType (&Other)[Size])
 		: DataPtr(Other)
 		, ArrayNum((SizeType)Size)
-	{
-	}
+	{}
 
 	/** The first element's address. */
 	ElementType* GetData() const { return DataPtr; }

@@ -166,5 +166,4 @@ public:
 
 /** Keeps the elements of sets and maps on the heap. */
 class FDefaultSetAllocator
-{
-};
+{};

@@ -19,20 +19,17 @@ public:
 	/** Holds an enumerator. */
 	TEnumAsByte(TEnum InValue)
 		: Value((uint8)InValue)
-	{
-	}
+	{}
 
 	/** Holds the enumerator of a number. */
 	explicit TEnumAsByte(int32 InValue)
 		: Value((uint8)InValue)
-	{
-	}
+	{}
 
 	/** Holds the enumerator of a number. */
 	explicit TEnumAsByte(uint8 InValue)
 		: Value(InValue)
-	{
-	}
+	{}
 
 	/** Whether the enumerators are equal. */
 	bool operator==(TEnum InValue) const { return (TEnum)Value == InValue; }

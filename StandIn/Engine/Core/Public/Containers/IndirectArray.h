@@ -16,8 +16,7 @@ public:
 	TIndirectArray() {}
 	TIndirectArray(TIndirectArray&& Other)
 		: Array(MoveTemp(Other.Array))
-	{
-	}
+	{}
 	TIndirectArray& operator=(TIndirectArray&& Other)
 	{
 		Empty();
@@ -82,8 +81,7 @@ public:
 	public:
 		explicit TElementIterator(PointerType InPosition)
 			: Position(InPosition)
-		{
-		}
+		{}
 		ReferenceType operator*() const { return **Position; }
 		TElementIterator& operator++()
 		{

@@ -47,8 +47,7 @@ public:
 		/** Starts at the first pair of a set. */
 		explicit TPairIterator(typename BaseIterator::SetType& InSet)
 			: BaseIterator(InSet, 0)
-		{
-		}
+		{}
 
 		/** The pair's key. */
 		const KeyType& Key() const { return (**this).Key; }
@@ -157,10 +156,7 @@ public:
 	/** Adds a pair. */
 	ValueType& Add(KeyType&& InKey, const ValueType& InValue) { return EmplaceImpl(MoveTempIfPossible(InKey), InValue); }
 	/** Adds a pair. */
-	ValueType& Add(KeyType&& InKey, ValueType&& InValue)
-	{
-		return EmplaceImpl(MoveTempIfPossible(InKey), MoveTempIfPossible(InValue));
-	}
+	ValueType& Add(KeyType&& InKey, ValueType&& InValue) { return EmplaceImpl(MoveTempIfPossible(InKey), MoveTempIfPossible(InValue)); }
 	/** Adds a pair with a default value. */
 	ValueType& Add(const KeyType& InKey) { return EmplaceImpl(InKey, ValueType()); }
 	/** Adds a pair with a default value. */

@@ -289,8 +289,7 @@ public:
 	int32 ParseIntoArray(TArray<FString>& OutArray, const TCHAR* pchDelim, bool InCullEmpty = true) const;
 
 	/** Splits at any of several delimiters; yields the number of parts. */
-	int32 ParseIntoArray(
-		TArray<FString>& OutArray, const TCHAR* const* DelimArray, int32 NumDelims, bool InCullEmpty = true) const;
+	int32 ParseIntoArray(TArray<FString>& OutArray, const TCHAR* const* DelimArray, int32 NumDelims, bool InCullEmpty = true) const;
 
 	/** Splits into lines; yields their number. */
 	int32 ParseIntoArrayLines(TArray<FString>& OutArray, bool InCullEmpty = true) const;

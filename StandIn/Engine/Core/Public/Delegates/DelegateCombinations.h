@@ -26,22 +26,18 @@
 	};
 
 #define DECLARE_DELEGATE_OneParam(Name, Param1Type) FUNC_DECLARE_DELEGATE(Name, void, Param1Type)
-#define DECLARE_MULTICAST_DELEGATE_OneParam(Name, Param1Type) \
-	FUNC_DECLARE_MULTICAST_DELEGATE(Name, void, Param1Type)
-#define DECLARE_EVENT_OneParam(OwningType, Name, Param1Type) \
-	FUNC_DECLARE_EVENT(OwningType, Name, void, Param1Type)
-#define DECLARE_DELEGATE_RetVal_OneParam(RetVal, Name, Param1Type) \
-	FUNC_DECLARE_DELEGATE(Name, RetVal, Param1Type)
+#define DECLARE_MULTICAST_DELEGATE_OneParam(Name, Param1Type) FUNC_DECLARE_MULTICAST_DELEGATE(Name, void, Param1Type)
+#define DECLARE_EVENT_OneParam(OwningType, Name, Param1Type) FUNC_DECLARE_EVENT(OwningType, Name, void, Param1Type)
+#define DECLARE_DELEGATE_RetVal_OneParam(RetVal, Name, Param1Type) FUNC_DECLARE_DELEGATE(Name, RetVal, Param1Type)
 
 #define DECLARE_DELEGATE_TwoParams(Name, Param1Type, Param2Type) FUNC_DECLARE_DELEGATE(Name, void, Param1Type, Param2Type)
 #define DECLARE_MULTICAST_DELEGATE_TwoParams(Name, Param1Type, Param2Type) \
 	FUNC_DECLARE_MULTICAST_DELEGATE(Name, void, Param1Type, Param2Type)
-#define DECLARE_EVENT_TwoParams(OwningType, Name, Param1Type, Param2Type) \
-	FUNC_DECLARE_EVENT(OwningType, Name, void, Param1Type, Param2Type)
-#define DECLARE_DELEGATE_RetVal_TwoParams(RetVal, Name, Param1Type, Param2Type) \
-	FUNC_DECLARE_DELEGATE(Name, RetVal, Param1Type, Param2Type)
+#define DECLARE_EVENT_TwoParams(OwningType, Name, Param1Type, Param2Type) FUNC_DECLARE_EVENT(OwningType, Name, void, Param1Type, Param2Type)
+#define DECLARE_DELEGATE_RetVal_TwoParams(RetVal, Name, Param1Type, Param2Type) FUNC_DECLARE_DELEGATE(Name, RetVal, Param1Type, Param2Type)
 
-#define DECLARE_DELEGATE_ThreeParams(Name, Param1Type, Param2Type, Param3Type) FUNC_DECLARE_DELEGATE(Name, void, Param1Type, Param2Type, Param3Type)
+#define DECLARE_DELEGATE_ThreeParams(Name, Param1Type, Param2Type, Param3Type) \
+	FUNC_DECLARE_DELEGATE(Name, void, Param1Type, Param2Type, Param3Type)
 #define DECLARE_MULTICAST_DELEGATE_ThreeParams(Name, Param1Type, Param2Type, Param3Type) \
 	FUNC_DECLARE_MULTICAST_DELEGATE(Name, void, Param1Type, Param2Type, Param3Type)
 #define DECLARE_EVENT_ThreeParams(OwningType, Name, Param1Type, Param2Type, Param3Type) \
@@ -49,7 +45,8 @@
 #define DECLARE_DELEGATE_RetVal_ThreeParams(RetVal, Name, Param1Type, Param2Type, Param3Type) \
 	FUNC_DECLARE_DELEGATE(Name, RetVal, Param1Type, Param2Type, Param3Type)
 
-#define DECLARE_DELEGATE_FourParams(Name, Param1Type, Param2Type, Param3Type, Param4Type) FUNC_DECLARE_DELEGATE(Name, void, Param1Type, Param2Type, Param3Type, Param4Type)
+#define DECLARE_DELEGATE_FourParams(Name, Param1Type, Param2Type, Param3Type, Param4Type) \
+	FUNC_DECLARE_DELEGATE(Name, void, Param1Type, Param2Type, Param3Type, Param4Type)
 #define DECLARE_MULTICAST_DELEGATE_FourParams(Name, Param1Type, Param2Type, Param3Type, Param4Type) \
 	FUNC_DECLARE_MULTICAST_DELEGATE(Name, void, Param1Type, Param2Type, Param3Type, Param4Type)
 #define DECLARE_EVENT_FourParams(OwningType, Name, Param1Type, Param2Type, Param3Type, Param4Type) \
@@ -57,7 +54,8 @@
 #define DECLARE_DELEGATE_RetVal_FourParams(RetVal, Name, Param1Type, Param2Type, Param3Type, Param4Type) \
 	FUNC_DECLARE_DELEGATE(Name, RetVal, Param1Type, Param2Type, Param3Type, Param4Type)
 
-#define DECLARE_DELEGATE_FiveParams(Name, Param1Type, Param2Type, Param3Type, Param4Type, Param5Type) FUNC_DECLARE_DELEGATE(Name, void, Param1Type, Param2Type, Param3Type, Param4Type, Param5Type)
+#define DECLARE_DELEGATE_FiveParams(Name, Param1Type, Param2Type, Param3Type, Param4Type, Param5Type) \
+	FUNC_DECLARE_DELEGATE(Name, void, Param1Type, Param2Type, Param3Type, Param4Type, Param5Type)
 #define DECLARE_MULTICAST_DELEGATE_FiveParams(Name, Param1Type, Param2Type, Param3Type, Param4Type, Param5Type) \
 	FUNC_DECLARE_MULTICAST_DELEGATE(Name, void, Param1Type, Param2Type, Param3Type, Param4Type, Param5Type)
 #define DECLARE_EVENT_FiveParams(OwningType, Name, Param1Type, Param2Type, Param3Type, Param4Type, Param5Type) \
@@ -65,7 +63,8 @@
 #define DECLARE_DELEGATE_RetVal_FiveParams(RetVal, Name, Param1Type, Param2Type, Param3Type, Param4Type, Param5Type) \
 	FUNC_DECLARE_DELEGATE(Name, RetVal, Param1Type, Param2Type, Param3Type, Param4Type, Param5Type)
 
-#define DECLARE_DELEGATE_SixParams(Name, Param1Type, Param2Type, Param3Type, Param4Type, Param5Type, Param6Type) FUNC_DECLARE_DELEGATE(Name, void, Param1Type, Param2Type, Param3Type, Param4Type, Param5Type, Param6Type)
+#define DECLARE_DELEGATE_SixParams(Name, Param1Type, Param2Type, Param3Type, Param4Type, Param5Type, Param6Type) \
+	FUNC_DECLARE_DELEGATE(Name, void, Param1Type, Param2Type, Param3Type, Param4Type, Param5Type, Param6Type)
 #define DECLARE_MULTICAST_DELEGATE_SixParams(Name, Param1Type, Param2Type, Param3Type, Param4Type, Param5Type, Param6Type) \
 	FUNC_DECLARE_MULTICAST_DELEGATE(Name, void, Param1Type, Param2Type, Param3Type, Param4Type, Param5Type, Param6Type)
 #define DECLARE_EVENT_SixParams(OwningType, Name, Param1Type, Param2Type, Param3Type, Param4Type, Param5Type, Param6Type) \
@@ -73,26 +72,43 @@
 #define DECLARE_DELEGATE_RetVal_SixParams(RetVal, Name, Param1Type, Param2Type, Param3Type, Param4Type, Param5Type, Param6Type) \
 	FUNC_DECLARE_DELEGATE(Name, RetVal, Param1Type, Param2Type, Param3Type, Param4Type, Param5Type, Param6Type)
 
-#define DECLARE_DELEGATE_SevenParams(Name, Param1Type, Param2Type, Param3Type, Param4Type, Param5Type, Param6Type, Param7Type) FUNC_DECLARE_DELEGATE(Name, void, Param1Type, Param2Type, Param3Type, Param4Type, Param5Type, Param6Type, Param7Type)
+#define DECLARE_DELEGATE_SevenParams(Name, Param1Type, Param2Type, Param3Type, Param4Type, Param5Type, Param6Type, Param7Type) \
+	FUNC_DECLARE_DELEGATE(Name, void, Param1Type, Param2Type, Param3Type, Param4Type, Param5Type, Param6Type, Param7Type)
 #define DECLARE_MULTICAST_DELEGATE_SevenParams(Name, Param1Type, Param2Type, Param3Type, Param4Type, Param5Type, Param6Type, Param7Type) \
 	FUNC_DECLARE_MULTICAST_DELEGATE(Name, void, Param1Type, Param2Type, Param3Type, Param4Type, Param5Type, Param6Type, Param7Type)
 #define DECLARE_EVENT_SevenParams(OwningType, Name, Param1Type, Param2Type, Param3Type, Param4Type, Param5Type, Param6Type, Param7Type) \
 	FUNC_DECLARE_EVENT(OwningType, Name, void, Param1Type, Param2Type, Param3Type, Param4Type, Param5Type, Param6Type, Param7Type)
-#define DECLARE_DELEGATE_RetVal_SevenParams(RetVal, Name, Param1Type, Param2Type, Param3Type, Param4Type, Param5Type, Param6Type, Param7Type) \
+#define DECLARE_DELEGATE_RetVal_SevenParams( \
+	RetVal, Name, Param1Type, Param2Type, Param3Type, Param4Type, Param5Type, Param6Type, Param7Type) \
 	FUNC_DECLARE_DELEGATE(Name, RetVal, Param1Type, Param2Type, Param3Type, Param4Type, Param5Type, Param6Type, Param7Type)
 
-#define DECLARE_DELEGATE_EightParams(Name, Param1Type, Param2Type, Param3Type, Param4Type, Param5Type, Param6Type, Param7Type, Param8Type) FUNC_DECLARE_DELEGATE(Name, void, Param1Type, Param2Type, Param3Type, Param4Type, Param5Type, Param6Type, Param7Type, Param8Type)
-#define DECLARE_MULTICAST_DELEGATE_EightParams(Name, Param1Type, Param2Type, Param3Type, Param4Type, Param5Type, Param6Type, Param7Type, Param8Type) \
-	FUNC_DECLARE_MULTICAST_DELEGATE(Name, void, Param1Type, Param2Type, Param3Type, Param4Type, Param5Type, Param6Type, Param7Type, Param8Type)
-#define DECLARE_EVENT_EightParams(OwningType, Name, Param1Type, Param2Type, Param3Type, Param4Type, Param5Type, Param6Type, Param7Type, Param8Type) \
-	FUNC_DECLARE_EVENT(OwningType, Name, void, Param1Type, Param2Type, Param3Type, Param4Type, Param5Type, Param6Type, Param7Type, Param8Type)
-#define DECLARE_DELEGATE_RetVal_EightParams(RetVal, Name, Param1Type, Param2Type, Param3Type, Param4Type, Param5Type, Param6Type, Param7Type, Param8Type) \
+#define DECLARE_DELEGATE_EightParams(Name, Param1Type, Param2Type, Param3Type, Param4Type, Param5Type, Param6Type, Param7Type, Param8Type) \
+	FUNC_DECLARE_DELEGATE(Name, void, Param1Type, Param2Type, Param3Type, Param4Type, Param5Type, Param6Type, Param7Type, Param8Type)
+#define DECLARE_MULTICAST_DELEGATE_EightParams( \
+	Name, Param1Type, Param2Type, Param3Type, Param4Type, Param5Type, Param6Type, Param7Type, Param8Type) \
+	FUNC_DECLARE_MULTICAST_DELEGATE( \
+		Name, void, Param1Type, Param2Type, Param3Type, Param4Type, Param5Type, Param6Type, Param7Type, Param8Type)
+#define DECLARE_EVENT_EightParams( \
+	OwningType, Name, Param1Type, Param2Type, Param3Type, Param4Type, Param5Type, Param6Type, Param7Type, Param8Type) \
+	FUNC_DECLARE_EVENT( \
+		OwningType, Name, void, Param1Type, Param2Type, Param3Type, Param4Type, Param5Type, Param6Type, Param7Type, Param8Type)
+#define DECLARE_DELEGATE_RetVal_EightParams( \
+	RetVal, Name, Param1Type, Param2Type, Param3Type, Param4Type, Param5Type, Param6Type, Param7Type, Param8Type) \
 	FUNC_DECLARE_DELEGATE(Name, RetVal, Param1Type, Param2Type, Param3Type, Param4Type, Param5Type, Param6Type, Param7Type, Param8Type)
 
-#define DECLARE_DELEGATE_NineParams(Name, Param1Type, Param2Type, Param3Type, Param4Type, Param5Type, Param6Type, Param7Type, Param8Type, Param9Type) FUNC_DECLARE_DELEGATE(Name, void, Param1Type, Param2Type, Param3Type, Param4Type, Param5Type, Param6Type, Param7Type, Param8Type, Param9Type)
-#define DECLARE_MULTICAST_DELEGATE_NineParams(Name, Param1Type, Param2Type, Param3Type, Param4Type, Param5Type, Param6Type, Param7Type, Param8Type, Param9Type) \
-	FUNC_DECLARE_MULTICAST_DELEGATE(Name, void, Param1Type, Param2Type, Param3Type, Param4Type, Param5Type, Param6Type, Param7Type, Param8Type, Param9Type)
-#define DECLARE_EVENT_NineParams(OwningType, Name, Param1Type, Param2Type, Param3Type, Param4Type, Param5Type, Param6Type, Param7Type, Param8Type, Param9Type) \
-	FUNC_DECLARE_EVENT(OwningType, Name, void, Param1Type, Param2Type, Param3Type, Param4Type, Param5Type, Param6Type, Param7Type, Param8Type, Param9Type)
-#define DECLARE_DELEGATE_RetVal_NineParams(RetVal, Name, Param1Type, Param2Type, Param3Type, Param4Type, Param5Type, Param6Type, Param7Type, Param8Type, Param9Type) \
-	FUNC_DECLARE_DELEGATE(Name, RetVal, Param1Type, Param2Type, Param3Type, Param4Type, Param5Type, Param6Type, Param7Type, Param8Type, Param9Type)
+#define DECLARE_DELEGATE_NineParams( \
+	Name, Param1Type, Param2Type, Param3Type, Param4Type, Param5Type, Param6Type, Param7Type, Param8Type, Param9Type) \
+	FUNC_DECLARE_DELEGATE( \
+		Name, void, Param1Type, Param2Type, Param3Type, Param4Type, Param5Type, Param6Type, Param7Type, Param8Type, Param9Type)
+#define DECLARE_MULTICAST_DELEGATE_NineParams( \
+	Name, Param1Type, Param2Type, Param3Type, Param4Type, Param5Type, Param6Type, Param7Type, Param8Type, Param9Type) \
+	FUNC_DECLARE_MULTICAST_DELEGATE( \
+		Name, void, Param1Type, Param2Type, Param3Type, Param4Type, Param5Type, Param6Type, Param7Type, Param8Type, Param9Type)
+#define DECLARE_EVENT_NineParams( \
+	OwningType, Name, Param1Type, Param2Type, Param3Type, Param4Type, Param5Type, Param6Type, Param7Type, Param8Type, Param9Type) \
+	FUNC_DECLARE_EVENT(OwningType, Name, void, Param1Type, Param2Type, Param3Type, Param4Type, Param5Type, Param6Type, Param7Type, \
+		Param8Type, Param9Type)
+#define DECLARE_DELEGATE_RetVal_NineParams( \
+	RetVal, Name, Param1Type, Param2Type, Param3Type, Param4Type, Param5Type, Param6Type, Param7Type, Param8Type, Param9Type) \
+	FUNC_DECLARE_DELEGATE( \
+		Name, RetVal, Param1Type, Param2Type, Param3Type, Param4Type, Param5Type, Param6Type, Param7Type, Param8Type, Param9Type)

@@ -55,8 +55,7 @@ public:
 	explicit TCommonDelegateInstanceState(VarTypes... Vars)
 		: Payload(Vars...)
 		, Handle(FDelegateHandle::GenerateNewHandle)
-	{
-	}
+	{}
 
 	virtual UObject* GetUObject() const override { return nullptr; }
 	virtual const void* GetObjectForTimerManager() const override { return nullptr; }
@@ -121,8 +120,7 @@ public:
 	explicit TBaseFunctorDelegateInstance(InFunctorType&& InFunctor, VarTypes... Vars)
 		: TCommonDelegateInstanceState<RetType(ArgTypes...), VarTypes...>(Vars...)
 		, Functor(Forward<InFunctorType>(InFunctor))
-	{
-	}
+	{}
 
 	virtual TBaseFunctorDelegateInstance* CreateCopy() const override { return new TBaseFunctorDelegateInstance(*this); }
 	virtual RetType Execute(ArgTypes... Args) const override { return this->Call(Functor, static_cast<ArgTypes&&>(Args)...); }
@@ -150,8 +148,7 @@ public:
 		: TCommonDelegateInstanceState<RetType(ArgTypes...), VarTypes...>(Vars...)
 		, ContextObject(InContextObject)
 		, Functor(Forward<InFunctorType>(InFunctor))
-	{
-	}
+	{}
 
 	virtual UObject* GetUObject() const override { return (UObject*)ContextObject.Get(); }
 	virtual const void* GetObjectForTimerManager() const override { return ContextObject.Get(); }
@@ -199,10 +196,7 @@ public:
 	virtual const void* GetObjectForTimerManager() const override { return UserObject; }
 	virtual bool HasSameObject(const void* InUserObject) const override { return UserObject == InUserObject; }
 	virtual TBaseRawMethodDelegateInstance* CreateCopy() const override { return new TBaseRawMethodDelegateInstance(*this); }
-	virtual RetType Execute(ArgTypes... Args) const override
-	{
-		return this->Call(MethodPtr, UserObject, static_cast<ArgTypes&&>(Args)...);
-	}
+	virtual RetType Execute(ArgTypes... Args) const override { return this->Call(MethodPtr, UserObject, static_cast<ArgTypes&&>(Args)...); }
 	virtual bool ExecuteIfSafe(ArgTypes... Args) const override
 	{
 		this->Call(MethodPtr, UserObject, static_cast<ArgTypes&&>(Args)...);
@@ -267,7 +261,8 @@ template <bool bConst, class UserClass, typename RetType, typename... ArgTypes, 
 class TBaseUObjectMethodDelegateInstance<bConst, UserClass, RetType(ArgTypes...), VarTypes...>
 	: public TCommonDelegateInstanceState<RetType(ArgTypes...), VarTypes...>
 {
-	static_assert(TPointerIsConvertibleFromTo<UserClass, const UObjectBase>::Value, "You cannot use UObject method delegates with raw pointers.");
+	static_assert(
+		TPointerIsConvertibleFromTo<UserClass, const UObjectBase>::Value, "You cannot use UObject method delegates with raw pointers.");
 
 public:
 	typedef typename TMemFunPtrType<bConst, UserClass, RetType(ArgTypes..., VarTypes...)>::Type FMethodPtr;

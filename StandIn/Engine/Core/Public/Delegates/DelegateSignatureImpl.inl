@@ -77,7 +77,8 @@ public:
 	template <typename UserClass, typename... VarTypes>
 	static TDelegate CreateRaw(UserClass* InUserObject, TMethod<false, UserClass, VarTypes...> InFunc, VarTypes... Vars)
 	{
-		static_assert(!TIsConst<UserClass>::Value, "Attempting to bind a delegate with a const object pointer and non-const member function.");
+		static_assert(
+			!TIsConst<UserClass>::Value, "Attempting to bind a delegate with a const object pointer and non-const member function.");
 		return Make(new TBaseRawMethodDelegateInstance<false, UserClass, FuncType, VarTypes...>(InUserObject, InFunc, Vars...));
 	}
 
@@ -90,17 +91,15 @@ public:
 
 	/** Binds a member function of a shared object, held weakly. */
 	template <typename UserClass, typename... VarTypes>
-	static TDelegate CreateSP(
-		const TSharedRef<UserClass>& InUserObjectRef, TMethod<false, UserClass, VarTypes...> InFunc, VarTypes... Vars)
+	static TDelegate CreateSP(const TSharedRef<UserClass>& InUserObjectRef, TMethod<false, UserClass, VarTypes...> InFunc, VarTypes... Vars)
 	{
-		return Make(new TBaseSPMethodDelegateInstance<false, UserClass, ESPMode::Fast, FuncType, VarTypes...>(
-			InUserObjectRef, InFunc, Vars...));
+		return Make(
+			new TBaseSPMethodDelegateInstance<false, UserClass, ESPMode::Fast, FuncType, VarTypes...>(InUserObjectRef, InFunc, Vars...));
 	}
 
 	/** Binds a const member function of a shared object, held weakly. */
 	template <typename UserClass, typename... VarTypes>
-	static TDelegate CreateSP(
-		const TSharedRef<UserClass>& InUserObjectRef, TMethod<true, UserClass, VarTypes...> InFunc, VarTypes... Vars)
+	static TDelegate CreateSP(const TSharedRef<UserClass>& InUserObjectRef, TMethod<true, UserClass, VarTypes...> InFunc, VarTypes... Vars)
 	{
 		return Make(new TBaseSPMethodDelegateInstance<true, const UserClass, ESPMode::Fast, FuncType, VarTypes...>(
 			TSharedRef<const UserClass>(InUserObjectRef), InFunc, Vars...));
@@ -123,8 +122,8 @@ public:
 
 	/** Binds a member function of an object with thread-safe counts, held weakly. */
 	template <typename UserClass, typename... VarTypes>
-	static TDelegate CreateThreadSafeSP(const TSharedRef<UserClass, ESPMode::ThreadSafe>& InUserObjectRef,
-		TMethod<false, UserClass, VarTypes...> InFunc, VarTypes... Vars)
+	static TDelegate CreateThreadSafeSP(
+		const TSharedRef<UserClass, ESPMode::ThreadSafe>& InUserObjectRef, TMethod<false, UserClass, VarTypes...> InFunc, VarTypes... Vars)
 	{
 		return Make(new TBaseSPMethodDelegateInstance<false, UserClass, ESPMode::ThreadSafe, FuncType, VarTypes...>(
 			InUserObjectRef, InFunc, Vars...));
@@ -132,8 +131,8 @@ public:
 
 	/** Binds a const member function of an object with thread-safe counts, held weakly. */
 	template <typename UserClass, typename... VarTypes>
-	static TDelegate CreateThreadSafeSP(const TSharedRef<UserClass, ESPMode::ThreadSafe>& InUserObjectRef,
-		TMethod<true, UserClass, VarTypes...> InFunc, VarTypes... Vars)
+	static TDelegate CreateThreadSafeSP(
+		const TSharedRef<UserClass, ESPMode::ThreadSafe>& InUserObjectRef, TMethod<true, UserClass, VarTypes...> InFunc, VarTypes... Vars)
 	{
 		return Make(new TBaseSPMethodDelegateInstance<true, const UserClass, ESPMode::ThreadSafe, FuncType, VarTypes...>(
 			TSharedRef<const UserClass, ESPMode::ThreadSafe>(InUserObjectRef), InFunc, Vars...));
@@ -207,8 +206,8 @@ public:
 
 	/** Replaces the binding by a member function of an object with thread-safe counts. */
 	template <typename UserClass, typename... VarTypes>
-	void BindThreadSafeSP(const TSharedRef<UserClass, ESPMode::ThreadSafe>& InUserObjectRef,
-		TMethod<false, UserClass, VarTypes...> InFunc, VarTypes... Vars)
+	void BindThreadSafeSP(
+		const TSharedRef<UserClass, ESPMode::ThreadSafe>& InUserObjectRef, TMethod<false, UserClass, VarTypes...> InFunc, VarTypes... Vars)
 	{
 		*this = CreateThreadSafeSP(InUserObjectRef, InFunc, Vars...);
 	}
@@ -221,7 +220,10 @@ public:
 	}
 
 	/** Whether there is a binding and its object lives. */
-	bool IsBound() const { return this->Instance != nullptr && this->Instance->IsSafeToExecute(); }
+	bool IsBound() const
+	{
+		return this->Instance != nullptr && this->Instance->IsSafeToExecute();
+	}
 
 	/** Calls the function; unbound is fatal. */
 	RetValType Execute(ParamTypes... Params) const
@@ -247,7 +249,10 @@ private:
 		return Result;
 	}
 
-	const FInstance* GetTyped() const { return static_cast<const FInstance*>(this->Instance); }
+	const FInstance* GetTyped() const
+	{
+		return static_cast<const FInstance*>(this->Instance);
+	}
 };
 
 /** Calls any number of functions, the last added first. */
@@ -345,8 +350,8 @@ public:
 
 	/** Adds a member function of an object with thread-safe counts. */
 	template <typename UserClass, typename... VarTypes>
-	FDelegateHandle AddThreadSafeSP(const TSharedRef<UserClass, ESPMode::ThreadSafe>& InUserObjectRef,
-		TMethod<false, UserClass, VarTypes...> InFunc, VarTypes... Vars)
+	FDelegateHandle AddThreadSafeSP(
+		const TSharedRef<UserClass, ESPMode::ThreadSafe>& InUserObjectRef, TMethod<false, UserClass, VarTypes...> InFunc, VarTypes... Vars)
 	{
 		return Add(FDelegate::CreateThreadSafeSP(InUserObjectRef, InFunc, Vars...));
 	}
@@ -359,7 +364,10 @@ public:
 	}
 
 	/** Removes a binding; yields whether it was there. */
-	bool Remove(FDelegateHandle Handle) { return Handle.IsValid() && RemoveInternal(Handle); }
+	bool Remove(FDelegateHandle Handle)
+	{
+		return Handle.IsValid() && RemoveInternal(Handle);
+	}
 
 	/** Calls the bindings, the last added first; those added meanwhile are not called, those removed meanwhile neither. */
 	void Broadcast(ParamTypes... Params) const

@@ -21,14 +21,12 @@ public:
 	/** An invalid handle. */
 	FDelegateHandle()
 		: ID(0)
-	{
-	}
+	{}
 
 	/** A fresh handle. */
 	explicit FDelegateHandle(EGenerateNewHandleType)
 		: ID(GenerateNewID())
-	{
-	}
+	{}
 
 	/** Whether the handle was ever given to a binding. */
 	bool IsValid() const { return ID != 0; }

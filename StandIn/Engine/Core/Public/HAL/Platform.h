@@ -86,8 +86,7 @@ static_assert(sizeof(TCHAR) == 2, "TCHAR must have two bytes.");
 #define FORCENOINLINE __attribute__((noinline))
 #define LIKELY(x) __builtin_expect(!!(x), 1)
 #define UNLIKELY(x) __builtin_expect(!!(x), 0)
-#define PRAGMA_DISABLE_DEPRECATION_WARNINGS \
-	_Pragma("GCC diagnostic push") _Pragma("GCC diagnostic ignored \"-Wdeprecated-declarations\"")
+#define PRAGMA_DISABLE_DEPRECATION_WARNINGS _Pragma("GCC diagnostic push") _Pragma("GCC diagnostic ignored \"-Wdeprecated-declarations\"")
 #define PRAGMA_ENABLE_DEPRECATION_WARNINGS _Pragma("GCC diagnostic pop")
 #endif
 

@@ -70,6 +70,7 @@ public:
 
 	/** A text of words that are not translated. */
 	static FText FromString(const FString& String);
+	/** A text of words that are not translated. */
 	static FText FromString(FString&& String);
 
 	/** The name's words. */
@@ -77,15 +78,22 @@ public:
 
 	/** Words that are the same in every culture. */
 	static FText AsCultureInvariant(const FString& String);
+	/** Words that are the same in every culture. */
 	static FText AsCultureInvariant(FString&& String);
+	/** The text's words, the same in every culture. */
 	static FText AsCultureInvariant(FText Text);
 
 	/** A number with grouping commas and at most three fractional digits, unless the options say otherwise. */
 	static FText AsNumber(float Val, const FNumberFormattingOptions* const Options = nullptr);
+	/** A number in the same way. */
 	static FText AsNumber(double Val, const FNumberFormattingOptions* const Options = nullptr);
+	/** A number in the same way. */
 	static FText AsNumber(int32 Val, const FNumberFormattingOptions* const Options = nullptr);
+	/** A number in the same way. */
 	static FText AsNumber(uint32 Val, const FNumberFormattingOptions* const Options = nullptr);
+	/** A number in the same way. */
 	static FText AsNumber(int64 Val, const FNumberFormattingOptions* const Options = nullptr);
+	/** A number in the same way. */
 	static FText AsNumber(uint64 Val, const FNumberFormattingOptions* const Options = nullptr);
 
 	/** A share of one as a percentage: 0.5 is "50%". */
@@ -96,9 +104,12 @@ public:
 
 	/** Fills the pattern's placeholders; one without an argument stays as typed. */
 	static FText Format(FTextFormat Fmt, const FFormatNamedArguments& InArguments);
+	/** Fills the placeholders {0}, {1} and so on; one without an argument stays as typed. */
 	static FText Format(FTextFormat Fmt, const FFormatOrderedArguments& InArguments);
+	/** Fills the placeholders {0}, {1} and so on; one without an argument stays as typed. */
 	template <typename... ArgTypes>
 	static FText Format(FTextFormat Fmt, const FFormatArgumentValue& First, ArgTypes... Args);
+	/** Fills the placeholders {0}, {1} and so on; one without an argument stays as typed. */
 	template <typename... ArgTypes>
 	static FText FormatOrdered(FTextFormat Fmt, ArgTypes&&... Args);
 
@@ -111,24 +122,34 @@ public:
 	/** The words in the source language. */
 	FString BuildSourceString() const;
 
+	/** Whether there are no words. */
 	bool IsEmpty() const;
+	/** Whether there is nothing but white space. */
 	bool IsEmptyOrWhitespace() const;
+	/** Whether the words are one number. */
 	bool IsNumeric() const;
+	/** Whether the text was put together while running. */
 	bool IsTransient() const;
+	/** Whether the words are the same in every culture. */
 	bool IsCultureInvariant() const;
+	/** Always false: there are no string tables. */
 	bool IsFromStringTable() const { return false; }
 
 	/** Compares the words; the default level tells upper from lower case. */
 	bool EqualTo(const FText& Other, const ETextComparisonLevel::Type ComparisonLevel = ETextComparisonLevel::Default) const;
+	/** Compares the words without regard to case. */
 	bool EqualToCaseIgnored(const FText& Other) const;
+	/** Orders by the words; negative, zero or positive. */
 	int32 CompareTo(const FText& Other, const ETextComparisonLevel::Type ComparisonLevel = ETextComparisonLevel::Default) const;
+	/** Orders by the words without regard to case; negative, zero or positive. */
 	int32 CompareToCaseIgnored(const FText& Other) const;
 
 	/** Says whether both are the same text: they share their words' storage, or namespace, key and words. */
 	bool IdenticalTo(const FText& Other) const;
 
-	/** The words in upper or lower case. */
+	/** The words in upper case. */
 	FText ToUpper() const;
+	/** The words in lower case. */
 	FText ToLower() const;
 
 	/** The words without white space at the start and the end. */
@@ -148,14 +169,36 @@ private:
 class CORE_API FFormatArgumentValue
 {
 public:
+	/** An empty text. */
 	FFormatArgumentValue() {}
-	FFormatArgumentValue(const int32 Value) : Text(FText::AsNumber(Value)) {}
-	FFormatArgumentValue(const uint32 Value) : Text(FText::AsNumber(Value)) {}
-	FFormatArgumentValue(const int64 Value) : Text(FText::AsNumber(Value)) {}
-	FFormatArgumentValue(const uint64 Value) : Text(FText::AsNumber(Value)) {}
-	FFormatArgumentValue(const float Value) : Text(FText::AsNumber(Value)) {}
-	FFormatArgumentValue(const double Value) : Text(FText::AsNumber(Value)) {}
-	FFormatArgumentValue(const FText& Value) : Text(Value) {}
+	/** A number as FText::AsNumber writes it. */
+	FFormatArgumentValue(const int32 Value)
+		: Text(FText::AsNumber(Value))
+	{}
+	/** A number as FText::AsNumber writes it. */
+	FFormatArgumentValue(const uint32 Value)
+		: Text(FText::AsNumber(Value))
+	{}
+	/** A number as FText::AsNumber writes it. */
+	FFormatArgumentValue(const int64 Value)
+		: Text(FText::AsNumber(Value))
+	{}
+	/** A number as FText::AsNumber writes it. */
+	FFormatArgumentValue(const uint64 Value)
+		: Text(FText::AsNumber(Value))
+	{}
+	/** A number as FText::AsNumber writes it. */
+	FFormatArgumentValue(const float Value)
+		: Text(FText::AsNumber(Value))
+	{}
+	/** A number as FText::AsNumber writes it. */
+	FFormatArgumentValue(const double Value)
+		: Text(FText::AsNumber(Value))
+	{}
+	/** A text as it is. */
+	FFormatArgumentValue(const FText& Value)
+		: Text(Value)
+	{}
 
 	/** The value as it is put into the pattern. */
 	const FString& ToString() const { return Text.ToString(); }
@@ -189,8 +232,9 @@ public:
 	/** Says whether the text is one that translators see. */
 	static bool ShouldGatherForLocalization(const FText& Text);
 
-	/** Namespace and key; unset for texts that are not localizable. */
+	/** Namespace; unset for texts that are not localizable. */
 	static TOptional<FString> GetNamespace(const FText& Text);
+	/** Key; unset for texts that are not localizable. */
 	static TOptional<FString> GetKey(const FText& Text);
 
 	/** The words in the source language. */

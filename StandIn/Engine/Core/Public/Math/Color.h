@@ -36,8 +36,7 @@ struct CORE_API FLinearColor
 		, G(0)
 		, B(0)
 		, A(0)
-	{
-	}
+	{}
 
 	/** From its channels. */
 	constexpr FLinearColor(float InR, float InG, float InB, float InA = 1.0f)
@@ -45,8 +44,7 @@ struct CORE_API FLinearColor
 		, G(InG)
 		, B(InB)
 		, A(InA)
-	{
-	}
+	{}
 
 	/** From an sRGB colour, decoded. */
 	FLinearColor(const FColor& Color);
@@ -88,8 +86,8 @@ struct CORE_API FLinearColor
 	/** With channels clamped. */
 	FLinearColor GetClamped(float InMin = 0.0f, float InMax = 1.0f) const
 	{
-		return FLinearColor(FMath::Clamp(R, InMin, InMax), FMath::Clamp(G, InMin, InMax), FMath::Clamp(B, InMin, InMax),
-			FMath::Clamp(A, InMin, InMax));
+		return FLinearColor(
+			FMath::Clamp(R, InMin, InMax), FMath::Clamp(G, InMin, InMax), FMath::Clamp(B, InMin, InMax), FMath::Clamp(A, InMin, InMax));
 	}
 	/** Weighted sum of the channels, as bright as it looks. */
 	float GetLuminance() const { return R * 0.3f + G * 0.59f + B * 0.11f; }
@@ -134,8 +132,7 @@ struct CORE_API FColor
 	/** Transparent black. */
 	explicit FColor(EForceInit)
 		: AlignmentDummy(0)
-	{
-	}
+	{}
 
 	/** From its channels. */
 	constexpr FColor(uint8 InR, uint8 InG, uint8 InB, uint8 InA = 255)
@@ -143,14 +140,12 @@ struct CORE_API FColor
 		, G(InG)
 		, R(InR)
 		, A(InA)
-	{
-	}
+	{}
 
 	/** From 0xAARRGGBB. */
 	explicit FColor(uint32 InColor)
 		: AlignmentDummy(InColor)
-	{
-	}
+	{}
 
 	/** The channels as one number, 0xAARRGGBB. */
 	uint32& DWColor() { return AlignmentDummy; }

@@ -23,22 +23,19 @@ struct CORE_API FIntPoint
 	constexpr FIntPoint(int32 InX, int32 InY)
 		: X(InX)
 		, Y(InY)
-	{
-	}
+	{}
 
 	/** Both parts alike. */
 	explicit constexpr FIntPoint(int32 InXY)
 		: X(InXY)
 		, Y(InXY)
-	{
-	}
+	{}
 
 	/** Zero. */
 	explicit constexpr FIntPoint(EForceInit)
 		: X(0)
 		, Y(0)
-	{
-	}
+	{}
 
 	/** Equal parts. */
 	bool operator==(const FIntPoint& Other) const { return X == Other.X && Y == Other.Y; }

@@ -16,22 +16,19 @@ struct CORE_API FIntRect
 	FIntRect()
 		: Min(ForceInit)
 		, Max(ForceInit)
-	{
-	}
+	{}
 
 	/** From its edges. */
 	FIntRect(int32 X0, int32 Y0, int32 X1, int32 Y1)
 		: Min(X0, Y0)
 		, Max(X1, Y1)
-	{
-	}
+	{}
 
 	/** From its corners. */
 	FIntRect(FIntPoint InMin, FIntPoint InMax)
 		: Min(InMin)
 		, Max(InMax)
-	{
-	}
+	{}
 
 	/** Equal corners. */
 	bool operator==(const FIntRect& Other) const { return Min == Other.Min && Max == Other.Max; }

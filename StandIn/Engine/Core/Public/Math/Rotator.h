@@ -23,16 +23,14 @@ struct CORE_API FRotator
 		: Pitch(InPitch)
 		, Yaw(InYaw)
 		, Roll(InRoll)
-	{
-	}
+	{}
 
 	/** Zero. */
 	explicit constexpr FRotator(EForceInit)
 		: Pitch(0)
 		, Yaw(0)
 		, Roll(0)
-	{
-	}
+	{}
 
 	/** Sum. */
 	FRotator operator+(const FRotator& R) const { return FRotator(Pitch + R.Pitch, Yaw + R.Yaw, Roll + R.Roll); }

@@ -28,24 +28,21 @@ struct CORE_API FVector
 		: X(InF)
 		, Y(InF)
 		, Z(InF)
-	{
-	}
+	{}
 
 	/** From its parts. */
 	constexpr FVector(float InX, float InY, float InZ)
 		: X(InX)
 		, Y(InY)
 		, Z(InZ)
-	{
-	}
+	{}
 
 	/** Zero. */
 	explicit constexpr FVector(EForceInit)
 		: X(0)
 		, Y(0)
 		, Z(0)
-	{
-	}
+	{}
 
 	/** Cross product. */
 	FVector operator^(const FVector& V) const { return FVector(Y * V.Z - Z * V.Y, Z * V.X - X * V.Z, X * V.Y - Y * V.X); }

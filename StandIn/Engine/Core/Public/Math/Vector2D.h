@@ -24,29 +24,25 @@ struct CORE_API FVector2D
 	constexpr FVector2D(float InX, float InY)
 		: X(InX)
 		, Y(InY)
-	{
-	}
+	{}
 
 	/** Both parts alike. */
 	explicit constexpr FVector2D(float InF)
 		: X(InF)
 		, Y(InF)
-	{
-	}
+	{}
 
 	/** From whole numbers. */
 	FVector2D(FIntPoint InPos)
 		: X((float)InPos.X)
 		, Y((float)InPos.Y)
-	{
-	}
+	{}
 
 	/** Zero. */
 	explicit constexpr FVector2D(EForceInit)
 		: X(0)
 		, Y(0)
-	{
-	}
+	{}
 
 	/** Sum. */
 	FVector2D operator+(const FVector2D& V) const { return FVector2D(X + V.X, Y + V.Y); }

@@ -20,8 +20,7 @@ struct alignas(16) FVector4
 		, Y(InY)
 		, Z(InZ)
 		, W(InW)
-	{
-	}
+	{}
 
 	/** From three parts and a fourth. */
 	FVector4(const FVector& InVector, float InW = 1.0f)
@@ -29,8 +28,7 @@ struct alignas(16) FVector4
 		, Y(InVector.Y)
 		, Z(InVector.Z)
 		, W(InW)
-	{
-	}
+	{}
 
 	/** Equal parts. */
 	bool operator==(const FVector4& V) const { return X == V.X && Y == V.Y && Z == V.Z && W == V.W; }

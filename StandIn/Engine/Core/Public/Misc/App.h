@@ -5,7 +5,7 @@
 #include "CoreTypes.h"
 #include "Containers/UnrealString.h"
 
-// Facts about the running program and its clock. Left out: sessions, build targets, sound, benchmarking.
+// Facts about the running program and its clock. Left out: instances, build targets, sound, benchmarking.
 
 /** Facts about the running program and its clock. */
 class CORE_API FApp

@@ -116,22 +116,18 @@ private:
 	}
 #else
 #define check(expr) \
-	{ \
-	}
+	{}
 #define checkf(expr, format, ...) \
-	{ \
-	}
+	{}
 #define verify(expr) \
 	{ \
 		if (UNLIKELY(!(expr))) \
-		{ \
-		} \
+		{} \
 	}
 #define verifyf(expr, format, ...) \
 	{ \
 		if (UNLIKELY(!(expr))) \
-		{ \
-		} \
+		{} \
 	}
 #define checkCode(Code)
 #define checkNoEntry()
@@ -146,16 +142,13 @@ private:
 #define verifySlow(expr) UE_CHECK_IMPL(expr)
 #else
 #define checkSlow(expr) \
-	{ \
-	}
+	{}
 #define checkfSlow(expr, format, ...) \
-	{ \
-	}
+	{}
 #define verifySlow(expr) \
 	{ \
 		if (UNLIKELY(!(expr))) \
-		{ \
-		} \
+		{} \
 	}
 #endif
 

@@ -24,23 +24,20 @@ public:
 	TAttribute()
 		: Value()
 		, bIsSet(false)
-	{
-	}
+	{}
 
 	/** Set to a value of any type that converts. */
 	template <typename OtherType, typename = typename TEnableIf<std::is_convertible<const OtherType&, ObjectType>::value>::Type>
 	TAttribute(const OtherType& InInitialValue)
 		: Value(InInitialValue)
 		, bIsSet(true)
-	{
-	}
+	{}
 
 	/** Set to a moved value. */
 	TAttribute(ObjectType&& InInitialValue)
 		: Value(MoveTempIfPossible(InInitialValue))
 		, bIsSet(true)
-	{
-	}
+	{}
 
 	/** Bound to a const method of a shared object. */
 	template <class SourceType>
@@ -48,8 +45,7 @@ public:
 		: Value()
 		, bIsSet(true)
 		, Getter(FGetter::CreateSP(InUserObject, InMethodPtr))
-	{
-	}
+	{}
 
 	/** Bound to a const method of an object that knows its shared pointer. */
 	template <class SourceType>
@@ -57,8 +53,7 @@ public:
 		: Value()
 		, bIsSet(true)
 		, Getter(FGetter::CreateSP(InUserObject, InMethodPtr))
-	{
-	}
+	{}
 
 	/** An attribute bound to a getter. */
 	static TAttribute Create(const FGetter& InGetter)

@@ -16,8 +16,7 @@ struct CORE_API FDateTime
 	/** From ticks of 100 nanoseconds since the year 1. */
 	explicit FDateTime(int64 InTicks)
 		: Ticks(InTicks)
-	{
-	}
+	{}
 
 	/** From its parts; parts out of range are fatal. */
 	FDateTime(int32 Year, int32 Month, int32 Day, int32 Hour = 0, int32 Minute = 0, int32 Second = 0, int32 Millisecond = 0);

@@ -31,8 +31,14 @@
 	{ \
 		return (Enum)((std::underlying_type<Enum>::type)Lhs ^ (std::underlying_type<Enum>::type)Rhs); \
 	} \
-	inline constexpr bool operator!(Enum E) { return !(std::underlying_type<Enum>::type)E; } \
-	inline constexpr Enum operator~(Enum E) { return (Enum) ~(std::underlying_type<Enum>::type)E; }
+	inline constexpr bool operator!(Enum E) \
+	{ \
+		return !(std::underlying_type<Enum>::type)E; \
+	} \
+	inline constexpr Enum operator~(Enum E) \
+	{ \
+		return (Enum) ~(std::underlying_type<Enum>::type)E; \
+	}
 
 #define FRIEND_ENUM_CLASS_FLAGS(Enum) \
 	friend Enum& operator|=(Enum& Lhs, Enum Rhs); \

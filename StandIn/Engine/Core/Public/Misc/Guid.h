@@ -23,8 +23,7 @@ struct CORE_API FGuid
 		, B(InB)
 		, C(InC)
 		, D(InD)
-	{
-	}
+	{}
 
 	/** Equal parts. */
 	friend bool operator==(const FGuid& X, const FGuid& Y) { return X.A == Y.A && X.B == Y.B && X.C == Y.C && X.D == Y.D; }

@@ -15,8 +15,7 @@ struct TOptional
 
 	TOptional()
 		: bIsSet(false)
-	{
-	}
+	{}
 
 	/** Holds a copy. */
 	TOptional(const OptionalType& InValue)
@@ -136,14 +135,16 @@ struct TOptional
 	/** The value; fatal when missing. */
 	const OptionalType& GetValue() const
 	{
-		checkf(IsSet(), TEXT("It is an error to call GetValue() on an unset TOptional. Please either check IsSet() or use Get(DefaultValue) instead."));
+		checkf(IsSet(),
+			TEXT("It is an error to call GetValue() on an unset TOptional. Please either check IsSet() or use Get(DefaultValue) instead."));
 		return Ref();
 	}
 
 	/** The value; fatal when missing. */
 	OptionalType& GetValue()
 	{
-		checkf(IsSet(), TEXT("It is an error to call GetValue() on an unset TOptional. Please either check IsSet() or use Get(DefaultValue) instead."));
+		checkf(IsSet(),
+			TEXT("It is an error to call GetValue() on an unset TOptional. Please either check IsSet() or use Get(DefaultValue) instead."));
 		return Ref();
 	}
 

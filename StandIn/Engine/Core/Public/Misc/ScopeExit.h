@@ -15,8 +15,7 @@ class TScopeGuard : public FNoncopyable
 public:
 	explicit TScopeGuard(FuncType&& InFunc)
 		: Func(static_cast<FuncType&&>(InFunc))
-	{
-	}
+	{}
 	TScopeGuard(TScopeGuard&& Other)
 		: Func(static_cast<FuncType&&>(Other.Func))
 		, bArmed(Other.bArmed)
@@ -47,5 +46,4 @@ struct FScopeGuardSyntaxSupport
 }
 
 /** Runs the block that follows when the scope is left. */
-#define ON_SCOPE_EXIT \
-	const auto PREPROCESSOR_JOIN(ScopeGuard_, __LINE__) = ::ScopeExitSupport::FScopeGuardSyntaxSupport() + [&]()
+#define ON_SCOPE_EXIT const auto PREPROCESSOR_JOIN(ScopeGuard_, __LINE__) = ::ScopeExitSupport::FScopeGuardSyntaxSupport() + [&]()

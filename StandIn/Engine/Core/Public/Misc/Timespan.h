@@ -24,14 +24,12 @@ struct FTimespan
 	/** From ticks of 100 nanoseconds. */
 	explicit FTimespan(int64 InTicks)
 		: Ticks(InTicks)
-	{
-	}
+	{}
 
 	/** From hours, minutes and seconds. */
 	FTimespan(int32 Hours, int32 Minutes, int32 Seconds)
 		: Ticks(Hours * ETimespan::TicksPerHour + Minutes * ETimespan::TicksPerMinute + Seconds * ETimespan::TicksPerSecond)
-	{
-	}
+	{}
 
 	/** Ticks of 100 nanoseconds. */
 	int64 GetTicks() const { return Ticks; }

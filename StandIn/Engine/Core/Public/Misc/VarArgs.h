@@ -15,7 +15,8 @@ struct TIsValidVariadicFunctionArg
 	enum
 	{
 		Value = std::is_arithmetic<DecayedType>::value || std::is_enum<DecayedType>::value || std::is_pointer<DecayedType>::value
-			|| std::is_same<DecayedType, std::nullptr_t>::value
+			|| std::is_same < DecayedType,
+		std::nullptr_t > ::value
 	};
 };
 

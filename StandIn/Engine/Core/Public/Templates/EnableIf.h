@@ -17,5 +17,4 @@ public:
 
 template <typename Result>
 class TEnableIf<false, Result>
-{
-};
+{};

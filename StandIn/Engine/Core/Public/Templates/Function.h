@@ -79,8 +79,7 @@ struct TCallable : ICallable<Ret, Args...>
 	template <typename T>
 	explicit TCallable(T&& InFunc)
 		: Func(Forward<T>(InFunc))
-	{
-	}
+	{}
 	virtual Ret Call(Args&... InArgs) override
 	{
 		return TCaller<TIsVoidType<Ret>::Value>::template Call<Ret>(Func, static_cast<Args&&>(InArgs)...);
@@ -136,8 +135,7 @@ public:
 
 	TFunction(const TFunction& Other)
 		: Callable(Other.Callable != nullptr ? Other.Callable->Clone() : nullptr)
-	{
-	}
+	{}
 
 	TFunction(TFunction&& Other)
 		: Callable(Other.Callable)

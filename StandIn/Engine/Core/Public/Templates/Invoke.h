@@ -9,8 +9,9 @@
 namespace StandIn
 {
 template <typename BaseType, typename CallableType>
-auto DereferenceForInvoke(CallableType&& Callable, int) -> typename TEnableIf<
-	TPointerIsConvertibleFromTo<typename TRemoveReference<CallableType>::Type, const BaseType>::Value, CallableType&&>::Type
+auto DereferenceForInvoke(CallableType&& Callable, int) ->
+	typename TEnableIf<TPointerIsConvertibleFromTo<typename TRemoveReference<CallableType>::Type, const BaseType>::Value,
+		CallableType&&>::Type
 {
 	return static_cast<CallableType&&>(Callable);
 }

@@ -47,16 +47,14 @@ public:
 		typename = typename TEnableIf<TPointerIsConvertibleFromTo<OtherType, ObjectType>::Value>::Type>
 	TSharedRef(const SharedPointerInternals::TRawPtrProxy<OtherType, DeleterType>& InProxy)
 		: TSharedRef(InProxy.Object, MoveTemp(InProxy.Deleter))
-	{
-	}
+	{}
 
 	/** Shares a reference to a derived class. */
 	template <typename OtherType, typename = typename TEnableIf<TPointerIsConvertibleFromTo<OtherType, ObjectType>::Value>::Type>
 	TSharedRef(const TSharedRef<OtherType, Mode>& InRef)
 		: Object(InRef.Object)
 		, Counter(InRef.Counter)
-	{
-	}
+	{}
 
 	/** Shares another reference's owner but points at another object. */
 	template <typename OtherType>
@@ -70,20 +68,19 @@ public:
 	TSharedRef(const TSharedRef& InRef)
 		: Object(InRef.Object)
 		, Counter(InRef.Counter)
-	{
-	}
+	{}
 
 	/** Shares; the moved reference stays usable, as references are never null. */
 	TSharedRef(TSharedRef&& InRef)
 		: Object(InRef.Object)
 		, Counter(InRef.Counter)
-	{
-	}
+	{}
 
 	TSharedRef& operator=(const TSharedRef& InRef)
 	{
-		Counter = InRef.Counter;
+		// The other reference may live in the object that goes now.
 		Object = InRef.Object;
+		Counter = InRef.Counter;
 		return *this;
 	}
 
@@ -194,24 +191,21 @@ public:
 		typename = typename TEnableIf<TPointerIsConvertibleFromTo<OtherType, ObjectType>::Value>::Type>
 	TSharedPtr(const SharedPointerInternals::TRawPtrProxy<OtherType, DeleterType>& InProxy)
 		: TSharedPtr(InProxy.Object, MoveTemp(InProxy.Deleter))
-	{
-	}
+	{}
 
 	/** Shares a reference. */
 	template <typename OtherType, typename = typename TEnableIf<TPointerIsConvertibleFromTo<OtherType, ObjectType>::Value>::Type>
 	TSharedPtr(const TSharedRef<OtherType, Mode>& InRef)
 		: Object(InRef.Object)
 		, Counter(InRef.Counter)
-	{
-	}
+	{}
 
 	/** Shares a pointer to a derived class. */
 	template <typename OtherType, typename = typename TEnableIf<TPointerIsConvertibleFromTo<OtherType, ObjectType>::Value>::Type>
 	TSharedPtr(const TSharedPtr<OtherType, Mode>& InPtr)
 		: Object(InPtr.Object)
 		, Counter(InPtr.Counter)
-	{
-	}
+	{}
 
 	/** Takes over a pointer to a derived class. */
 	template <typename OtherType, typename = typename TEnableIf<TPointerIsConvertibleFromTo<OtherType, ObjectType>::Value>::Type>
@@ -227,22 +221,19 @@ public:
 	TSharedPtr(const TSharedPtr<OtherType, Mode>& InPtr, ObjectType* InObject)
 		: Object(InObject)
 		, Counter(InPtr.Counter)
-	{
-	}
+	{}
 
 	/** Shares a reference's owner but points at another object. */
 	template <typename OtherType>
 	TSharedPtr(const TSharedRef<OtherType, Mode>& InRef, ObjectType* InObject)
 		: Object(InObject)
 		, Counter(InRef.Counter)
-	{
-	}
+	{}
 
 	TSharedPtr(const TSharedPtr& InPtr)
 		: Object(InPtr.Object)
 		, Counter(InPtr.Counter)
-	{
-	}
+	{}
 
 	TSharedPtr(TSharedPtr&& InPtr)
 		: Object(InPtr.Object)
@@ -325,8 +316,7 @@ private:
 	TSharedPtr(ObjectType* InObject, SharedPointerInternals::TSharedReferencer<Mode>&& InCounter, SharedPointerInternals::FCastTag)
 		: Object(InCounter.Controller != nullptr ? InObject : nullptr)
 		, Counter(MoveTemp(InCounter))
-	{
-	}
+	{}
 
 	ObjectType* Object = nullptr;
 	SharedPointerInternals::TSharedReferencer<Mode> Counter;
@@ -350,24 +340,21 @@ public:
 	TWeakPtr(const TSharedRef<OtherType, Mode>& InRef)
 		: Object(InRef.Object)
 		, Counter(InRef.Counter.Controller)
-	{
-	}
+	{}
 
 	/** Points at a pointer's object. */
 	template <typename OtherType, typename = typename TEnableIf<TPointerIsConvertibleFromTo<OtherType, ObjectType>::Value>::Type>
 	TWeakPtr(const TSharedPtr<OtherType, Mode>& InPtr)
 		: Object(InPtr.Object)
 		, Counter(InPtr.Counter.Controller)
-	{
-	}
+	{}
 
 	/** Copies a weak pointer to a derived class. */
 	template <typename OtherType, typename = typename TEnableIf<TPointerIsConvertibleFromTo<OtherType, ObjectType>::Value>::Type>
 	TWeakPtr(const TWeakPtr<OtherType, Mode>& InPtr)
 		: Object(InPtr.Object)
 		, Counter(InPtr.Counter)
-	{
-	}
+	{}
 
 	TWeakPtr(const TWeakPtr&) = default;
 	TWeakPtr& operator=(const TWeakPtr&) = default;

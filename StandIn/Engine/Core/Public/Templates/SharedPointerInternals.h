@@ -79,8 +79,7 @@ public:
 	TReferenceControllerWithDeleter(ObjectType* InObject, DeleterType&& InDeleter)
 		: Object(InObject)
 		, Deleter(MoveTemp(InDeleter))
-	{
-	}
+	{}
 
 	virtual void DestroyObject() override { Deleter(Object); }
 
@@ -122,8 +121,7 @@ public:
 	TSharedReferencer() {}
 	explicit TSharedReferencer(TReferenceController<Mode>* InController)
 		: Controller(InController)
-	{
-	}
+	{}
 	TSharedReferencer(const TSharedReferencer& Other)
 		: Controller(Other.Controller)
 	{
@@ -171,8 +169,7 @@ public:
 	}
 	TWeakReferencer(const TWeakReferencer& Other)
 		: TWeakReferencer(Other.Controller)
-	{
-	}
+	{}
 	TWeakReferencer(TWeakReferencer&& Other)
 		: Controller(Other.Controller)
 	{
@@ -197,7 +194,7 @@ public:
 	TSharedReferencer<Mode> Pin() const
 	{
 		return Controller != nullptr && Controller->Shared.AddUnlessZero() ? TSharedReferencer<Mode>(Controller)
-																		  : TSharedReferencer<Mode>();
+																		   : TSharedReferencer<Mode>();
 	}
 
 	TReferenceController<Mode>* Controller = nullptr;
@@ -213,6 +210,5 @@ struct TRawPtrProxy
 
 /** Tag of the private constructors that cast. */
 struct FCastTag
-{
-};
+{};
 }

@@ -13,8 +13,7 @@ struct TDereferenceWrapper
 	/** Wraps a predicate. */
 	explicit TDereferenceWrapper(const PREDICATE_CLASS& InPredicate)
 		: Predicate(InPredicate)
-	{
-	}
+	{}
 
 	/** Compares values as they are. */
 	bool operator()(const T& A, const T& B) const { return Predicate(A, B); }
@@ -28,8 +27,7 @@ struct TDereferenceWrapper<T*, PREDICATE_CLASS>
 	/** Wraps a predicate. */
 	explicit TDereferenceWrapper(const PREDICATE_CLASS& InPredicate)
 		: Predicate(InPredicate)
-	{
-	}
+	{}
 
 	/** Compares what the pointers point at. */
 	bool operator()(T* A, T* B) const { return Predicate(*A, *B); }
@@ -98,15 +96,13 @@ void MergeInPlace(T* First, int32 Middle, int32 Num, const PredicateType& Predic
 	{
 		CutA = Middle / 2;
 		for (CutB = Middle; CutB < Num && Predicate(First[CutB], First[CutA]); ++CutB)
-		{
-		}
+		{}
 	}
 	else
 	{
 		CutB = Middle + (Num - Middle) / 2;
 		for (CutA = 0; CutA < Middle && !Predicate(First[CutB], First[CutA]); ++CutA)
-		{
-		}
+		{}
 	}
 	ReverseRange(First + CutA, Middle - CutA);
 	ReverseRange(First + Middle, CutB - Middle);

@@ -17,8 +17,7 @@ struct TTuple
 	template <typename... ArgTypes, typename = typename TEnableIf<sizeof...(ArgTypes) == sizeof...(Types) && sizeof...(Types) != 0>::Type>
 	explicit TTuple(ArgTypes&&... Args)
 		: Values(Forward<ArgTypes>(Args)...)
-	{
-	}
+	{}
 
 	/** The value at an index. */
 	template <uint32 Index>
@@ -77,16 +76,14 @@ struct TTuple<KeyType, ValueType>
 	TTuple()
 		: Key()
 		, Value()
-	{
-	}
+	{}
 
 	/** Holds a key and a value. */
 	template <typename KeyInitType, typename ValueInitType>
 	explicit TTuple(KeyInitType&& InKey, ValueInitType&& InValue)
 		: Key(Forward<KeyInitType>(InKey))
 		, Value(Forward<ValueInitType>(InValue))
-	{
-	}
+	{}
 
 	TTuple(const TTuple&) = default;
 	TTuple(TTuple&&) = default;

@@ -24,31 +24,70 @@ inline uint32 PointerHash(const void* Key, uint32 C = 0)
 }
 
 /** Hash of a number. */
-inline uint32 GetTypeHash(const uint8 A) { return A; }
+inline uint32 GetTypeHash(const uint8 A)
+{
+	return A;
+}
 /** Hash of a number. */
-inline uint32 GetTypeHash(const int8 A) { return (uint32)A; }
+inline uint32 GetTypeHash(const int8 A)
+{
+	return (uint32)A;
+}
 /** Hash of a number. */
-inline uint32 GetTypeHash(const uint16 A) { return A; }
+inline uint32 GetTypeHash(const uint16 A)
+{
+	return A;
+}
 /** Hash of a number. */
-inline uint32 GetTypeHash(const int16 A) { return (uint32)A; }
+inline uint32 GetTypeHash(const int16 A)
+{
+	return (uint32)A;
+}
 /** Hash of a number. */
-inline uint32 GetTypeHash(const int32 A) { return (uint32)A; }
+inline uint32 GetTypeHash(const int32 A)
+{
+	return (uint32)A;
+}
 /** Hash of a number. */
-inline uint32 GetTypeHash(const uint32 A) { return A; }
+inline uint32 GetTypeHash(const uint32 A)
+{
+	return A;
+}
 /** Hash of a number. */
-inline uint32 GetTypeHash(const uint64 A) { return (uint32)A + ((uint32)(A >> 32) * 23); }
+inline uint32 GetTypeHash(const uint64 A)
+{
+	return (uint32)A + ((uint32)(A >> 32) * 23);
+}
 /** Hash of a number. */
-inline uint32 GetTypeHash(const int64 A) { return GetTypeHash((uint64)A); }
+inline uint32 GetTypeHash(const int64 A)
+{
+	return GetTypeHash((uint64)A);
+}
 /** Hash of a number. */
-inline uint32 GetTypeHash(const long A) { return GetTypeHash((uint64)A); }
+inline uint32 GetTypeHash(const long A)
+{
+	return GetTypeHash((uint64)A);
+}
 /** Hash of a number. */
-inline uint32 GetTypeHash(const unsigned long A) { return GetTypeHash((uint64)A); }
+inline uint32 GetTypeHash(const unsigned long A)
+{
+	return GetTypeHash((uint64)A);
+}
 /** Hash of a character. */
-inline uint32 GetTypeHash(const ANSICHAR A) { return (uint8)A; }
+inline uint32 GetTypeHash(const ANSICHAR A)
+{
+	return (uint8)A;
+}
 /** Hash of a character. */
-inline uint32 GetTypeHash(const TCHAR A) { return (uint32)A; }
+inline uint32 GetTypeHash(const TCHAR A)
+{
+	return (uint32)A;
+}
 /** Hash of a truth value. */
-inline uint32 GetTypeHash(const bool A) { return A ? 1u : 0u; }
+inline uint32 GetTypeHash(const bool A)
+{
+	return A ? 1u : 0u;
+}
 
 /** Hash of a number; both zeros hash alike. */
 inline uint32 GetTypeHash(float Value)
@@ -75,9 +114,15 @@ inline uint32 GetTypeHash(double Value)
 }
 
 /** Hash of an address. */
-inline uint32 GetTypeHash(const void* A) { return PointerHash(A); }
+inline uint32 GetTypeHash(const void* A)
+{
+	return PointerHash(A);
+}
 /** Hash of an address. */
-inline uint32 GetTypeHash(void* A) { return PointerHash(A); }
+inline uint32 GetTypeHash(void* A)
+{
+	return PointerHash(A);
+}
 
 /** Hash of an enumerator. */
 template <typename EnumType>

@@ -16,8 +16,7 @@ struct TDefaultDelete
 	/** Converts from the deleter of a derived class. */
 	template <typename U, typename = typename TEnableIf<TPointerIsConvertibleFromTo<U, T>::Value>::Type>
 	TDefaultDelete(const TDefaultDelete<U>&)
-	{
-	}
+	{}
 
 	/** Deletes the object; its type must be complete. */
 	void operator()(T* Ptr) const
@@ -39,40 +38,34 @@ public:
 
 	TUniquePtr()
 		: Ptr(nullptr)
-	{
-	}
+	{}
 
 	/** Takes the object over. */
 	explicit TUniquePtr(T* InPtr)
 		: Ptr(InPtr)
-	{
-	}
+	{}
 
 	/** Takes the object over, with a deleter. */
 	TUniquePtr(T* InPtr, Deleter&& InDeleter)
 		: Deleter(MoveTemp(InDeleter))
 		, Ptr(InPtr)
-	{
-	}
+	{}
 
 	TUniquePtr(TYPE_OF_NULLPTR)
 		: Ptr(nullptr)
-	{
-	}
+	{}
 
 	TUniquePtr(TUniquePtr&& Other)
 		: Deleter(MoveTemp(Other.GetDeleter()))
 		, Ptr(Other.Release())
-	{
-	}
+	{}
 
 	/** Takes over the object of a pointer to a derived class. */
 	template <typename OtherT, typename OtherDeleter, typename = typename TEnableIf<TPointerIsConvertibleFromTo<OtherT, T>::Value>::Type>
 	TUniquePtr(TUniquePtr<OtherT, OtherDeleter>&& Other)
 		: Deleter(MoveTemp(Other.GetDeleter()))
 		, Ptr(Other.Release())
-	{
-	}
+	{}
 
 	TUniquePtr& operator=(TUniquePtr&& Other)
 	{

@@ -158,14 +158,12 @@ struct TKeyValuePair
 	TKeyValuePair(const KeyType& InKey, const ValueType& InValue)
 		: Key(InKey)
 		, Value(InValue)
-	{
-	}
+	{}
 
 	/** Makes a pair with an unset value. */
 	explicit TKeyValuePair(const KeyType& InKey)
 		: Key(InKey)
-	{
-	}
+	{}
 
 	TKeyValuePair() {}
 

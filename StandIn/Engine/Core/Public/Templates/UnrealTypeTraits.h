@@ -15,7 +15,8 @@ struct TIsSame
 {
 	enum
 	{
-		Value = std::is_same<A, B>::value
+		Value = std::is_same < A,
+		B > ::value
 	};
 };
 
@@ -25,7 +26,8 @@ struct TAreTypesEqual
 {
 	enum
 	{
-		Value = std::is_same<A, B>::value
+		Value = std::is_same < A,
+		B > ::value
 	};
 };
 
@@ -35,7 +37,8 @@ struct TIsDerivedFrom
 {
 	enum
 	{
-		Value = std::is_base_of<BaseType, DerivedType>::value,
+		Value = std::is_base_of < BaseType,
+		DerivedType > ::value,
 		IsDerived = Value
 	};
 };
@@ -46,7 +49,8 @@ struct TPointerIsConvertibleFromTo
 {
 	enum
 	{
-		Value = std::is_convertible<From*, To*>::value
+		Value = std::is_convertible < From*,
+		To* > ::value
 	};
 };
 
@@ -56,7 +60,8 @@ struct TIsConvertible
 {
 	enum
 	{
-		Value = std::is_convertible<From, To>::value
+		Value = std::is_convertible < From,
+		To > ::value
 	};
 };
 
@@ -96,7 +101,9 @@ struct TIsCharType
 {
 	enum
 	{
-		Value = std::is_same<T, ANSICHAR>::value || std::is_same<T, WIDECHAR>::value
+		Value = std::is_same < T,
+		ANSICHAR > ::value || std::is_same < T,
+		WIDECHAR > ::value
 	};
 };
 

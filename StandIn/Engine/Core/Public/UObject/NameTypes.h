@@ -39,8 +39,7 @@ struct FNameEntryId
 {
 	FNameEntryId()
 		: Value(0)
-	{
-	}
+	{}
 
 	FNameEntryId(ENoInit) {}
 
@@ -79,36 +78,31 @@ public:
 	/** The name None. */
 	FName()
 		: Number(NAME_NO_NUMBER_INTERNAL)
-	{
-	}
+	{}
 
 	FName(ENoInit)
 		: ComparisonIndex(NoInit)
 		, DisplayIndex(NoInit)
-	{
-	}
+	{}
 
 	/** A name known at compile time. */
 	FName(EName Hardcoded)
 		: FName(Hardcoded, NAME_NO_NUMBER_INTERNAL)
-	{
-	}
+	{}
 
 	/** A name known at compile time with a number (internal form). */
 	FName(EName Hardcoded, int32 InNumber)
 		: ComparisonIndex(FNameEntryId::FromUnstableInt((uint32)Hardcoded))
 		, Number((uint32)InNumber)
 		, DisplayIndex(ComparisonIndex)
-	{
-	}
+	{}
 
 	/** Another name's text with a number (internal form). */
 	FName(const FName& Other, int32 InNumber)
 		: ComparisonIndex(Other.ComparisonIndex)
 		, Number((uint32)InNumber)
 		, DisplayIndex(Other.DisplayIndex)
-	{
-	}
+	{}
 
 	/** Makes or finds the name of a text; null and "" give None; more than NAME_SIZE characters are fatal. */
 	FName(const WIDECHAR* Name, EFindName FindType = FNAME_Add);
@@ -218,7 +212,13 @@ struct FNameFastLess
 };
 
 /** Text of a name. */
-inline FString LexToString(const FName& Name) { return Name.ToString(); }
+inline FString LexToString(const FName& Name)
+{
+	return Name.ToString();
+}
 
 /** Reads a name. */
-inline void LexFromString(FName& OutName, const TCHAR* Str) { OutName = FName(Str); }
+inline void LexFromString(FName& OutName, const TCHAR* Str)
+{
+	OutName = FName(Str);
+}

@@ -37,6 +37,12 @@ UClass* FinishIntrinsicClass(UClass* Class)
 	static FCompiledInDefer Z_CompiledInDefer_UClass_##TClass( \
 		Z_Construct_UClass_##TClass, &TClass::StaticClass, TEXT("/Script/CoreUObject"), TEXT(#TClass), false);
 
+UPackage* Z_Construct_UPackage__Script_CoreUObject();
+UPackage* Z_Construct_UPackage__Script_CoreUObject()
+{
+	return StandInPrivate::FindOrAddNativePackage(TEXT("/Script/CoreUObject"));
+}
+
 STANDIN_INTRINSIC_CLASS(UObject)
 STANDIN_INTRINSIC_CLASS(UField)
 STANDIN_INTRINSIC_CLASS(UStruct)

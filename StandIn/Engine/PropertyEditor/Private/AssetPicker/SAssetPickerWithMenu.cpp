@@ -226,7 +226,7 @@ void SAssetPickerWithMenu::Tick(const FGeometry& AllottedGeometry, const double 
 	}
 }
 
-FReply SAssetPickerWithMenu::OnKeyDown(const FGeometry& MyGeometry, const FKeyEvent& InKeyEvent)
+FReply SAssetPickerWithMenu::OnPreviewKeyDown(const FGeometry& MyGeometry, const FKeyEvent& InKeyEvent)
 {
 	const FKey Key = InKeyEvent.GetKey();
 	const int32 Page = List->GetNumRowsPerPage();
@@ -242,7 +242,7 @@ FReply SAssetPickerWithMenu::OnKeyDown(const FGeometry& MyGeometry, const FKeyEv
 		ChooseSelected();
 		return FReply::Handled();
 	}
-	return SCompoundWidget::OnKeyDown(MyGeometry, InKeyEvent);
+	return SCompoundWidget::OnPreviewKeyDown(MyGeometry, InKeyEvent);
 }
 
 void SAssetPickerWithMenu::Choose(const FAssetData& Asset)

@@ -3,9 +3,12 @@
 #pragma once
 
 #include "CoreMinimal.h"
+#include "Framework/Views/TableViewTypeTraits.h"
 #include "Input/Reply.h"
 #include "Types/SlateEnums.h"
 
+class ITableRow;
+class STableViewBase;
 class SWidget;
 struct FPointerEvent;
 struct FGeometry;
@@ -21,3 +24,17 @@ DECLARE_DELEGATE_TwoParams(FOnTextCommitted, const FText&, ETextCommit::Type)
 DECLARE_DELEGATE_OneParam(FOnFloatValueChanged, float)
 DECLARE_DELEGATE_OneParam(FOnUserScrolled, float)
 DECLARE_DELEGATE_RetVal_TwoParams(FReply, FOnKeyDown, const FGeometry&, const FKeyEvent&)
+
+/** Delegates of lists by the type of their items. */
+template <typename ItemType>
+class TSlateDelegates
+{
+public:
+	typedef typename TListTypeTraits<ItemType>::NullableType NullableItemType;
+
+	DECLARE_DELEGATE_RetVal_TwoParams(TSharedRef<ITableRow>, FOnGenerateRow, ItemType, const TSharedRef<STableViewBase>&)
+	DECLARE_DELEGATE_TwoParams(FOnSelectionChanged, NullableItemType, ESelectInfo::Type)
+	DECLARE_DELEGATE_OneParam(FOnMouseButtonClick, ItemType)
+	DECLARE_DELEGATE_OneParam(FOnMouseButtonDoubleClick, ItemType)
+	DECLARE_DELEGATE_OneParam(FOnRowReleased, const TSharedRef<ITableRow>&)
+};

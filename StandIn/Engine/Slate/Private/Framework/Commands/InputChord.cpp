@@ -2,6 +2,24 @@
 
 #include "Framework/Commands/InputChord.h"
 
+namespace InputChordPrivate
+{
+/** What stands on a key: the digit keys are named in words. */
+FString GetKeyText(const FKey& Key, const bool bLongDisplayName)
+{
+	const FKey Digits[] = {EKeys::Zero, EKeys::One, EKeys::Two, EKeys::Three, EKeys::Four, EKeys::Five, EKeys::Six, EKeys::Seven, EKeys::Eight,
+		EKeys::Nine};
+	for (int32 Digit = 0; Digit < 10; ++Digit)
+	{
+		if (Key == Digits[Digit])
+		{
+			return FString::FromInt(Digit);
+		}
+	}
+	return Key.GetDisplayName(bLongDisplayName).ToString();
+}
+}
+
 FInputChord::FInputChord() : FInputChord(FKey(), false, false, false, false) {}
 
 FInputChord::FInputChord(const FKey InKey) : FInputChord(InKey, false, false, false, false) {}
@@ -44,6 +62,6 @@ FText FInputChord::GetInputText(const bool bLongDisplayName) const
 	Text += bCmd ? TEXT("Cmd+") : TEXT("");
 	Text += bAlt ? TEXT("Alt+") : TEXT("");
 	Text += bShift ? TEXT("Shift+") : TEXT("");
-	Text += Key.GetDisplayName(bLongDisplayName).ToString();
+	Text += InputChordPrivate::GetKeyText(Key, bLongDisplayName);
 	return FText::FromString(Text);
 }
