@@ -71,16 +71,23 @@ void FHostProgram::StartEditor()
 
 	StandIn::FEngineLoopOptions LoopOptions;
 	LoopOptions.MaximizedPane = NAME_None;
+	StartClock.EndPhase("program and project");
 	EngineLoop.PreInit(LoopOptions);
+	StartClock.EndPhase("object system, modules, settings, looks");
 	EngineLoop.Init();
+	StartClock.EndPhase("engine object");
 	SceneViews.emplace();
 	EngineLoop.InitEditor();
+	StartClock.EndPhase("level editor, panes restored");
 	SetPaneSize(GetPaneSize());
 	TickEditor(FrameSeconds);
+	StartClock.EndPhase("first frame, all panes drawn");
 }
 
 void FHostProgram::RegisterCommands()
 {
+	Console.Add("times", "show how long the start took, phase by phase",
+		[this](const FArguments&, std::ostream& Output) { StartClock.Print(Output); });
 	AddEditorCommands(Console, *this);
 	AddListCommands(Console);
 	AddPictureCommands(Console, *this);

@@ -7,6 +7,7 @@
 #include "Host/Gallery/GalleryPage.h"
 #include "Host/Program/HostLog.h"
 #include "Host/Program/HostOptions.h"
+#include "Host/Program/PhaseClock.h"
 #include "Host/Program/Project.h"
 
 #include "StandIn/EngineLoop.h"
@@ -48,6 +49,7 @@ private:
 	bool WriteGallery();
 	void ExitEditor();
 
+	FPhaseClock StartClock;
 	FHostOptions Options;
 	StandIn::FStdOutOutputDevice StandardOutput;
 	FHostLog Log;

@@ -9,17 +9,17 @@
 #include "Templates/Tuple.h"
 #include "gtest/gtest.h"
 
-namespace
-{
-enum class ETestFlags : uint8
+enum class EUnrealTemplateTestFlags : uint8
 {
 	None = 0,
 	A = 1,
 	B = 2,
 	C = 4
 };
-ENUM_CLASS_FLAGS(ETestFlags)
+ENUM_CLASS_FLAGS(EUnrealTemplateTestFlags)
 
+namespace
+{
 enum ETestLetter
 {
 	TestLetterA,
@@ -69,17 +69,17 @@ TEST(ScopeExit, BlockRunsWhenTheScopeIsLeft)
 
 TEST(EnumClassFlags, BitsAreSetClearedAndAsked)
 {
-	ETestFlags Flags = ETestFlags::A | ETestFlags::B;
-	EXPECT_TRUE(EnumHasAllFlags(Flags, ETestFlags::A | ETestFlags::B));
-	EXPECT_FALSE(EnumHasAllFlags(Flags, ETestFlags::A | ETestFlags::C));
-	EXPECT_TRUE(EnumHasAnyFlags(Flags, ETestFlags::A | ETestFlags::C));
-	EnumRemoveFlags(Flags, ETestFlags::A);
-	EXPECT_EQ(ETestFlags::B, Flags);
-	EnumAddFlags(Flags, ETestFlags::C);
-	EXPECT_EQ(ETestFlags::B | ETestFlags::C, Flags);
-	Flags &= ~ETestFlags::B;
-	EXPECT_EQ(ETestFlags::C, Flags);
-	EXPECT_TRUE(!ETestFlags::None);
+	EUnrealTemplateTestFlags Flags = EUnrealTemplateTestFlags::A | EUnrealTemplateTestFlags::B;
+	EXPECT_TRUE(EnumHasAllFlags(Flags, EUnrealTemplateTestFlags::A | EUnrealTemplateTestFlags::B));
+	EXPECT_FALSE(EnumHasAllFlags(Flags, EUnrealTemplateTestFlags::A | EUnrealTemplateTestFlags::C));
+	EXPECT_TRUE(EnumHasAnyFlags(Flags, EUnrealTemplateTestFlags::A | EUnrealTemplateTestFlags::C));
+	EnumRemoveFlags(Flags, EUnrealTemplateTestFlags::A);
+	EXPECT_EQ(EUnrealTemplateTestFlags::B, Flags);
+	EnumAddFlags(Flags, EUnrealTemplateTestFlags::C);
+	EXPECT_EQ(EUnrealTemplateTestFlags::B | EUnrealTemplateTestFlags::C, Flags);
+	Flags &= ~EUnrealTemplateTestFlags::B;
+	EXPECT_EQ(EUnrealTemplateTestFlags::C, Flags);
+	EXPECT_TRUE(!EUnrealTemplateTestFlags::None);
 }
 
 TEST(TEnumAsByte, IsOneByteAndConverts)
