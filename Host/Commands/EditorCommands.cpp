@@ -31,7 +31,7 @@ void SetLayout(const std::string& Name, FHostProgram& Program)
 		throw FCommandError("There is no layout '" + Name + "'; there are " + Names + ".");
 	}
 	StandIn::SetViewportLayout(Layout);
-	SetPaneSize(Program.GetPaneSize());
+	Program.ResizePanes();
 	Program.TickEditor(0.0);
 }
 

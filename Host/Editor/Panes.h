@@ -21,7 +21,7 @@ TSharedRef<SLevelViewport> FindPane(const std::string& Word);
 /** The pane that is worked in. Throws FCommandError when there is none. */
 TSharedRef<SLevelViewport> GetActivePane();
 
-/** Gives every pane the same size in pixels, whatever the window's. */
+/** Gives every pane the same size in pixels, whatever the window's; 0 by 0 lets panes follow their widgets. */
 void SetPaneSize(const FIntPoint& Size);
 
 /** The pane's live display configuration. */

@@ -12,7 +12,7 @@ constexpr int MinPaneLength = 16;
 constexpr int MaxPaneLength = 8192;
 
 /** "640x360" as two lengths in pixels. Throws CLI::ValidationError with a sentence when it is anything else. */
-std::pair<int, int> ParseSize(const std::string& Text)
+std::pair<int, int> ParseSize(const std::string& Option, const std::string& What, const std::string& Text)
 {
 	int Width = 0;
 	int Height = 0;
@@ -21,7 +21,7 @@ std::pair<int, int> ParseSize(const std::string& Text)
 	if (!bTwoNumbers || Width < MinPaneLength || Height < MinPaneLength || Width > MaxPaneLength || Height > MaxPaneLength)
 	{
 		throw CLI::ValidationError(
-			"--size", "'" + Text + "' is not a size: give width and height of a pane in pixels, each from 16 to 8192, as in 640x360.");
+			Option, "'" + Text + "' is not a size: give width and height of " + What + " in pixels, each from 16 to 8192, as in 640x360.");
 	}
 	return {Width, Height};
 }
@@ -31,6 +31,7 @@ std::variant<FHostOptions, FHostExit> ParseCommandLine(const std::vector<std::st
 {
 	FHostOptions Options;
 	std::string Size = "640x360";
+	std::string WindowSize = "1280x720";
 	std::string Exec;
 
 	CLI::App App("Opens a project of look files in an editor and shows its looks on the viewports.", "tintmill-editor");
@@ -40,13 +41,15 @@ std::variant<FHostOptions, FHostExit> ParseCommandLine(const std::vector<std::st
 	App.add_option("--tour", Options.Tour, "Tour file to play: console commands, one a line");
 	App.add_option("--out", Options.OutDir, "Folder for pictures and pages")->capture_default_str();
 	App.add_option("--size", Size, "Size of one pane in pixels")->capture_default_str();
+	App.add_option("--window", WindowSize, "Size of the editor's window in pixels")->capture_default_str();
 	App.add_flag("--list", Options.bList, "Print what is registered once everything has started, and end");
 
 	try
 	{
 		std::vector<std::string> Reversed(Arguments.rbegin(), Arguments.rend());
 		App.parse(std::move(Reversed));
-		std::tie(Options.Width, Options.Height) = ParseSize(Size);
+		std::tie(Options.Width, Options.Height) = ParseSize("--size", "a pane", Size);
+		std::tie(Options.WindowWidth, Options.WindowHeight) = ParseSize("--window", "the window", WindowSize);
 	}
 	catch (const CLI::CallForHelp&)
 	{

@@ -30,9 +30,13 @@ struct FHostOptions
 	/** Tour file to play; empty means none. */
 	std::filesystem::path Tour;
 
-	/** Size of one pane's picture in pixels. */
+	/** Size of one pane's picture in pixels, as long as no window is open for the panes to fill. */
 	int Width = 640;
 	int Height = 360;
+
+	/** Size of the editor's window in pixels. */
+	int WindowWidth = 1280;
+	int WindowHeight = 720;
 
 	/** Print what is registered with the engine once everything has started, and end. */
 	bool bList = false;

@@ -6,6 +6,7 @@
 #include "Host/Commands/ListCommands.h"
 #include "Host/Commands/PictureCommands.h"
 #include "Host/Commands/RecordCommands.h"
+#include "Host/Commands/UiCommands.h"
 #include "Host/Console/CommandText.h"
 #include "Host/Editor/Panes.h"
 
@@ -30,6 +31,7 @@ constexpr double FrameSeconds = 1.0 / 60.0;
 
 FHostProgram::FHostProgram(const FHostOptions& InOptions)
 	: Options(InOptions)
+	, Person([this](double Seconds) { TickEditor(Seconds); })
 {
 	GLog->AddOutputDevice(&StandardOutput);
 }
@@ -79,9 +81,26 @@ void FHostProgram::StartEditor()
 	SceneViews.emplace();
 	EngineLoop.InitEditor();
 	StartClock.EndPhase("level editor, panes restored");
-	SetPaneSize(GetPaneSize());
+	ResizePanes();
 	TickEditor(FrameSeconds);
 	StartClock.EndPhase("first frame, all panes drawn");
+}
+
+void FHostProgram::ResizePanes()
+{
+	SetPaneSize(Window ? FIntPoint(0, 0) : FIntPoint(Options.Width, Options.Height));
+}
+
+FEditorWindow& FHostProgram::GetWindow()
+{
+	if (!Window)
+	{
+		Window.emplace(FIntPoint(Options.WindowWidth, Options.WindowHeight), Project.GetName());
+		ResizePanes();
+		// The first frame lays the panes out, the second draws them in their size.
+		TickEditor(2.0 * FrameSeconds);
+	}
+	return *Window;
 }
 
 void FHostProgram::RegisterCommands()
@@ -92,6 +111,7 @@ void FHostProgram::RegisterCommands()
 	AddListCommands(Console);
 	AddPictureCommands(Console, *this);
 	AddRecordCommands(Console);
+	AddUiCommands(Console, *this);
 }
 
 bool FHostProgram::RunCommands()
@@ -142,6 +162,7 @@ bool FHostProgram::WriteGallery()
 
 void FHostProgram::ExitEditor()
 {
+	Window.reset();
 	EngineLoop.CloseMainFrame();
 	SceneViews.reset();
 	EngineLoop.Exit();

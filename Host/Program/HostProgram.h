@@ -9,6 +9,8 @@
 #include "Host/Program/HostOptions.h"
 #include "Host/Program/PhaseClock.h"
 #include "Host/Program/Project.h"
+#include "Host/Ui/EditorWindow.h"
+#include "Host/Ui/Person.h"
 
 #include "StandIn/EngineLoop.h"
 #include "StandIn/StdOutOutputDevice.h"
@@ -30,8 +32,14 @@ public:
 	/** Runs to the end. Returns 0, or 2 when something that the user asked for could not be done; the reason was printed. */
 	int Run();
 
-	/** The size of a pane's picture in pixels. */
-	FIntPoint GetPaneSize() const { return FIntPoint(Options.Width, Options.Height); }
+	/** Gives the panes the size that was asked for, or lets them fill the window where one is open. */
+	void ResizePanes();
+
+	/** The editor's window; opened when it is first asked for. */
+	FEditorWindow& GetWindow();
+
+	/** The person in front of the window. */
+	FPerson& GetPerson() { return Person; }
 
 	/** The folder for pictures and pages. */
 	const std::filesystem::path& GetOutDir() const { return Options.OutDir; }
@@ -58,5 +66,7 @@ private:
 	FGalleryPage Gallery;
 	StandIn::FEngineLoop EngineLoop;
 	std::optional<FSceneViews> SceneViews;
+	std::optional<FEditorWindow> Window;
+	FPerson Person;
 };
 }

@@ -77,7 +77,8 @@ TEST_F(FAssetActivationTest, ANewAssetIsNotMadeBeforeItsNameIsConfirmed)
 {
 	StandIn::FPendingNewAsset Pending;
 	StandIn::BeginNewAsset(GetMutableDefault<UAssetToolsTestFactory>(), TEXT("/Game/Looks"), Pending);
-	EXPECT_EQ(StaticFindObject(UObject::StaticClass(), nullptr, TEXT("/Game/Looks/NewAssetToolsTestAsset.NewAssetToolsTestAsset")), nullptr);
+	EXPECT_EQ(
+		StaticFindObject(UObject::StaticClass(), nullptr, TEXT("/Game/Looks/NewAssetToolsTestAsset.NewAssetToolsTestAsset")), nullptr);
 	StandIn::CancelNewAsset(Pending);
 }
 

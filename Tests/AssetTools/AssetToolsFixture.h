@@ -15,7 +15,9 @@
 class FTestActions : public FAssetTypeActions_Base
 {
 public:
-	explicit FTestActions(UClass* InClass) : Class(InClass) {}
+	explicit FTestActions(UClass* InClass)
+		: Class(InClass)
+	{}
 
 	virtual FText GetName() const override { return FText::FromString(TEXT("Look")); }
 	virtual UClass* GetSupportedClass() const override { return Class; }

@@ -6,14 +6,15 @@
 int32 UAssetToolsTestFactory::NumConfigured = 0;
 bool UAssetToolsTestFactory::bConfigure = true;
 
-UAssetToolsTestFactory::UAssetToolsTestFactory(const FObjectInitializer& ObjectInitializer) : Super(ObjectInitializer)
+UAssetToolsTestFactory::UAssetToolsTestFactory(const FObjectInitializer& ObjectInitializer)
+	: Super(ObjectInitializer)
 {
 	SupportedClass = UAssetToolsTestAsset::StaticClass();
 	bCreateNew = true;
 }
 
-UObject* UAssetToolsTestFactory::FactoryCreateNew(UClass* InClass, UObject* InParent, FName InName, EObjectFlags Flags, UObject* Context,
-	FFeedbackContext* Warn, FName CallingContext)
+UObject* UAssetToolsTestFactory::FactoryCreateNew(
+	UClass* InClass, UObject* InParent, FName InName, EObjectFlags Flags, UObject* Context, FFeedbackContext* Warn, FName CallingContext)
 {
 	LastCallingContext = CallingContext;
 	return Super::FactoryCreateNew(InClass, InParent, InName, Flags, Context, Warn, CallingContext);

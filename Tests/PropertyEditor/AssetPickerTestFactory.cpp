@@ -3,7 +3,8 @@
 #include "AssetPickerTestFactory.h"
 #include "AssetPickerTestAsset.h"
 
-UAssetPickerTestFactory::UAssetPickerTestFactory(const FObjectInitializer& ObjectInitializer) : Super(ObjectInitializer)
+UAssetPickerTestFactory::UAssetPickerTestFactory(const FObjectInitializer& ObjectInitializer)
+	: Super(ObjectInitializer)
 {
 	SupportedClass = UAssetPickerTestAsset::StaticClass();
 	bCreateNew = true;

@@ -26,7 +26,8 @@ class FMenuUser
 {
 public:
 	/** Makes an application for the length of the test, or uses the one that is there. */
-	explicit FMenuUser(const bool bInOwnsApplication = true) : bOwnsApplication(bInOwnsApplication)
+	explicit FMenuUser(const bool bInOwnsApplication = true)
+		: bOwnsApplication(bInOwnsApplication)
 	{
 		if (bOwnsApplication)
 		{

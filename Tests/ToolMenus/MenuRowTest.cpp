@@ -193,7 +193,8 @@ TEST_F(FMenuRowTest, ARowWithItsSubMenuOpenStaysHighlighted)
 TEST_F(FMenuRowTest, ARowWhoseActionIsNotVisibleIsNotShown)
 {
 	Builder.AddMenuEntry(FText::FromString(TEXT("Hidden")), FText(), FSlateIcon(),
-		FUIAction(FExecuteAction(), FCanExecuteAction(), FGetActionCheckState(), FIsActionButtonVisible::CreateLambda([]() { return false; })));
+		FUIAction(
+			FExecuteAction(), FCanExecuteAction(), FGetActionCheckState(), FIsActionButtonVisible::CreateLambda([]() { return false; })));
 	AddPlain(Builder, TEXT("A"));
 	Open(Builder);
 	EXPECT_TRUE(IsText(User.GetLabels(), TEXT("A")));
@@ -202,8 +203,8 @@ TEST_F(FMenuRowTest, ARowWhoseActionIsNotVisibleIsNotShown)
 TEST_F(FMenuRowTest, ALabelIsReadAnewAtEveryPaint)
 {
 	FText Label = FText::FromString(TEXT("Before"));
-	Builder.AddMenuEntry(TAttribute<FText>::Create(TAttribute<FText>::FGetter::CreateLambda([&Label]() { return Label; })), FText(), FSlateIcon(),
-		FUIAction());
+	Builder.AddMenuEntry(TAttribute<FText>::Create(TAttribute<FText>::FGetter::CreateLambda([&Label]() { return Label; })), FText(),
+		FSlateIcon(), FUIAction());
 	Open(Builder);
 	Label = FText::FromString(TEXT("After"));
 	User.Wait(0.0f);

@@ -103,8 +103,7 @@ TEST(FMenuBuilder, PopCommandListWithoutPushIsFatal)
 TEST(FMenuBuilder, RunsExtensionsBeforeAndAfterAnEntry)
 {
 	const TSharedRef<FExtender> Extender = MakeShared<FExtender>();
-	const FMenuExtensionDelegate AddSeparator =
-		FMenuExtensionDelegate::CreateLambda([](FMenuBuilder& In) { In.AddMenuSeparator(); });
+	const FMenuExtensionDelegate AddSeparator = FMenuExtensionDelegate::CreateLambda([](FMenuBuilder& In) { In.AddMenuSeparator(); });
 	Extender->AddMenuExtension("Hook", EExtensionHook::Before, nullptr, AddSeparator);
 	Extender->AddMenuExtension("Hook", EExtensionHook::After, nullptr, AddSeparator);
 	FMenuBuilder Builder(true, nullptr, Extender);
@@ -127,8 +126,8 @@ TEST(FMenuBuilder, RunsExtensionsFirstInASection)
 TEST(FExtender, RunsNoExtensionThatWasRemoved)
 {
 	const TSharedRef<FExtender> Extender = MakeShared<FExtender>();
-	Extender->RemoveExtension(Extender->AddMenuExtension("Hook", EExtensionHook::Before, nullptr,
-		FMenuExtensionDelegate::CreateLambda([](FMenuBuilder& In) { In.AddMenuSeparator(); })));
+	Extender->RemoveExtension(Extender->AddMenuExtension(
+		"Hook", EExtensionHook::Before, nullptr, FMenuExtensionDelegate::CreateLambda([](FMenuBuilder& In) { In.AddMenuSeparator(); })));
 	FMenuBuilder Builder(true, nullptr, Extender);
 	AddEntry(Builder, "Hook");
 	EXPECT_TRUE(IsText(DescribeBlocks(Builder), TEXT("E")));

@@ -12,7 +12,8 @@ protected:
 	/** An entry that does nothing. */
 	static FToolMenuEntry MakeEntry(const TCHAR* Name)
 	{
-		return FToolMenuEntry::InitMenuEntry(Name, FText::FromString(Name), FText::GetEmpty(), FSlateIcon(), FToolUIActionChoice(FUIAction()));
+		return FToolMenuEntry::InitMenuEntry(
+			Name, FText::FromString(Name), FText::GetEmpty(), FSlateIcon(), FToolUIActionChoice(FUIAction()));
 	}
 
 	/** An entry at a position. */

@@ -135,8 +135,7 @@ TEST_F(UToolMenusAssemblyTest, WarnsOfASectionWhoseTargetNeverAppears)
 	const FDelegateHandle Handle = StandIn::OnLogRecord().AddLambda([&Warnings](const StandIn::FLogRecord& Record) {
 		Warnings += Record.Category == FName("LogToolMenus") && Record.Verbosity == ELogVerbosity::Warning ? 1 : 0;
 	});
-	ToolMenusAssemblyTestPrivate::AddSectionAt(
-		UToolMenus::Get()->ExtendMenu("M"), TEXT("B"), TEXT("Nowhere"), EToolMenuInsertType::After);
+	ToolMenusAssemblyTestPrivate::AddSectionAt(UToolMenus::Get()->ExtendMenu("M"), TEXT("B"), TEXT("Nowhere"), EToolMenuInsertType::After);
 	Generate(TEXT("M"));
 	StandIn::OnLogRecord().Remove(Handle);
 	EXPECT_EQ(Warnings, 1);
@@ -188,8 +187,7 @@ TEST_F(UToolMenusAssemblyTest, PutsWhatADynamicSectionMakesInItsPlace)
 TEST_F(UToolMenusAssemblyTest, RunsADynamicSectionAtEveryGeneration)
 {
 	int32 Runs = 0;
-	UToolMenus::Get()->RegisterMenu("M")->AddDynamicSection(
-		"D", FNewToolMenuDelegate::CreateLambda([&Runs](UToolMenu*) { ++Runs; }));
+	UToolMenus::Get()->RegisterMenu("M")->AddDynamicSection("D", FNewToolMenuDelegate::CreateLambda([&Runs](UToolMenu*) { ++Runs; }));
 	Generate(TEXT("M"));
 	Generate(TEXT("M"));
 	EXPECT_EQ(Runs, 2);
@@ -199,8 +197,8 @@ TEST_F(UToolMenusAssemblyTest, GivesADynamicSectionTheContext)
 {
 	UToolMenuTestContext* Object = NewObject<UToolMenuTestContext>();
 	UToolMenuTestContext* Seen = nullptr;
-	UToolMenus::Get()->RegisterMenu("M")->AddDynamicSection("D",
-		FNewToolMenuDelegate::CreateLambda([&Seen](UToolMenu* InMenu) { Seen = InMenu->FindContext<UToolMenuTestContext>(); }));
+	UToolMenus::Get()->RegisterMenu("M")->AddDynamicSection(
+		"D", FNewToolMenuDelegate::CreateLambda([&Seen](UToolMenu* InMenu) { Seen = InMenu->FindContext<UToolMenuTestContext>(); }));
 	Generate(TEXT("M"), Object);
 	EXPECT_EQ(Seen, Object);
 }
@@ -219,8 +217,8 @@ TEST_F(UToolMenusAssemblyTest, GivesADynamicEntryTheContext)
 {
 	UToolMenuTestContext* Object = NewObject<UToolMenuTestContext>();
 	UToolMenuTestContext* Seen = nullptr;
-	UToolMenus::Get()->RegisterMenu("M")->AddSection("S").AddDynamicEntry("D",
-		FNewToolMenuSectionDelegate::CreateLambda([&Seen](FToolMenuSection& In) { Seen = In.FindContext<UToolMenuTestContext>(); }));
+	UToolMenus::Get()->RegisterMenu("M")->AddSection("S").AddDynamicEntry(
+		"D", FNewToolMenuSectionDelegate::CreateLambda([&Seen](FToolMenuSection& In) { Seen = In.FindContext<UToolMenuTestContext>(); }));
 	Generate(TEXT("M"), Object);
 	EXPECT_EQ(Seen, Object);
 }

@@ -73,8 +73,8 @@ TEST_F(UToolMenusWidgetsTest, RunAnEntrysActionOnAClick)
 TEST_F(UToolMenusWidgetsTest, AreDismissedBeforeAnEntrysActionRuns)
 {
 	int32 MenusDuringAction = -1;
-	UToolMenus::Get()->ExtendMenu("M")->AddMenuEntry("S",
-		ToolMenusWidgetsTestPrivate::MakeAction(TEXT("A"), [this, &MenusDuringAction]() { MenusDuringAction = User.CountMenus(); }));
+	UToolMenus::Get()->ExtendMenu("M")->AddMenuEntry(
+		"S", ToolMenusWidgetsTestPrivate::MakeAction(TEXT("A"), [this, &MenusDuringAction]() { MenusDuringAction = User.CountMenus(); }));
 	Open(TEXT("M"));
 	User.Click(TEXT("A"));
 	EXPECT_EQ(MenusDuringAction, 0);

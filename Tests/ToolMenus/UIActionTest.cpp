@@ -54,8 +54,9 @@ TEST(FUIAction, WrapsACheckedQueryOfTwoStates)
 
 TEST(FUIAction, GivesACheckStateOfThreeStates)
 {
-	EXPECT_EQ(FUIAction(DoNothing, FCanExecuteAction(), FGetActionCheckState::CreateLambda([]() { return ECheckBoxState::Undetermined; }))
-				  .GetCheckState(),
+	EXPECT_EQ(FUIAction(DoNothing, FCanExecuteAction(), FGetActionCheckState::CreateLambda([]() {
+		return ECheckBoxState::Undetermined;
+	})).GetCheckState(),
 		ECheckBoxState::Undetermined);
 }
 

@@ -72,7 +72,9 @@ EAssetTypeCategories::Type FAssetTools::RegisterAdvancedAssetCategory(FName Cate
 														: static_cast<uint32>(EAssetTypeCategories::FirstUser);
 	if (NextBit == 0)
 	{
-		UE_LOG(LogAssetTools, Warning, TEXT("RegisterAssetTypeCategory(\"%s\", \"%s\") failed as all user bits have been exhausted (placing into the Misc category instead)"),
+		UE_LOG(LogAssetTools, Warning,
+			TEXT(
+				"RegisterAssetTypeCategory(\"%s\", \"%s\") failed as all user bits have been exhausted (placing into the Misc category instead)"),
 			*CategoryKey.ToString(), *CategoryDisplayName.ToString());
 		return EAssetTypeCategories::Misc;
 	}

@@ -26,7 +26,9 @@ void ListRegistered(TArray<StandIn::FRegistration>& OutRegistrations)
 }
 }
 
-FAssetToolsModule::FAssetToolsModule() : AssetTools(nullptr) {}
+FAssetToolsModule::FAssetToolsModule()
+	: AssetTools(nullptr)
+{}
 
 FAssetToolsModule::~FAssetToolsModule() {}
 

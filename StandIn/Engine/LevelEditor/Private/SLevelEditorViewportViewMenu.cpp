@@ -42,7 +42,8 @@ void SLevelEditorViewportViewMenu::FillLevelSections(UToolMenu* Menu) const
 	const FUIAction AlwaysChecked(
 		FExecuteAction(), FCanExecuteAction::CreateLambda([]() { return false; }), FIsActionChecked::CreateLambda([]() { return true; }));
 
-	Menu->AddSection(TEXT("LevelViewportDeferredRendering"), TAttribute<FText>(), FToolMenuInsert(TEXT("ViewMode"), EToolMenuInsertType::After));
+	Menu->AddSection(
+		TEXT("LevelViewportDeferredRendering"), TAttribute<FText>(), FToolMenuInsert(TEXT("ViewMode"), EToolMenuInsertType::After));
 	{
 		FToolMenuSection& Section = Menu->AddSection(TEXT("ViewMenuCollision"), LOCTEXT("CollisionViewModeHeader", "Collision"));
 		AddViewMode(Section, TEXT("CollisionPawn"), LOCTEXT("CollisionPawn", "Player Collision"),
@@ -56,8 +57,8 @@ void SLevelEditorViewportViewMenu::FillLevelSections(UToolMenu* Menu) const
 			LOCTEXT("LandscapeLODMenu_ToolTip", "Override Landscape LOD in this viewport"),
 			FNewToolMenuDelegate::CreateLambda([Unavailable, AlwaysChecked](UToolMenu* InMenu) {
 				FToolMenuSection& Lods = InMenu->AddSection(TEXT("LandscapeLOD"));
-				Lods.AddMenuEntry(TEXT("LandscapeLODAuto"), LOCTEXT("LandscapeLODAuto", "Auto"), FText::GetEmpty(), FSlateIcon(), AlwaysChecked,
-					EUserInterfaceActionType::RadioButton);
+				Lods.AddMenuEntry(TEXT("LandscapeLODAuto"), LOCTEXT("LandscapeLODAuto", "Auto"), FText::GetEmpty(), FSlateIcon(),
+					AlwaysChecked, EUserInterfaceActionType::RadioButton);
 				for (int32 Lod = 0; Lod < 8; ++Lod)
 				{
 					const FString Label = FString(TEXT("LOD ")) + FString::FromInt(Lod);

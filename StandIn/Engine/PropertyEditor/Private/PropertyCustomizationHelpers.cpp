@@ -19,8 +19,8 @@ TSharedRef<SWidget> PropertyCustomizationHelpers::MakeAssetPickerWithMenu(const 
 	FOnShouldFilterAsset OnShouldFilterAsset, FOnAssetSelected OnSet, FSimpleDelegate OnClose,
 	const TSharedPtr<IPropertyHandle>& PropertyHandle, const TArray<FAssetData>& OwnerAssetArray)
 {
-	return MakeAssetPickerWithMenu(InitialObject, AllowClear, true, AllowedClasses, DisallowedClasses, NewAssetFactories, OnShouldFilterAsset,
-		OnSet, OnClose, PropertyHandle, OwnerAssetArray);
+	return MakeAssetPickerWithMenu(InitialObject, AllowClear, true, AllowedClasses, DisallowedClasses, NewAssetFactories,
+		OnShouldFilterAsset, OnSet, OnClose, PropertyHandle, OwnerAssetArray);
 }
 
 TSharedRef<SWidget> PropertyCustomizationHelpers::MakeAssetPickerWithMenu(const FAssetData& InitialObject, const bool AllowClear,

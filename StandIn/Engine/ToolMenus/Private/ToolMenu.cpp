@@ -13,8 +13,7 @@ UToolMenu::UToolMenu()
 	, bToolBarForceSmallIcons(false)
 	, bRegistered(false)
 	, bIsRegistering(false)
-{
-}
+{}
 
 FToolMenuSection& UToolMenu::AddSection(const FName SectionName, const TAttribute<FText>& InLabel, const FToolMenuInsert InPosition)
 {

@@ -11,7 +11,9 @@ FToolMenuEntry MakeEntry(const FName InName, const EMultiBlockType InType)
 }
 }
 
-FToolMenuEntry::FToolMenuEntry() : FToolMenuEntry(FToolMenuOwner(), NAME_None, EMultiBlockType::None) {}
+FToolMenuEntry::FToolMenuEntry()
+	: FToolMenuEntry(FToolMenuOwner(), NAME_None, EMultiBlockType::None)
+{}
 
 FToolMenuEntry::FToolMenuEntry(const FToolMenuOwner InOwner, const FName InName, EMultiBlockType InType)
 	: Name(InName)
@@ -21,8 +23,7 @@ FToolMenuEntry::FToolMenuEntry(const FToolMenuOwner InOwner, const FName InName,
 	, bShouldCloseWindowAfterMenuSelection(true)
 	, ScriptObject(nullptr)
 	, bAddedDuringRegister(false)
-{
-}
+{}
 
 FToolMenuEntry FToolMenuEntry::InitMenuEntry(const FName InName, const TAttribute<FText>& InLabel, const TAttribute<FText>& InToolTip,
 	const TAttribute<FSlateIcon>& InIcon, const FToolUIActionChoice& InAction, const EUserInterfaceActionType UserInterfaceActionType,
@@ -71,8 +72,9 @@ FToolMenuEntry FToolMenuEntry::InitMenuEntry(const FName InName, const FToolUIAc
 }
 
 FToolMenuEntry FToolMenuEntry::InitMenuEntryWithCommandList(const TSharedPtr<const FUICommandInfo>& InCommand,
-	const TSharedPtr<const FUICommandList>& InCommandList, const TAttribute<FText>& InLabelOverride, const TAttribute<FText>& InToolTipOverride,
-	const TAttribute<FSlateIcon>& InIconOverride, const FName InTutorialHighlightName, const TOptional<FName> InNameOverride)
+	const TSharedPtr<const FUICommandList>& InCommandList, const TAttribute<FText>& InLabelOverride,
+	const TAttribute<FText>& InToolTipOverride, const TAttribute<FSlateIcon>& InIconOverride, const FName InTutorialHighlightName,
+	const TOptional<FName> InNameOverride)
 {
 	FToolMenuEntry Entry =
 		InitMenuEntry(InCommand, InLabelOverride, InToolTipOverride, InIconOverride, InTutorialHighlightName, InNameOverride);
@@ -96,8 +98,8 @@ FToolMenuEntry FToolMenuEntry::InitSubMenu(const FName InName, const TAttribute<
 	const FNewToolMenuChoice& InMakeMenu, bool bInOpenSubMenuOnClick, const TAttribute<FSlateIcon>& InIcon,
 	const bool bShouldCloseWindowAfterMenuSelection)
 {
-	return InitSubMenu(InName, InLabel, InToolTip, InMakeMenu, FToolUIActionChoice(), EUserInterfaceActionType::Button, bInOpenSubMenuOnClick,
-		InIcon, bShouldCloseWindowAfterMenuSelection);
+	return InitSubMenu(InName, InLabel, InToolTip, InMakeMenu, FToolUIActionChoice(), EUserInterfaceActionType::Button,
+		bInOpenSubMenuOnClick, InIcon, bShouldCloseWindowAfterMenuSelection);
 }
 
 FToolMenuEntry FToolMenuEntry::InitSubMenu(const FName InName, const FToolUIActionChoice& InAction, const TSharedRef<SWidget>& InWidget,
@@ -128,8 +130,7 @@ FToolMenuEntry FToolMenuEntry::InitToolBarButton(const FName InName, const FTool
 	const TAttribute<FText>& InToolTip, const TAttribute<FSlateIcon>& InIcon, const EUserInterfaceActionType InUserInterfaceActionType,
 	FName InTutorialHighlightName)
 {
-	FToolMenuEntry Entry =
-		InitMenuEntry(InName, InLabel, InToolTip, InIcon, InAction, InUserInterfaceActionType, InTutorialHighlightName);
+	FToolMenuEntry Entry = InitMenuEntry(InName, InLabel, InToolTip, InIcon, InAction, InUserInterfaceActionType, InTutorialHighlightName);
 	Entry.Type = EMultiBlockType::ToolBarButton;
 	return Entry;
 }
@@ -162,7 +163,8 @@ FToolMenuEntry FToolMenuEntry::InitWidget(
 	return Entry;
 }
 
-const FUIAction* FToolMenuEntry::GetActionForCommand(const FToolMenuContext& InContext, TSharedPtr<const FUICommandList>& OutCommandList) const
+const FUIAction* FToolMenuEntry::GetActionForCommand(
+	const FToolMenuContext& InContext, TSharedPtr<const FUICommandList>& OutCommandList) const
 {
 	if (!Command.IsValid())
 	{

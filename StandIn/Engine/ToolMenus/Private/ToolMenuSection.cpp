@@ -2,7 +2,11 @@
 
 #include "ToolMenuSection.h"
 
-FToolMenuSection::FToolMenuSection() : ToolMenuSectionDynamic(nullptr), bIsRegistering(false), bAddedDuringRegister(false) {}
+FToolMenuSection::FToolMenuSection()
+	: ToolMenuSectionDynamic(nullptr)
+	, bIsRegistering(false)
+	, bAddedDuringRegister(false)
+{}
 
 FToolMenuEntry& FToolMenuSection::AddEntry(const FToolMenuEntry& Args)
 {
@@ -45,8 +49,9 @@ FToolMenuEntry& FToolMenuSection::AddMenuEntry(const FName InNameOverride, const
 }
 
 FToolMenuEntry& FToolMenuSection::AddMenuEntryWithCommandList(const TSharedPtr<const FUICommandInfo>& InCommand,
-	const TSharedPtr<const FUICommandList>& InCommandList, const TAttribute<FText>& InLabelOverride, const TAttribute<FText>& InToolTipOverride,
-	const TAttribute<FSlateIcon>& InIconOverride, const FName InTutorialHighlightName, const TOptional<FName> InNameOverride)
+	const TSharedPtr<const FUICommandList>& InCommandList, const TAttribute<FText>& InLabelOverride,
+	const TAttribute<FText>& InToolTipOverride, const TAttribute<FSlateIcon>& InIconOverride, const FName InTutorialHighlightName,
+	const TOptional<FName> InNameOverride)
 {
 	return AddEntry(FToolMenuEntry::InitMenuEntryWithCommandList(
 		InCommand, InCommandList, InLabelOverride, InToolTipOverride, InIconOverride, InTutorialHighlightName, InNameOverride));

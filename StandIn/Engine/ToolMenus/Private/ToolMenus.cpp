@@ -2,10 +2,7 @@
 
 #include "ToolMenus.h"
 #include "Containers/Ticker.h"
-#include "Framework/Application/SlateApplication.h"
-#include "Misc/CoreDelegates.h"
 #include "Modules/ModuleManager.h"
-#include "StandIn/Registrations.h"
 #include "UObject/Package.h"
 
 DEFINE_LOG_CATEGORY(LogToolMenus);
@@ -16,18 +13,6 @@ TWeakObjectPtr<UToolMenus>& Singleton()
 {
 	static TWeakObjectPtr<UToolMenus> Instance;
 	return Instance;
-}
-
-FSimpleMulticastDelegate& StartupCallbacks()
-{
-	static FSimpleMulticastDelegate Callbacks;
-	return Callbacks;
-}
-
-FDelegateHandle& PostEngineInitHandle()
-{
-	static FDelegateHandle Handle;
-	return Handle;
 }
 }
 
@@ -44,6 +29,11 @@ UToolMenus* UToolMenus::Get()
 		Singleton = Manager;
 	}
 	return Singleton.Get();
+}
+
+UToolMenus* UToolMenus::TryGetExisting()
+{
+	return UObjectInitialized() ? ToolMenusPrivate::Singleton().Get() : nullptr;
 }
 
 UToolMenus* UToolMenus::TryGet()
@@ -78,81 +68,6 @@ void UToolMenus::BeginDestroy()
 		RefreshTickHandle.Reset();
 	}
 	Super::BeginDestroy();
-}
-
-void UToolMenus::UnregisterOwner(FToolMenuOwner Owner)
-{
-	UToolMenus* Manager = TryGet();
-	if (!Manager || !Owner.IsSet())
-	{
-		return;
-	}
-	for (const TPair<FName, UToolMenu*>& Pair : Manager->Menus)
-	{
-		TArray<FToolMenuSection>& Sections = Pair.Value->Sections;
-		for (int32 Index = Sections.Num() - 1; Index >= 0; --Index)
-		{
-			FToolMenuSection& Section = Sections[Index];
-			Section.Blocks.RemoveAll([&Owner](const FToolMenuEntry& Entry) { return Entry.Owner == Owner; });
-			if (Section.Owner == Owner)
-			{
-				Section.Construct = FNewSectionConstructChoice();
-				if (Section.Blocks.Num() == 0)
-				{
-					Sections.RemoveAt(Index);
-				}
-			}
-		}
-	}
-	Manager->RefreshAllWidgets();
-}
-
-void UToolMenus::UnregisterOwnerByName(FName InOwnerName)
-{
-	UnregisterOwner(InOwnerName);
-}
-
-bool UToolMenus::IsToolMenuUIEnabled()
-{
-	return FSlateApplication::IsInitialized() && GIsEditor && !IsRunningCommandlet();
-}
-
-FDelegateHandle UToolMenus::RegisterStartupCallback(const FSimpleMulticastDelegate::FDelegate& InDelegate)
-{
-	if (IsToolMenuUIEnabled() && TryGet())
-	{
-		InDelegate.Execute();
-		return FDelegateHandle();
-	}
-	FDelegateHandle& Handle = ToolMenusPrivate::PostEngineInitHandle();
-	if (!Handle.IsValid())
-	{
-		Handle = FCoreDelegates::OnPostEngineInit.AddStatic(&UToolMenus::RunStartupCallbacks);
-	}
-	return ToolMenusPrivate::StartupCallbacks().Add(InDelegate);
-}
-
-void UToolMenus::RunStartupCallbacks()
-{
-	FDelegateHandle& Handle = ToolMenusPrivate::PostEngineInitHandle();
-	FCoreDelegates::OnPostEngineInit.Remove(Handle);
-	Handle.Reset();
-	if (IsToolMenuUIEnabled())
-	{
-		Get();
-		ToolMenusPrivate::StartupCallbacks().Broadcast();
-		ToolMenusPrivate::StartupCallbacks().Clear();
-	}
-}
-
-void UToolMenus::UnRegisterStartupCallback(const void* UserPointer)
-{
-	ToolMenusPrivate::StartupCallbacks().RemoveAll(UserPointer);
-}
-
-void UToolMenus::UnRegisterStartupCallback(FDelegateHandle InHandle)
-{
-	ToolMenusPrivate::StartupCallbacks().Remove(InHandle);
 }
 
 UToolMenu* UToolMenus::NewToolMenuObject(const FName InMenuName, const FToolMenuContext& InContext)
@@ -217,7 +132,8 @@ void UToolMenus::RemoveMenu(const FName MenuName)
 	Menus.Remove(MenuName);
 }
 
-void UToolMenus::AddSection(const FName MenuName, const FName SectionName, const TAttribute<FText>& InLabel, const FToolMenuInsert InPosition)
+void UToolMenus::AddSection(
+	const FName MenuName, const FName SectionName, const TAttribute<FText>& InLabel, const FToolMenuInsert InPosition)
 {
 	ExtendMenu(MenuName)->AddSection(SectionName, InLabel, InPosition);
 }
@@ -252,53 +168,4 @@ void UToolMenus::SetSectionLabel(const FName MenuName, const FName SectionName, 
 void UToolMenus::SetSectionPosition(const FName MenuName, const FName SectionName, const FToolMenuInsert InPosition)
 {
 	ExtendMenu(MenuName)->FindOrAddSection(SectionName).InsertPosition = InPosition;
-}
-
-void UToolMenus::PushOwner(const FToolMenuOwner InOwner)
-{
-	OwnerStack.Push(InOwner);
-}
-
-void UToolMenus::PopOwner(const FToolMenuOwner InOwner)
-{
-	check(OwnerStack.Num() > 0);
-	const FToolMenuOwner PoppedOwner = OwnerStack.Pop();
-	check(PoppedOwner == InOwner);
-}
-
-FToolMenuOwner UToolMenus::CurrentOwner() const
-{
-	return OwnerStack.Num() > 0 ? OwnerStack.Last() : FToolMenuOwner();
-}
-
-void UToolMenus::AddToRegistrations()
-{
-	static bool bAdded = false;
-	if (bAdded)
-	{
-		return;
-	}
-	bAdded = true;
-	StandIn::AddRegistry(TEXT("ToolMenus"), [](TArray<StandIn::FRegistration>& OutRegistrations) {
-		const UToolMenus* Manager = UObjectInitialized() ? ToolMenusPrivate::Singleton().Get() : nullptr;
-		if (!Manager)
-		{
-			return;
-		}
-		for (const TPair<FName, UToolMenu*>& Pair : Manager->Menus)
-		{
-			const FString MenuText = Pair.Key.ToString();
-			OutRegistrations.Add(StandIn::FRegistration{TEXT("ToolMenus"), MenuText, Pair.Value->MenuOwner.Pointer});
-			for (const FToolMenuSection& Section : Pair.Value->Sections)
-			{
-				const FString SectionText = MenuText + TEXT("/") + Section.Name.ToString();
-				OutRegistrations.Add(StandIn::FRegistration{TEXT("ToolMenus"), SectionText, Section.Owner.Pointer});
-				for (const FToolMenuEntry& Entry : Section.Blocks)
-				{
-					const FString EntryText = SectionText + TEXT("/") + Entry.Name.ToString();
-					OutRegistrations.Add(StandIn::FRegistration{TEXT("ToolMenus"), EntryText, Entry.Owner.Pointer});
-				}
-			}
-		}
-	});
 }

@@ -32,16 +32,24 @@ struct TOOLMENUS_API FNewToolMenuChoice
 	FNewToolMenuChoice() {}
 
 	/** Chooses a delegate that makes a widget. */
-	FNewToolMenuChoice(const FOnGetContent& InOnGetContent) : OnGetContent(InOnGetContent) {}
+	FNewToolMenuChoice(const FOnGetContent& InOnGetContent)
+		: OnGetContent(InOnGetContent)
+	{}
 
 	/** Chooses a delegate that makes a widget from the menu's context. */
-	FNewToolMenuChoice(const FNewToolMenuWidget& InNewToolMenuWidget) : NewToolMenuWidget(InNewToolMenuWidget) {}
+	FNewToolMenuChoice(const FNewToolMenuWidget& InNewToolMenuWidget)
+		: NewToolMenuWidget(InNewToolMenuWidget)
+	{}
 
 	/** Chooses a delegate that fills a tool menu. */
-	FNewToolMenuChoice(const FNewToolMenuDelegate& InNewToolMenu) : NewToolMenu(InNewToolMenu) {}
+	FNewToolMenuChoice(const FNewToolMenuDelegate& InNewToolMenu)
+		: NewToolMenu(InNewToolMenu)
+	{}
 
 	/** Chooses a delegate that fills a menu builder. */
-	FNewToolMenuChoice(const FNewMenuDelegate& InNewMenuLegacy) : NewMenuLegacy(InNewMenuLegacy) {}
+	FNewToolMenuChoice(const FNewMenuDelegate& InNewMenuLegacy)
+		: NewMenuLegacy(InNewMenuLegacy)
+	{}
 
 	FOnGetContent OnGetContent;
 	FNewToolMenuWidget NewToolMenuWidget;
@@ -56,19 +64,19 @@ struct TOOLMENUS_API FNewSectionConstructChoice
 	FNewSectionConstructChoice() {}
 
 	/** Chooses a delegate that adds sections to a tool menu. */
-	FNewSectionConstructChoice(const FNewToolMenuDelegate& InNewToolMenuDelegate) : NewToolMenuDelegate(InNewToolMenuDelegate) {}
+	FNewSectionConstructChoice(const FNewToolMenuDelegate& InNewToolMenuDelegate)
+		: NewToolMenuDelegate(InNewToolMenuDelegate)
+	{}
 
 	/** Chooses a delegate that adds to a menu builder. */
 	FNewSectionConstructChoice(const FNewToolMenuDelegateLegacy& InNewToolMenuDelegateLegacy)
 		: NewToolMenuDelegateLegacy(InNewToolMenuDelegateLegacy)
-	{
-	}
+	{}
 
 	/** Chooses a delegate that adds to a tool bar builder; refused when it is to run. */
 	FNewSectionConstructChoice(const FNewToolBarDelegateLegacy& InNewToolBarDelegateLegacy)
 		: NewToolBarDelegateLegacy(InNewToolBarDelegateLegacy)
-	{
-	}
+	{}
 
 	FNewToolMenuDelegate NewToolMenuDelegate;
 	FNewToolMenuDelegateLegacy NewToolMenuDelegateLegacy;
@@ -88,14 +96,15 @@ struct TOOLMENUS_API FToolUIAction
 	FToolUIAction() {}
 
 	/** Makes an action. */
-	FToolUIAction(const FToolMenuExecuteAction& InExecuteAction) : ExecuteAction(InExecuteAction) {}
+	FToolUIAction(const FToolMenuExecuteAction& InExecuteAction)
+		: ExecuteAction(InExecuteAction)
+	{}
 
 	/** Makes an action with a check state. */
 	FToolUIAction(const FToolMenuExecuteAction& InExecuteAction, const FToolMenuGetActionCheckState& InGetActionCheckState)
 		: ExecuteAction(InExecuteAction)
 		, GetActionCheckState(InGetActionCheckState)
-	{
-	}
+	{}
 
 	/** Makes an action with a can-execute query and a check state. */
 	FToolUIAction(const FToolMenuExecuteAction& InExecuteAction, const FToolMenuCanExecuteAction& InCanExecuteAction,
@@ -103,8 +112,7 @@ struct TOOLMENUS_API FToolUIAction
 		: ExecuteAction(InExecuteAction)
 		, CanExecuteAction(InCanExecuteAction)
 		, GetActionCheckState(InGetActionCheckState)
-	{
-	}
+	{}
 
 	FToolMenuExecuteAction ExecuteAction;
 	FToolMenuCanExecuteAction CanExecuteAction;

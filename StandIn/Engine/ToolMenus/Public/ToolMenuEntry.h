@@ -21,7 +21,10 @@ class UToolMenuEntryScript;
 /** What an entry that opens a submenu needs. */
 struct TOOLMENUS_API FToolMenuEntrySubMenuData
 {
-	FToolMenuEntrySubMenuData() : bIsSubMenu(false), bOpenSubMenuOnClick(false) {}
+	FToolMenuEntrySubMenuData()
+		: bIsSubMenu(false)
+		, bOpenSubMenuOnClick(false)
+	{}
 
 	/** True if the entry opens a submenu. */
 	bool bIsSubMenu;
@@ -36,7 +39,11 @@ struct TOOLMENUS_API FToolMenuEntrySubMenuData
 /** What an entry of a tool bar needs. */
 struct TOOLMENUS_API FToolMenuEntryToolBarData
 {
-	FToolMenuEntryToolBarData() : bSimpleComboBox(false), bIsFocusable(false), bForceSmallIcons(false) {}
+	FToolMenuEntryToolBarData()
+		: bSimpleComboBox(false)
+		, bIsFocusable(false)
+		, bForceSmallIcons(false)
+	{}
 
 	/** True if the combo button is drawn as an arrow only. */
 	bool bSimpleComboBox;
@@ -54,7 +61,10 @@ struct TOOLMENUS_API FToolMenuEntryToolBarData
 /** What an entry that is a widget needs. */
 struct TOOLMENUS_API FToolMenuEntryWidgetData
 {
-	FToolMenuEntryWidgetData() : bNoIndent(false), bSearchable(false) {}
+	FToolMenuEntryWidgetData()
+		: bNoIndent(false)
+		, bSearchable(false)
+	{}
 
 	/** True if the widget begins at the left edge of the menu. */
 	bool bNoIndent;
@@ -75,7 +85,8 @@ struct TOOLMENUS_API FToolMenuEntry
 	/** Describes an entry with texts, icon and action. */
 	static FToolMenuEntry InitMenuEntry(const FName InName, const TAttribute<FText>& InLabel, const TAttribute<FText>& InToolTip,
 		const TAttribute<FSlateIcon>& InIcon, const FToolUIActionChoice& InAction,
-		const EUserInterfaceActionType UserInterfaceActionType = EUserInterfaceActionType::Button, const FName InTutorialHighlightName = NAME_None);
+		const EUserInterfaceActionType UserInterfaceActionType = EUserInterfaceActionType::Button,
+		const FName InTutorialHighlightName = NAME_None);
 
 	/** Describes an entry for a command, named like it unless overridden. */
 	static FToolMenuEntry InitMenuEntry(const TSharedPtr<const FUICommandInfo>& InCommand,
@@ -123,7 +134,8 @@ struct TOOLMENUS_API FToolMenuEntry
 	static FToolMenuEntry InitToolBarButton(const FName InName, const FToolUIActionChoice& InAction,
 		const TAttribute<FText>& InLabel = TAttribute<FText>(), const TAttribute<FText>& InToolTip = TAttribute<FText>(),
 		const TAttribute<FSlateIcon>& InIcon = TAttribute<FSlateIcon>(),
-		const EUserInterfaceActionType InUserInterfaceActionType = EUserInterfaceActionType::Button, FName InTutorialHighlightName = NAME_None);
+		const EUserInterfaceActionType InUserInterfaceActionType = EUserInterfaceActionType::Button,
+		FName InTutorialHighlightName = NAME_None);
 
 	/** Describes a button of a tool bar that opens a menu. */
 	static FToolMenuEntry InitComboButton(const FName InName, const FToolUIActionChoice& InAction,

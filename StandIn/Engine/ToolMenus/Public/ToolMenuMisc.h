@@ -19,10 +19,15 @@ enum class EToolMenuInsertType : uint8
 struct TOOLMENUS_API FToolMenuInsert
 {
 	/** Makes the default position: at the end. */
-	FToolMenuInsert() : Position(EToolMenuInsertType::Default) {}
+	FToolMenuInsert()
+		: Position(EToolMenuInsertType::Default)
+	{}
 
 	/** Makes a position relative to a named element. */
-	FToolMenuInsert(FName InName, EToolMenuInsertType InPosition) : Name(InName), Position(InPosition) {}
+	FToolMenuInsert(FName InName, EToolMenuInsertType InPosition)
+		: Name(InName)
+		, Position(InPosition)
+	{}
 
 	/** Element that Before and After refer to. */
 	FName Name;

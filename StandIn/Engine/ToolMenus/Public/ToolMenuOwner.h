@@ -10,19 +10,30 @@
 struct TOOLMENUS_API FToolMenuOwner
 {
 	/** Makes the empty owner. */
-	FToolMenuOwner() : Pointer(nullptr) {}
+	FToolMenuOwner()
+		: Pointer(nullptr)
+	{}
 
 	/** Makes an owner of an object's address; null makes the empty owner. */
-	FToolMenuOwner(void* InPointer) : Pointer(InPointer) {}
+	FToolMenuOwner(void* InPointer)
+		: Pointer(InPointer)
+	{}
 
 	/** Makes an owner of a name. */
-	FToolMenuOwner(const WIDECHAR* InName) : FToolMenuOwner(FName(InName)) {}
+	FToolMenuOwner(const WIDECHAR* InName)
+		: FToolMenuOwner(FName(InName))
+	{}
 
 	/** Makes an owner of a name. */
-	FToolMenuOwner(const ANSICHAR* InName) : FToolMenuOwner(FName(InName)) {}
+	FToolMenuOwner(const ANSICHAR* InName)
+		: FToolMenuOwner(FName(InName))
+	{}
 
 	/** Makes an owner of a name; NAME_None makes the empty owner. */
-	FToolMenuOwner(const FName InName) : Pointer(nullptr), Name(InName) {}
+	FToolMenuOwner(const FName InName)
+		: Pointer(nullptr)
+		, Name(InName)
+	{}
 
 	/** True if both are the same address or the same name. */
 	bool operator==(const FToolMenuOwner& Other) const { return Pointer == Other.Pointer && Name == Other.Name; }

@@ -26,11 +26,12 @@ struct TOOLMENUS_API FToolMenuSection
 	/** Adds an entry with texts, icon and action. */
 	FToolMenuEntry& AddMenuEntry(const FName InName, const TAttribute<FText>& InLabel, const TAttribute<FText>& InToolTip,
 		const TAttribute<FSlateIcon>& InIcon, const FToolUIActionChoice& InAction,
-		const EUserInterfaceActionType UserInterfaceActionType = EUserInterfaceActionType::Button, const FName InTutorialHighlightName = NAME_None);
+		const EUserInterfaceActionType UserInterfaceActionType = EUserInterfaceActionType::Button,
+		const FName InTutorialHighlightName = NAME_None);
 
 	/** Adds an entry for a command, named like it unless overridden. */
-	FToolMenuEntry& AddMenuEntry(const TSharedPtr<const FUICommandInfo>& InCommand, const TAttribute<FText>& InLabelOverride = TAttribute<FText>(),
-		const TAttribute<FText>& InToolTipOverride = TAttribute<FText>(),
+	FToolMenuEntry& AddMenuEntry(const TSharedPtr<const FUICommandInfo>& InCommand,
+		const TAttribute<FText>& InLabelOverride = TAttribute<FText>(), const TAttribute<FText>& InToolTipOverride = TAttribute<FText>(),
 		const TAttribute<FSlateIcon>& InIconOverride = TAttribute<FSlateIcon>(), const FName InTutorialHighlightName = NAME_None,
 		const TOptional<FName> InNameOverride = TOptional<FName>());
 

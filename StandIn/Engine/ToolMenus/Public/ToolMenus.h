@@ -140,6 +140,7 @@ private:
 	};
 
 	static UToolMenu* NewToolMenuObject(const FName InMenuName, const FToolMenuContext& InContext);
+	static UToolMenus* TryGetExisting();
 	static void RunStartupCallbacks();
 	static void AddToRegistrations();
 
@@ -153,7 +154,8 @@ private:
 	void PopulateMenuBuilder(FMenuBuilder& MenuBuilder, UToolMenu* MenuData);
 	void PopulateEntry(FMenuBuilder& MenuBuilder, UToolMenu* MenuData, const FToolMenuEntry& Block);
 	void PopulateSubMenu(FMenuBuilder& MenuBuilder, TWeakObjectPtr<UToolMenu> InParent, FName InBlockName);
-	void AddLiveMenu(UToolMenu* Menu, const TSharedRef<FMultiBox>& MultiBox, const TSharedPtr<SMultiBoxWidget>& Widget, const bool bRegistered);
+	void AddLiveMenu(
+		UToolMenu* Menu, const TSharedRef<FMultiBox>& MultiBox, const TSharedPtr<SMultiBoxWidget>& Widget, const bool bRegistered);
 	bool RefreshWidgets(const FName OnlyName);
 	void RefreshWidget(const TSharedRef<SMultiBoxWidget>& Widget);
 	bool OnRefreshTick(float DeltaTime);
@@ -168,7 +170,11 @@ private:
 struct FToolMenuOwnerScoped
 {
 	/** Pushes the owner. */
-	FToolMenuOwnerScoped(const FToolMenuOwner InOwner) : Owner(InOwner) { UToolMenus::Get()->PushOwner(InOwner); }
+	FToolMenuOwnerScoped(const FToolMenuOwner InOwner)
+		: Owner(InOwner)
+	{
+		UToolMenus::Get()->PushOwner(InOwner);
+	}
 
 	/** Pops the owner. */
 	~FToolMenuOwnerScoped() { UToolMenus::Get()->PopOwner(Owner); }

@@ -27,8 +27,8 @@ void FillWith(UToolMenu* Menu, const FName SectionName, const TArray<const TCHAR
 	for (const TCHAR* Label : Labels)
 	{
 		const FUIAction Unavailable(FExecuteAction(), FCanExecuteAction::CreateLambda([]() { return false; }));
-		Section.AddMenuEntry(FName(Label), FText::FromString(Label), FText::GetEmpty(), FSlateIcon(), Unavailable,
-			EUserInterfaceActionType::RadioButton);
+		Section.AddMenuEntry(
+			FName(Label), FText::FromString(Label), FText::GetEmpty(), FSlateIcon(), Unavailable, EUserInterfaceActionType::RadioButton);
 	}
 }
 }
@@ -87,8 +87,8 @@ void SEditorViewportViewMenu::AddViewMode(
 	FUICommandInfo::MakeCommandInfo(Context, Command, Name, Label, InToolTip, FSlateIcon(), EUserInterfaceActionType::RadioButton, Chord);
 	const bool bLit = Name == EditorViewportViewMenuPrivate::LitMode;
 	const TSharedRef<FUICommandList> Commands = MakeShared<FUICommandList>();
-	Commands->MapAction(
-		Command, FExecuteAction(), FCanExecuteAction::CreateLambda([bLit]() { return bLit; }), FIsActionChecked::CreateLambda([bLit]() { return bLit; }));
+	Commands->MapAction(Command, FExecuteAction(), FCanExecuteAction::CreateLambda([bLit]() { return bLit; }),
+		FIsActionChecked::CreateLambda([bLit]() { return bLit; }));
 	Section.AddMenuEntryWithCommandList(Command, Commands);
 }
 
@@ -115,7 +115,8 @@ void SEditorViewportViewMenu::FillViewMenu(UToolMenu* Menu) const
 					TEXT("Shader Complexity & Quads"), TEXT("Quad Overdraw")});
 		}));
 	Section.AddSubMenu(TEXT("VisualizeBufferViewMode"), LOCTEXT("VisualizeBufferViewModeDisplayName", "Buffer Visualization"),
-		LOCTEXT("BufferVisualization_ToolTip", "Select a mode for buffer visualization"), FNewToolMenuDelegate::CreateLambda([](UToolMenu* InMenu) {
+		LOCTEXT("BufferVisualization_ToolTip", "Select a mode for buffer visualization"),
+		FNewToolMenuDelegate::CreateLambda([](UToolMenu* InMenu) {
 			EditorViewportViewMenuPrivate::FillWith(InMenu, TEXT("BufferVisualization"),
 				{TEXT("Overview"), TEXT("Base Color"), TEXT("Metallic"), TEXT("Roughness"), TEXT("Scene Color"), TEXT("Scene Depth"),
 					TEXT("World Normal")});

@@ -17,7 +17,9 @@ class UToolMenu;
 class UNREALED_API SEditorViewportViewMenu : public SEditorViewportToolbarMenu
 {
 public:
-	SLATE_BEGIN_ARGS(SEditorViewportViewMenu) : _MenuName(TEXT("UnrealEd.ViewportToolbar.View")) {}
+	SLATE_BEGIN_ARGS(SEditorViewportViewMenu)
+		: _MenuName(TEXT("UnrealEd.ViewportToolbar.View"))
+	{}
 	SLATE_ARGUMENT(FName, MenuName)
 	SLATE_ARGUMENT(TSharedPtr<FExtender>, MenuExtenders)
 	SLATE_END_ARGS()

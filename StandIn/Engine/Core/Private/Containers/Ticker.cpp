@@ -2,7 +2,9 @@
 
 #include "Containers/Ticker.h"
 
-FTicker::FTicker() : CurrentTime(0.0) {}
+FTicker::FTicker()
+	: CurrentTime(0.0)
+{}
 
 FTicker& FTicker::GetCoreTicker()
 {

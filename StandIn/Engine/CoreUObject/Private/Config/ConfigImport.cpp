@@ -27,6 +27,7 @@ public:
 		, Key(InKey)
 		, NumBadLines(0)
 		, bUnreadText(false)
+		, bLastIsSavedFile(false)
 	{
 		GConfig->GetArray(*Section, *Key, Values, FileName);
 		if (Values.Num() > 0)
@@ -83,7 +84,12 @@ public:
 	void Tell(int32 Line, const FString& What)
 	{
 		const StandIn::FConfigOrigin Origin = Origins.IsValidIndex(Line) ? Origins[Line] : StandIn::FConfigOrigin();
-		const bool bInSavedFile = Origin.Line > 0 && FPaths::IsSamePath(Origin.File, FileName);
+		if (!Origin.File.Equals(LastOriginFile))
+		{
+			LastOriginFile = Origin.File;
+			bLastIsSavedFile = FPaths::IsSamePath(Origin.File, FileName);
+		}
+		const bool bInSavedFile = Origin.Line > 0 && bLastIsSavedFile;
 		bUnreadText |= bInSavedFile;
 		if (++NumBadLines <= MaxNoticesAKey)
 		{
@@ -131,6 +137,8 @@ private:
 	int32 NumBadLines;
 	bool bUnreadText;
 	FString CopySentence;
+	FString LastOriginFile;
+	bool bLastIsSavedFile;
 };
 
 FString GetElementKey(const FProperty* Property, int32 Index)

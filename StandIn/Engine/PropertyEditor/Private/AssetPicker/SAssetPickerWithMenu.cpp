@@ -3,13 +3,11 @@
 #include "AssetPicker/SAssetPickerWithMenu.h"
 #include "AssetPicker/SAssetPickerList.h"
 #include "AssetRegistry/AssetRegistryModule.h"
-#include "AssetToolsModule.h"
 #include "Factories/Factory.h"
 #include "Framework/Application/SlateApplication.h"
 #include "Framework/MultiBox/MultiBoxBuilder.h"
 #include "InputCoreTypes.h"
 #include "StandIn/AssetFiles.h"
-#include "StandIn/FatalHandler.h"
 #include "Styling/CoreStyle.h"
 #include "Styling/SlateIconFinder.h"
 #include "Widgets/Input/SButton.h"
@@ -23,31 +21,13 @@
 namespace AssetPickerWithMenuPrivate
 {
 const float BrowserSize = 300.0f;
-
-/** Text that was copied last, as "Class'Path'". */
-FString& Clipboard()
-{
-	static FString Text;
-	return Text;
 }
 
-FAssetData FindCopiedAsset()
-{
-	FString Path = Clipboard();
-	FString Rest;
-	if (Path.Split(TEXT("'"), nullptr, &Rest))
-	{
-		Rest.Split(TEXT("'"), &Path, nullptr);
-	}
-	if (Path.IsEmpty())
-	{
-		return FAssetData();
-	}
-	return FModuleManager::LoadModuleChecked<FAssetRegistryModule>(TEXT("AssetRegistry")).Get().GetAssetByObjectPath(FName(*Path));
-}
-}
-
-SAssetPickerWithMenu::SAssetPickerWithMenu() : bAllowClear(false), bAllowCopyPaste(false), FocusAttemptsLeft(3) {}
+SAssetPickerWithMenu::SAssetPickerWithMenu()
+	: bAllowClear(false)
+	, bAllowCopyPaste(false)
+	, FocusAttemptsLeft(3)
+{}
 
 void SAssetPickerWithMenu::Construct(const FArguments& InArgs)
 {
@@ -83,8 +63,8 @@ void SAssetPickerWithMenu::Construct(const FArguments& InArgs)
 		{
 			MenuBuilder.AddMenuEntry(LOCTEXT("CopyAsset", "Copy"), LOCTEXT("CopyAsset_Tooltip", "Copies the asset to the clipboard"),
 				FSlateIcon(), FUIAction(FExecuteAction::CreateSP(this, &SAssetPickerWithMenu::OnCopy), FCanExecuteAction()));
-			MenuBuilder.AddMenuEntry(LOCTEXT("PasteAsset", "Paste"), LOCTEXT("PasteAsset_Tooltip", "Pastes an asset from the clipboard to this field"),
-				FSlateIcon(),
+			MenuBuilder.AddMenuEntry(LOCTEXT("PasteAsset", "Paste"),
+				LOCTEXT("PasteAsset_Tooltip", "Pastes an asset from the clipboard to this field"), FSlateIcon(),
 				FUIAction(FExecuteAction::CreateSP(this, &SAssetPickerWithMenu::OnPaste),
 					FCanExecuteAction::CreateSP(this, &SAssetPickerWithMenu::CanPaste)));
 		}
@@ -197,7 +177,8 @@ void SAssetPickerWithMenu::FillList(const FOnShouldFilterAsset& OnShouldFilterAs
 bool SAssetPickerWithMenu::IsAllowed(const UClass* Class) const
 {
 	const auto IsAncestor = [Class](const UClass* Ancestor) { return Class && Class->IsChildOf(Ancestor); };
-	return (AllowedClasses.Num() == 0 || AllowedClasses.ContainsByPredicate(IsAncestor)) && !DisallowedClasses.ContainsByPredicate(IsAncestor);
+	return (AllowedClasses.Num() == 0 || AllowedClasses.ContainsByPredicate(IsAncestor))
+		&& !DisallowedClasses.ContainsByPredicate(IsAncestor);
 }
 
 TSharedPtr<SWidget> SAssetPickerWithMenu::GetSearchBox() const
@@ -243,85 +224,6 @@ FReply SAssetPickerWithMenu::OnPreviewKeyDown(const FGeometry& MyGeometry, const
 		return FReply::Handled();
 	}
 	return SCompoundWidget::OnPreviewKeyDown(MyGeometry, InKeyEvent);
-}
-
-void SAssetPickerWithMenu::Choose(const FAssetData& Asset)
-{
-	const TSharedRef<SWidget> KeptAlive = AsShared();
-	const FOnAssetSelected Set = OnSet;
-	const FSimpleDelegate Close = OnClose;
-	const FAssetData Chosen = Asset;
-	Set.ExecuteIfBound(Chosen);
-	Close.ExecuteIfBound();
-}
-
-void SAssetPickerWithMenu::ChooseSelected()
-{
-	if (List->GetSelectedIndex() == INDEX_NONE)
-	{
-		List->MoveSelection(1);
-	}
-	if (List->GetSelectedIndex() != INDEX_NONE)
-	{
-		Choose(List->GetSelectedAsset());
-	}
-}
-
-FReply SAssetPickerWithMenu::OnNoneClicked()
-{
-	OnClear();
-	return FReply::Handled();
-}
-
-void SAssetPickerWithMenu::OnEdit()
-{
-	const TSharedRef<SWidget> KeptAlive = AsShared();
-	if (UObject* Asset = InitialObject.GetAsset())
-	{
-		FAssetToolsModule::GetModule().Get().OpenEditorForAssets(TArray<UObject*>({Asset}));
-	}
-	OnClose.ExecuteIfBound();
-}
-
-void SAssetPickerWithMenu::OnCopy()
-{
-	AssetPickerWithMenuPrivate::Clipboard() = InitialObject.IsValid() ? InitialObject.GetExportTextName() : FString();
-	OnClose.ExecuteIfBound();
-}
-
-bool SAssetPickerWithMenu::CanPaste() const
-{
-	const FAssetData Copied = AssetPickerWithMenuPrivate::FindCopiedAsset();
-	return Copied.IsValid() && IsAllowed(Copied.GetClass());
-}
-
-void SAssetPickerWithMenu::OnPaste()
-{
-	Choose(AssetPickerWithMenuPrivate::FindCopiedAsset());
-}
-
-void SAssetPickerWithMenu::OnClear()
-{
-	Choose(FAssetData());
-}
-
-void SAssetPickerWithMenu::OnCreateNew(UFactory*)
-{
-	STANDIN_MISSING(TEXT("IAssetTools::CreateAssetWithDialog"));
-}
-
-void SAssetPickerWithMenu::OnSearchTextChanged(const FText& InText)
-{
-	List->SetSearchText(InText.ToString());
-}
-
-void SAssetPickerWithMenu::OnSearchTextCommitted(const FText& InText, ETextCommit::Type CommitType)
-{
-	if (CommitType == ETextCommit::OnEnter)
-	{
-		List->SetSearchText(InText.ToString());
-		ChooseSelected();
-	}
 }
 
 #undef LOCTEXT_NAMESPACE

@@ -15,7 +15,10 @@ class SSearchBox;
 class SAssetPickerWithMenu : public SCompoundWidget
 {
 public:
-	SLATE_BEGIN_ARGS(SAssetPickerWithMenu) : _AllowClear(false), _AllowCopyPaste(true) {}
+	SLATE_BEGIN_ARGS(SAssetPickerWithMenu)
+		: _AllowClear(false)
+		, _AllowCopyPaste(true)
+	{}
 	SLATE_ARGUMENT(FAssetData, InitialObject)
 	SLATE_ARGUMENT(bool, AllowClear)
 	SLATE_ARGUMENT(bool, AllowCopyPaste)

@@ -22,8 +22,7 @@ struct FMenuEntryArguments
 		, bIsSubMenu(false)
 		, bOpenSubMenuOnClick(false)
 		, bShouldCloseWindowAfterMenuSelection(true)
-	{
-	}
+	{}
 
 	/** Name that extenders know the entry by. */
 	FName ExtensionHook;

@@ -38,11 +38,10 @@ UFactory::UFactory(const FObjectInitializer& ObjectInitializer)
 	, bEditAfterNew(false)
 	, bEditorImport(false)
 	, bText(false)
-{
-}
+{}
 
-UObject* UFactory::FactoryCreateNew(UClass* InClass, UObject* InParent, FName InName, EObjectFlags Flags, UObject* Context,
-	FFeedbackContext* Warn, FName)
+UObject* UFactory::FactoryCreateNew(
+	UClass* InClass, UObject* InParent, FName InName, EObjectFlags Flags, UObject* Context, FFeedbackContext* Warn, FName)
 {
 	return FactoryCreateNew(InClass, InParent, InName, Flags, Context, Warn);
 }

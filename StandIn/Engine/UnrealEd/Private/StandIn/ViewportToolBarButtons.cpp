@@ -14,7 +14,8 @@ void Collect(const TSharedRef<SWidget>& Widget, const bool bInToolBar, TArray<St
 	}
 	// Toolbars hold nothing that takes a press but their buttons.
 	const bool bToolBar = bInToolBar || Widget->GetTypeAsString().EndsWith(TEXT("ViewportToolBar"));
-	const bool bButton = Widget->GetType() == TEXT("SEditorViewportToolbarMenu") || Widget->GetTypeAsString().EndsWith(TEXT("ViewportViewMenu"));
+	const bool bButton =
+		Widget->GetType() == TEXT("SEditorViewportToolbarMenu") || Widget->GetTypeAsString().EndsWith(TEXT("ViewportViewMenu"));
 	if (bToolBar && bButton)
 	{
 		const TSharedRef<SEditorViewportToolbarMenu> Button = StaticCastSharedRef<SEditorViewportToolbarMenu>(Widget);

@@ -22,8 +22,8 @@ bool UAssetEditorSubsystem::OpenEditorForAsset(
 	return OpenEditorForAssets(TArray<UObject*>({Asset}), ToolkitMode, OpenedFromLevelEditor, bShowProgressWindow);
 }
 
-bool UAssetEditorSubsystem::OpenEditorForAssets(const TArray<UObject*>& Assets, const EToolkitMode::Type ToolkitMode,
-	TSharedPtr<IToolkitHost> OpenedFromLevelEditor, const bool)
+bool UAssetEditorSubsystem::OpenEditorForAssets(
+	const TArray<UObject*>& Assets, const EToolkitMode::Type ToolkitMode, TSharedPtr<IToolkitHost> OpenedFromLevelEditor, const bool)
 {
 	const IAssetTools& Tools = FAssetToolsModule::GetModule().Get();
 	TArray<AssetEditorSubsystemPrivate::FGroup> Groups;
@@ -41,8 +41,8 @@ bool UAssetEditorSubsystem::OpenEditorForAssets(const TArray<UObject*>& Assets, 
 			continue;
 		}
 		const TSharedPtr<IAssetTypeActions> Actions = Tools.GetAssetTypeActionsForClass(Asset->GetClass()).Pin();
-		AssetEditorSubsystemPrivate::FGroup* Group = Groups.FindByPredicate(
-			[&Actions](const AssetEditorSubsystemPrivate::FGroup& Element) { return Element.Actions == Actions; });
+		AssetEditorSubsystemPrivate::FGroup* Group =
+			Groups.FindByPredicate([&Actions](const AssetEditorSubsystemPrivate::FGroup& Element) { return Element.Actions == Actions; });
 		if (!Group)
 		{
 			Group = &Groups[Groups.Add(AssetEditorSubsystemPrivate::FGroup())];

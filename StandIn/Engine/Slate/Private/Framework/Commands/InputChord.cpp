@@ -7,8 +7,8 @@ namespace InputChordPrivate
 /** What stands on a key: the digit keys are named in words. */
 FString GetKeyText(const FKey& Key, const bool bLongDisplayName)
 {
-	const FKey Digits[] = {EKeys::Zero, EKeys::One, EKeys::Two, EKeys::Three, EKeys::Four, EKeys::Five, EKeys::Six, EKeys::Seven, EKeys::Eight,
-		EKeys::Nine};
+	const FKey Digits[] = {
+		EKeys::Zero, EKeys::One, EKeys::Two, EKeys::Three, EKeys::Four, EKeys::Five, EKeys::Six, EKeys::Seven, EKeys::Eight, EKeys::Nine};
 	for (int32 Digit = 0; Digit < 10; ++Digit)
 	{
 		if (Key == Digits[Digit])
@@ -20,17 +20,22 @@ FString GetKeyText(const FKey& Key, const bool bLongDisplayName)
 }
 }
 
-FInputChord::FInputChord() : FInputChord(FKey(), false, false, false, false) {}
+FInputChord::FInputChord()
+	: FInputChord(FKey(), false, false, false, false)
+{}
 
-FInputChord::FInputChord(const FKey InKey) : FInputChord(InKey, false, false, false, false) {}
+FInputChord::FInputChord(const FKey InKey)
+	: FInputChord(InKey, false, false, false, false)
+{}
 
 FInputChord::FInputChord(const FKey InKey, const EModifierKey::Type InModifierFlags)
 	: FInputChord(InKey, (InModifierFlags & EModifierKey::Shift) != 0, (InModifierFlags & EModifierKey::Control) != 0,
-		  (InModifierFlags & EModifierKey::Alt) != 0, (InModifierFlags & EModifierKey::Command) != 0)
-{
-}
+		(InModifierFlags & EModifierKey::Alt) != 0, (InModifierFlags & EModifierKey::Command) != 0)
+{}
 
-FInputChord::FInputChord(const EModifierKey::Type InModifierFlags, const FKey InKey) : FInputChord(InKey, InModifierFlags) {}
+FInputChord::FInputChord(const EModifierKey::Type InModifierFlags, const FKey InKey)
+	: FInputChord(InKey, InModifierFlags)
+{}
 
 FInputChord::FInputChord(const FKey InKey, const bool bInShift, const bool bInCtrl, const bool bInAlt, const bool bInCmd)
 	: Key(InKey)
@@ -38,8 +43,7 @@ FInputChord::FInputChord(const FKey InKey, const bool bInShift, const bool bInCt
 	, bCtrl(bInCtrl)
 	, bAlt(bInAlt)
 	, bCmd(bInCmd)
-{
-}
+{}
 
 bool FInputChord::operator==(const FInputChord& Other) const
 {

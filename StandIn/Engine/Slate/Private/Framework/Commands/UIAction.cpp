@@ -23,7 +23,9 @@ FGetActionCheckState CheckStateOf(const FIsActionChecked& IsChecked)
 }
 }
 
-FUIAction::FUIAction() : RepeatMode(EUIActionRepeatMode::RepeatDisabled) {}
+FUIAction::FUIAction()
+	: RepeatMode(EUIActionRepeatMode::RepeatDisabled)
+{}
 
 FUIAction::FUIAction(FExecuteAction InitExecuteAction, EUIActionRepeatMode InitRepeatMode)
 	: ExecuteAction(InitExecuteAction)
@@ -38,37 +40,33 @@ FUIAction::FUIAction(FExecuteAction InitExecuteAction, FCanExecuteAction InitCan
 	: ExecuteAction(InitExecuteAction)
 	, CanExecuteAction(InitCanExecuteAction)
 	, RepeatMode(InitRepeatMode)
-{
-}
+{}
 
 FUIAction::FUIAction(FExecuteAction InitExecuteAction, FCanExecuteAction InitCanExecuteAction, FIsActionChecked InitIsCheckedDelegate,
 	EUIActionRepeatMode InitRepeatMode)
 	: FUIAction(InitExecuteAction, InitCanExecuteAction, UIActionPrivate::CheckStateOf(InitIsCheckedDelegate), InitRepeatMode)
-{
-}
+{}
 
-FUIAction::FUIAction(FExecuteAction InitExecuteAction, FCanExecuteAction InitCanExecuteAction, FGetActionCheckState InitGetActionCheckStateDelegate,
-	EUIActionRepeatMode InitRepeatMode)
+FUIAction::FUIAction(FExecuteAction InitExecuteAction, FCanExecuteAction InitCanExecuteAction,
+	FGetActionCheckState InitGetActionCheckStateDelegate, EUIActionRepeatMode InitRepeatMode)
 	: FUIAction(InitExecuteAction, InitCanExecuteAction, InitGetActionCheckStateDelegate, FIsActionButtonVisible(), InitRepeatMode)
-{
-}
+{}
 
 FUIAction::FUIAction(FExecuteAction InitExecuteAction, FCanExecuteAction InitCanExecuteAction, FIsActionChecked InitIsCheckedDelegate,
 	FIsActionButtonVisible InitIsActionVisibleDelegate, EUIActionRepeatMode InitRepeatMode)
 	: FUIAction(InitExecuteAction, InitCanExecuteAction, UIActionPrivate::CheckStateOf(InitIsCheckedDelegate), InitIsActionVisibleDelegate,
-		  InitRepeatMode)
-{
-}
+		InitRepeatMode)
+{}
 
-FUIAction::FUIAction(FExecuteAction InitExecuteAction, FCanExecuteAction InitCanExecuteAction, FGetActionCheckState InitGetActionCheckStateDelegate,
-	FIsActionButtonVisible InitIsActionVisibleDelegate, EUIActionRepeatMode InitRepeatMode)
+FUIAction::FUIAction(FExecuteAction InitExecuteAction, FCanExecuteAction InitCanExecuteAction,
+	FGetActionCheckState InitGetActionCheckStateDelegate, FIsActionButtonVisible InitIsActionVisibleDelegate,
+	EUIActionRepeatMode InitRepeatMode)
 	: ExecuteAction(InitExecuteAction)
 	, CanExecuteAction(InitCanExecuteAction)
 	, GetActionCheckState(InitGetActionCheckStateDelegate)
 	, IsActionVisibleDelegate(InitIsActionVisibleDelegate)
 	, RepeatMode(InitRepeatMode)
-{
-}
+{}
 
 bool FUIAction::CanExecute() const
 {

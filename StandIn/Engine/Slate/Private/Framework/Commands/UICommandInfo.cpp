@@ -2,7 +2,8 @@
 
 #include "Framework/Commands/UICommandInfo.h"
 
-FBindingContext::FBindingContext(const FName InContextName, const FText& InContextDesc, const FName InContextParent, const FName InStyleSetName)
+FBindingContext::FBindingContext(
+	const FName InContextName, const FText& InContextDesc, const FName InContextParent, const FName InStyleSetName)
 	: ContextName(InContextName)
 	, ContextParent(InContextParent)
 	, ContextDesc(InContextDesc)
@@ -14,8 +15,7 @@ FBindingContext::FBindingContext(const FName InContextName, const FText& InConte
 FUICommandInfo::FUICommandInfo(const FName InBindingContext)
 	: UserInterfaceType(EUserInterfaceActionType::Button)
 	, BindingContext(InBindingContext)
-{
-}
+{}
 
 void FUICommandInfo::MakeCommandInfo(const TSharedRef<FBindingContext>& InContext, TSharedPtr<FUICommandInfo>& OutCommand,
 	const FName InCommandName, const FText& InCommandLabel, const FText& InCommandDesc, const FSlateIcon& InIcon,

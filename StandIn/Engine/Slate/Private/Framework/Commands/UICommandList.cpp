@@ -3,7 +3,8 @@
 #include "Framework/Commands/UICommandList.h"
 #include "Input/Events.h"
 
-void FUICommandList::MapAction(const TSharedPtr<const FUICommandInfo> InUICommandInfo, FExecuteAction ExecuteAction, EUIActionRepeatMode RepeatMode)
+void FUICommandList::MapAction(
+	const TSharedPtr<const FUICommandInfo> InUICommandInfo, FExecuteAction ExecuteAction, EUIActionRepeatMode RepeatMode)
 {
 	MapAction(InUICommandInfo, ExecuteAction, FCanExecuteAction(), RepeatMode);
 }
@@ -81,8 +82,8 @@ ECheckBoxState FUICommandList::GetCheckState(const TSharedRef<const FUICommandIn
 
 bool FUICommandList::ProcessCommandBindings(const FKeyEvent& InKeyEvent) const
 {
-	const FInputChord Chord(InKeyEvent.GetKey(), InKeyEvent.IsShiftDown(), InKeyEvent.IsControlDown(), InKeyEvent.IsAltDown(),
-		InKeyEvent.IsCommandDown());
+	const FInputChord Chord(
+		InKeyEvent.GetKey(), InKeyEvent.IsShiftDown(), InKeyEvent.IsControlDown(), InKeyEvent.IsAltDown(), InKeyEvent.IsCommandDown());
 	for (const FMapping& Mapping : Mappings)
 	{
 		if (Mapping.Command->HasActiveChord(Chord) && (!InKeyEvent.IsRepeat() || Mapping.Action.CanRepeat()))

@@ -12,10 +12,8 @@
 void SMenuHeading::Construct(const FArguments& InArgs)
 {
 	Text = InArgs._Text;
-	ChildSlot.Padding(FMargin(4.0f, 4.0f, 4.0f, 2.0f))[SNew(STextBlock)
-														   .Text(InArgs._Text)
-														   .Font(FMenuLook::HeadingFont())
-														   .ColorAndOpacity(FMenuLook::HeadingColor())];
+	ChildSlot.Padding(FMargin(4.0f, 4.0f, 4.0f,
+		2.0f))[SNew(STextBlock).Text(InArgs._Text).Font(FMenuLook::HeadingFont()).ColorAndOpacity(FMenuLook::HeadingColor())];
 }
 
 TSharedRef<SWidget> FHeadingBlock::MakeWidget(const TSharedRef<SMultiBoxWidget>&) const

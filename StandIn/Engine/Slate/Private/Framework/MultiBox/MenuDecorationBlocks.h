@@ -12,8 +12,7 @@ public:
 	FHeadingBlock(const FName InExtensionHook, const TAttribute<FText>& InHeadingText)
 		: FMultiBlock(EMultiBlockType::Heading, InExtensionHook)
 		, HeadingText(InHeadingText)
-	{
-	}
+	{}
 
 	virtual TSharedRef<SWidget> MakeWidget(const TSharedRef<SMultiBoxWidget>& InOwnerMultiBoxWidget) const override;
 
@@ -25,7 +24,9 @@ private:
 class FSeparatorBlock : public FMultiBlock
 {
 public:
-	explicit FSeparatorBlock(const FName InExtensionHook) : FMultiBlock(EMultiBlockType::Separator, InExtensionHook) {}
+	explicit FSeparatorBlock(const FName InExtensionHook)
+		: FMultiBlock(EMultiBlockType::Separator, InExtensionHook)
+	{}
 
 	virtual TSharedRef<SWidget> MakeWidget(const TSharedRef<SMultiBoxWidget>& InOwnerMultiBoxWidget) const override;
 };
@@ -39,8 +40,7 @@ public:
 		, Content(InContent)
 		, Label(InLabel)
 		, bNoIndent(bInNoIndent)
-	{
-	}
+	{}
 
 	virtual TSharedRef<SWidget> MakeWidget(const TSharedRef<SMultiBoxWidget>& InOwnerMultiBoxWidget) const override;
 

@@ -5,16 +5,15 @@
 #include "Framework/MultiBox/SMenuEntryRow.h"
 #include "Widgets/SNullWidget.h"
 
-FMenuEntryBlock::FMenuEntryBlock(const FMenuEntryArguments& InArguments, const bool bInCloseSelfOnly, const TSharedPtr<FExtender>& InExtender,
-	const ISlateStyle* InStyleSet, const FName InMenuName)
+FMenuEntryBlock::FMenuEntryBlock(const FMenuEntryArguments& InArguments, const bool bInCloseSelfOnly,
+	const TSharedPtr<FExtender>& InExtender, const ISlateStyle* InStyleSet, const FName InMenuName)
 	: FMultiBlock(EMultiBlockType::MenuEntry, InArguments.ExtensionHook)
 	, Arguments(InArguments)
 	, bCloseSelfOnly(bInCloseSelfOnly)
 	, Extender(InExtender)
 	, StyleSet(InStyleSet)
 	, MenuName(InMenuName)
-{
-}
+{}
 
 TSharedRef<SWidget> FMenuEntryBlock::MakeWidget(const TSharedRef<SMultiBoxWidget>& InOwnerMultiBoxWidget) const
 {

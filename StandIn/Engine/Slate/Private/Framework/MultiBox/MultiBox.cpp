@@ -10,8 +10,7 @@ TAttribute<bool> FMultiBoxSettings::DisplayMultiboxHooks(false);
 FMultiBox::FMultiBox(const EMultiBoxType InType, const bool bInShouldCloseWindowAfterMenuSelection)
 	: Type(InType)
 	, bShouldCloseWindowAfterMenuSelection(bInShouldCloseWindowAfterMenuSelection)
-{
-}
+{}
 
 TSharedRef<FMultiBox> FMultiBox::Create(const EMultiBoxType InType, const bool bInShouldCloseWindowAfterMenuSelection)
 {

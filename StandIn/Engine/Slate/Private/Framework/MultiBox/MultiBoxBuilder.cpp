@@ -42,8 +42,7 @@ FMenuBuilder::FMenuBuilder(const bool bInShouldCloseWindowAfterMenuSelection, TS
 	, bSearchable(bInSearchable)
 	, bSectionNeedsToBeApplied(false)
 	, StyleSet(InStyleSet)
-{
-}
+{}
 
 void FMenuBuilder::AddMenuEntry(const TSharedPtr<const FUICommandInfo> InCommand, FName InExtensionHook,
 	const TAttribute<FText>& InLabelOverride, const TAttribute<FText>& InToolTipOverride, const FSlateIcon& InIconOverride, FName)
@@ -86,10 +85,11 @@ void FMenuBuilder::AddMenuEntry(const FUIAction& UIAction, const TSharedRef<SWid
 }
 
 void FMenuBuilder::AddSubMenu(const TAttribute<FText>& InMenuLabel, const TAttribute<FText>& InToolTip, const FNewMenuDelegate& InSubMenu,
-	const bool bInOpenSubMenuOnClick, const FSlateIcon& InIcon, const bool bInShouldCloseWindowAfterMenuSelection, FName InExtensionHook, FName)
+	const bool bInOpenSubMenuOnClick, const FSlateIcon& InIcon, const bool bInShouldCloseWindowAfterMenuSelection, FName InExtensionHook,
+	FName)
 {
-	AddSubMenu(InMenuLabel, InToolTip, InSubMenu, FUIAction(), InExtensionHook, EUserInterfaceActionType::Button, bInOpenSubMenuOnClick, InIcon,
-		bInShouldCloseWindowAfterMenuSelection);
+	AddSubMenu(InMenuLabel, InToolTip, InSubMenu, FUIAction(), InExtensionHook, EUserInterfaceActionType::Button, bInOpenSubMenuOnClick,
+		InIcon, bInShouldCloseWindowAfterMenuSelection);
 }
 
 void FMenuBuilder::AddSubMenu(const TAttribute<FText>& InMenuLabel, const TAttribute<FText>& InToolTip, const FNewMenuDelegate& InSubMenu,
@@ -122,8 +122,8 @@ void FMenuBuilder::AddSubMenu(const FUIAction& UIAction, const TSharedRef<SWidge
 	AddEntry(Arguments);
 }
 
-void FMenuBuilder::AddWrapperSubMenu(const TAttribute<FText>& InMenuLabel, const TAttribute<FText>& InToolTip, const FOnGetContent& InSubMenu,
-	const FSlateIcon& InIcon, const bool bInShouldCloseWindowAfterMenuSelection)
+void FMenuBuilder::AddWrapperSubMenu(const TAttribute<FText>& InMenuLabel, const TAttribute<FText>& InToolTip,
+	const FOnGetContent& InSubMenu, const FSlateIcon& InIcon, const bool bInShouldCloseWindowAfterMenuSelection)
 {
 	FMenuEntryArguments Arguments;
 	Arguments.Label = InMenuLabel;

@@ -18,8 +18,7 @@ public:
 	SLATE_BEGIN_ARGS(SMenuEntryRow) {}
 	SLATE_END_ARGS()
 
-	void Construct(
-		const FArguments& InArgs, const TSharedRef<const FMenuEntryBlock>& InBlock, const TSharedRef<SMultiBoxWidget>& InOwner);
+	void Construct(const FArguments& InArgs, const TSharedRef<const FMenuEntryBlock>& InBlock, const TSharedRef<SMultiBoxWidget>& InOwner);
 
 	/** The row's entry. */
 	const FMenuEntryBlock& GetBlock() const { return *Block; }

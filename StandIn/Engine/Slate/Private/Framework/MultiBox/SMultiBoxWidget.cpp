@@ -1,8 +1,8 @@
 // Copyright The Tintmill authors. All rights reserved.
 
+#include "Framework/MultiBox/MultiBox.h"
 #include "Framework/Application/SlateApplication.h"
 #include "Framework/MultiBox/MenuLook.h"
-#include "Framework/MultiBox/MultiBox.h"
 #include "Framework/MultiBox/SMenuEntryRow.h"
 #include "Layout/Children.h"
 #include "Widgets/Layout/SBorder.h"
@@ -36,7 +36,11 @@ void CollectRows(const TSharedRef<SWidget>& Widget, TArray<TSharedRef<SMenuEntry
 }
 }
 
-SMultiBoxWidget::SMultiBoxWidget() : PendingSeconds(0.0f), bPending(false), bFocusFirstRow(false) {}
+SMultiBoxWidget::SMultiBoxWidget()
+	: PendingSeconds(0.0f)
+	, bPending(false)
+	, bFocusFirstRow(false)
+{}
 
 void SMultiBoxWidget::Construct(const FArguments&) {}
 

@@ -55,16 +55,17 @@ struct SLATE_API FUIAction
 		EUIActionRepeatMode InitRepeatMode = EUIActionRepeatMode::RepeatDisabled);
 
 	/** Makes an action with a check state query of three states. */
-	FUIAction(FExecuteAction InitExecuteAction, FCanExecuteAction InitCanExecuteAction, FGetActionCheckState InitGetActionCheckStateDelegate,
-		EUIActionRepeatMode InitRepeatMode = EUIActionRepeatMode::RepeatDisabled);
+	FUIAction(FExecuteAction InitExecuteAction, FCanExecuteAction InitCanExecuteAction,
+		FGetActionCheckState InitGetActionCheckStateDelegate, EUIActionRepeatMode InitRepeatMode = EUIActionRepeatMode::RepeatDisabled);
 
 	/** Makes an action with a checked query of two states and a visibility query. */
 	FUIAction(FExecuteAction InitExecuteAction, FCanExecuteAction InitCanExecuteAction, FIsActionChecked InitIsCheckedDelegate,
 		FIsActionButtonVisible InitIsActionVisibleDelegate, EUIActionRepeatMode InitRepeatMode = EUIActionRepeatMode::RepeatDisabled);
 
 	/** Makes an action with a check state query of three states and a visibility query. */
-	FUIAction(FExecuteAction InitExecuteAction, FCanExecuteAction InitCanExecuteAction, FGetActionCheckState InitGetActionCheckStateDelegate,
-		FIsActionButtonVisible InitIsActionVisibleDelegate, EUIActionRepeatMode InitRepeatMode = EUIActionRepeatMode::RepeatDisabled);
+	FUIAction(FExecuteAction InitExecuteAction, FCanExecuteAction InitCanExecuteAction,
+		FGetActionCheckState InitGetActionCheckStateDelegate, FIsActionButtonVisible InitIsActionVisibleDelegate,
+		EUIActionRepeatMode InitRepeatMode = EUIActionRepeatMode::RepeatDisabled);
 
 	/** True if the action may run now. */
 	bool CanExecute() const;

@@ -62,9 +62,9 @@ public:
 	FUICommandInfo(const FName InBindingContext);
 
 	/** Makes a command with all its properties. */
-	static void MakeCommandInfo(const TSharedRef<FBindingContext>& InContext, TSharedPtr<FUICommandInfo>& OutCommand, const FName InCommandName,
-		const FText& InCommandLabel, const FText& InCommandDesc, const FSlateIcon& InIcon, const EUserInterfaceActionType InUserInterfaceType,
-		const FInputChord& InDefaultChord);
+	static void MakeCommandInfo(const TSharedRef<FBindingContext>& InContext, TSharedPtr<FUICommandInfo>& OutCommand,
+		const FName InCommandName, const FText& InCommandLabel, const FText& InCommandDesc, const FSlateIcon& InIcon,
+		const EUserInterfaceActionType InUserInterfaceType, const FInputChord& InDefaultChord);
 
 	/** The chord as shown in menus, for example "Ctrl+S". */
 	FText GetInputText() const;

@@ -22,12 +22,13 @@ public:
 		EUIActionRepeatMode RepeatMode = EUIActionRepeatMode::RepeatDisabled);
 
 	/** Maps a command with a can-execute query; asserts if it is mapped already. */
-	virtual void MapAction(const TSharedPtr<const FUICommandInfo> InUICommandInfo, FExecuteAction ExecuteAction, FCanExecuteAction CanExecuteAction,
-		EUIActionRepeatMode RepeatMode = EUIActionRepeatMode::RepeatDisabled);
+	virtual void MapAction(const TSharedPtr<const FUICommandInfo> InUICommandInfo, FExecuteAction ExecuteAction,
+		FCanExecuteAction CanExecuteAction, EUIActionRepeatMode RepeatMode = EUIActionRepeatMode::RepeatDisabled);
 
 	/** Maps a command with can-execute and checked queries; asserts if it is mapped already. */
-	virtual void MapAction(const TSharedPtr<const FUICommandInfo> InUICommandInfo, FExecuteAction ExecuteAction, FCanExecuteAction CanExecuteAction,
-		FIsActionChecked IsCheckedDelegate, EUIActionRepeatMode RepeatMode = EUIActionRepeatMode::RepeatDisabled);
+	virtual void MapAction(const TSharedPtr<const FUICommandInfo> InUICommandInfo, FExecuteAction ExecuteAction,
+		FCanExecuteAction CanExecuteAction, FIsActionChecked IsCheckedDelegate,
+		EUIActionRepeatMode RepeatMode = EUIActionRepeatMode::RepeatDisabled);
 
 	/** Maps a command to a whole action; asserts if it is mapped already. */
 	virtual void MapAction(const TSharedPtr<const FUICommandInfo> InUICommandInfo, const FUIAction& InUIAction);

@@ -23,7 +23,10 @@ class SLATE_API FMultiBlock : public TSharedFromThis<FMultiBlock>
 {
 public:
 	/** Makes a block of a kind with the name that extenders know it by. */
-	FMultiBlock(const EMultiBlockType InType, const FName InExtensionHook) : Type(InType), ExtensionHook(InExtensionHook) {}
+	FMultiBlock(const EMultiBlockType InType, const FName InExtensionHook)
+		: Type(InType)
+		, ExtensionHook(InExtensionHook)
+	{}
 
 	virtual ~FMultiBlock() {}
 

@@ -67,24 +67,28 @@ public:
 		const FSlateIcon& InIconOverride = FSlateIcon(), FName InTutorialHighlightName = NAME_None);
 
 	/** Adds an entry with an action of its own. */
-	void AddMenuEntry(const TAttribute<FText>& InLabel, const TAttribute<FText>& InToolTip, const FSlateIcon& InIcon, const FUIAction& UIAction,
-		FName InExtensionHook = NAME_None, const EUserInterfaceActionType UserInterfaceActionType = EUserInterfaceActionType::Button,
+	void AddMenuEntry(const TAttribute<FText>& InLabel, const TAttribute<FText>& InToolTip, const FSlateIcon& InIcon,
+		const FUIAction& UIAction, FName InExtensionHook = NAME_None,
+		const EUserInterfaceActionType UserInterfaceActionType = EUserInterfaceActionType::Button,
 		FName InTutorialHighlightName = NAME_None);
 
 	/** Adds an entry that shows a widget in place of icon and label. */
 	void AddMenuEntry(const FUIAction& UIAction, const TSharedRef<SWidget> Contents, const FName& InExtensionHook = NAME_None,
 		const TAttribute<FText>& InToolTip = TAttribute<FText>(),
-		const EUserInterfaceActionType UserInterfaceActionType = EUserInterfaceActionType::Button, FName InTutorialHighlightName = NAME_None);
+		const EUserInterfaceActionType UserInterfaceActionType = EUserInterfaceActionType::Button,
+		FName InTutorialHighlightName = NAME_None);
 
 	/** Adds an entry that opens a submenu; the delegate fills it at each opening. */
 	void AddSubMenu(const TAttribute<FText>& InMenuLabel, const TAttribute<FText>& InToolTip, const FNewMenuDelegate& InSubMenu,
-		const bool bInOpenSubMenuOnClick = false, const FSlateIcon& InIcon = FSlateIcon(), const bool bInShouldCloseWindowAfterMenuSelection = true,
-		FName InExtensionHook = NAME_None, FName InTutorialHighlightName = NAME_None);
+		const bool bInOpenSubMenuOnClick = false, const FSlateIcon& InIcon = FSlateIcon(),
+		const bool bInShouldCloseWindowAfterMenuSelection = true, FName InExtensionHook = NAME_None,
+		FName InTutorialHighlightName = NAME_None);
 
 	/** Adds an entry that opens a submenu and, when clicked, runs an action. */
 	void AddSubMenu(const TAttribute<FText>& InMenuLabel, const TAttribute<FText>& InToolTip, const FNewMenuDelegate& InSubMenu,
 		const FUIAction& InUIAction, FName InExtensionHook, const EUserInterfaceActionType InUserInterfaceActionType,
-		const bool bInOpenSubMenuOnClick = false, const FSlateIcon& InIcon = FSlateIcon(), const bool bInShouldCloseWindowAfterMenuSelection = true);
+		const bool bInOpenSubMenuOnClick = false, const FSlateIcon& InIcon = FSlateIcon(),
+		const bool bInShouldCloseWindowAfterMenuSelection = true);
 
 	/** Adds an entry that shows a widget, opens a submenu and, when clicked, runs an action. */
 	void AddSubMenu(const FUIAction& UIAction, const TSharedRef<SWidget> Contents, const FNewMenuDelegate& InSubMenu,

@@ -47,5 +47,4 @@ public:
 
 	/** Whether extension hook names are shown in menus; has no effect here. */
 	static TAttribute<bool> DisplayMultiboxHooks;
-
 };

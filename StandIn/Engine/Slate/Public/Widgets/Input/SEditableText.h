@@ -58,6 +58,9 @@ public:
 	/** Sets what shows while the text is empty. */
 	void SetHintText(const TAttribute<FText>& InHintText) { HintText = InHintText; }
 
+	/** Returns what shows while the text is empty. */
+	FText GetHintText() const { return HintText.Get(); }
+
 	/** Selects all of the text. */
 	void SelectAllText();
 

@@ -1,0 +1,171 @@
+// Copyright The Tintmill authors. All rights reserved.
+
+#include "StandIn/AssetFiles.h"
+#include "ConfigFixture.h"
+#include "Misc/PackageName.h"
+#include "Support/LogCapture.h"
+#include "UObject/Package.h"
+
+#include <filesystem>
+
+namespace
+{
+typedef FConfigFixture AssetFiles;
+
+std::string Scan(const FString& Folder, StandIn::FAssetScanReport& Report)
+{
+	TArray<StandIn::FAssetFile> Files;
+	StandIn::ScanAssetFiles(Folder, true, Files, Report);
+	std::string Names;
+	for (const StandIn::FAssetFile& File : Files)
+	{
+		Names += ToStd(File.PackageName) + " ";
+	}
+	return Names;
+}
+}
+
+TEST_F(AssetFiles, LoadAnAssetFromItsFile)
+{
+	Folder.Write("Content/Looks/Teal.coretest", "");
+	const UCoreTestAsset* Asset = LoadObject<UCoreTestAsset>(nullptr, TEXT("/Game/Looks/Teal.Teal"));
+	ASSERT_NE(Asset, nullptr);
+	EXPECT_TRUE(Asset->LoadedFrom == Folder.Path("Content/Looks/Teal.coretest") && Asset->bPostLoaded
+		&& Asset->HasAllFlags(RF_Public | RF_Standalone | RF_WasLoaded) && Asset->GetPathName() == TEXT("/Game/Looks/Teal.Teal"));
+}
+
+TEST_F(AssetFiles, LoadAnAssetOnce)
+{
+	Folder.Write("Content/Teal.coretest", "");
+	EXPECT_EQ(LoadObject<UObject>(nullptr, TEXT("/Game/Teal.Teal")), LoadObject<UObject>(nullptr, TEXT("/game/TEAL.teal")));
+}
+
+TEST_F(AssetFiles, LoadByPackageNameAlone)
+{
+	Folder.Write("Content/Teal.coretest", "");
+	EXPECT_NE(LoadObject<UCoreTestAsset>(nullptr, TEXT("/Game/Teal")), nullptr);
+}
+
+TEST_F(AssetFiles, LoadFilesInAnySpellingOfCase)
+{
+	Folder.Write("Content/LOOKS/Teal.CoreTest", "");
+	const UObject* Asset = LoadObject<UObject>(nullptr, TEXT("/Game/looks/teal.teal"));
+	ASSERT_NE(Asset, nullptr);
+	EXPECT_EQ(ToStd(Asset->GetPathName()), "/Game/LOOKS/Teal.Teal");
+}
+
+TEST_F(AssetFiles, AnswerAMissingFileWithNullAndAWarning)
+{
+	FLogCapture Log;
+	EXPECT_EQ(LoadObject<UCoreTestAsset>(nullptr, TEXT("/Game/Gone.Gone")), nullptr);
+	EXPECT_EQ(Log.TextsOf("LogUObjectGlobals"),
+		(std::vector<std::string>{
+			"Failed to load '/Game/Gone': Can't find file.", "Failed to find object 'CoreTestAsset /Game/Gone.Gone'"}));
+}
+
+TEST_F(AssetFiles, AnswerAMissingMountPointWithNull)
+{
+	EXPECT_EQ(LoadObject<UCoreTestAsset>(nullptr, TEXT("/Elsewhere/Gone.Gone")), nullptr);
+}
+
+TEST_F(AssetFiles, AnswerAMountPointWithoutFolderWithNull)
+{
+	StandIn::RegisterMountPoint(TEXT("/Game/"), Folder.Path("NoSuchFolder"));
+	EXPECT_EQ(LoadObject<UCoreTestAsset>(nullptr, TEXT("/Game/A.A")), nullptr);
+}
+
+TEST_F(AssetFiles, AnswerAnUnknownClassWithNull)
+{
+	StandIn::FAssetFileType Type;
+	Type.Extension = TEXT(".mystery");
+	Type.ClassName = TEXT("NoSuchClass");
+	StandIn::RegisterAssetFileType(Type);
+	Folder.Write("Content/A.mystery", "");
+	const UObject* Asset = LoadObject<UObject>(nullptr, TEXT("/Game/A.A"));
+	StandIn::UnregisterAssetFileType(TEXT("mystery"));
+	EXPECT_EQ(Asset, nullptr);
+}
+
+TEST_F(AssetFiles, AnswerAWrongClassWithNull)
+{
+	Folder.Write("Content/Teal.coretest", "");
+	EXPECT_EQ(LoadObject<UCoreTestObject>(nullptr, TEXT("/Game/Teal.Teal")), nullptr);
+}
+
+TEST_F(AssetFiles, LeaveTheFolderByNoDots)
+{
+	Folder.Write("Outside.coretest", "");
+	EXPECT_EQ(LoadObject<UObject>(nullptr, TEXT("/Game/../Outside.Outside")), nullptr);
+}
+
+TEST_F(AssetFiles, ListAFolderTreeInOrder)
+{
+	Folder.Write("Content/B.coretest", "");
+	Folder.Write("Content/A.coretest", "");
+	Folder.Write("Content/Sub/C.CORETEST", "");
+	Folder.Write("Content/notes.txt", "");
+	StandIn::FAssetScanReport Report;
+	EXPECT_EQ(Scan(Folder.Path("Content"), Report), "/Game/A /Game/B /Game/Sub/C ");
+}
+
+TEST_F(AssetFiles, ReportFilesThatCannotBeAssets)
+{
+	Folder.Write("Content/Good.coretest", "");
+	Folder.Write("Content/Not good.coretest", "");
+	StandIn::FAssetScanReport Report;
+	Scan(Folder.Path("Content"), Report);
+	EXPECT_EQ(Report.SkippedFiles, TArray<FString>({Folder.Path("Content/Not good.coretest")}));
+}
+
+TEST_F(AssetFiles, ReportAMissingFolder)
+{
+	StandIn::FAssetScanReport Report;
+	Scan(Folder.Path("Content/NoSuchFolder"), Report);
+	EXPECT_EQ(Report.UnreadableFolders.Num(), 1);
+}
+
+TEST_F(AssetFiles, SurviveLoopsOfSymbolicLinks)
+{
+	Folder.Write("Content/Sub/A.coretest", "");
+	std::error_code Error;
+	std::filesystem::create_directory_symlink(Folder.NativePath("Content"), Folder.NativePath("Content/Sub/Loop"), Error);
+	if (Error)
+	{
+		GTEST_SKIP() << "no symbolic links here";
+	}
+	StandIn::FAssetScanReport Report;
+	EXPECT_EQ(Scan(Folder.Path("Content"), Report), "/Game/Sub/A ");
+}
+
+TEST_F(AssetFiles, StopAScanThatIsAskedTo)
+{
+	for (int32 Index = 0; Index < 2500; ++Index)
+	{
+		Folder.Write("Content/A" + std::to_string(Index) + ".coretest", "");
+	}
+	TArray<StandIn::FAssetFile> Files;
+	StandIn::FAssetScanReport Report;
+	StandIn::ScanAssetFiles(Folder.Path("Content"), true, Files, Report, [](int32 NumFiles) { return NumFiles < 1000; });
+	EXPECT_EQ(Files.Num(), 1000);
+}
+
+TEST(PackageName, TakesPathsApart)
+{
+	EXPECT_EQ(ToStd(FPackageName::ObjectPathToPackageName(TEXT("/Game/Dir/Pkg.Obj:Sub"))) + " "
+			+ ToStd(FPackageName::GetLongPackagePath(TEXT("/Game/Dir/Pkg"))) + " " + ToStd(FPackageName::GetShortName(TEXT("/Game/Dir/Pkg"))) + " "
+			+ ToStd(FPackageName::GetPackageMountPoint(TEXT("/Game/Dir"))),
+		"/Game/Dir/Pkg /Game/Dir Pkg Game");
+}
+
+TEST(PackageName, KnowsValidNames)
+{
+	EXPECT_TRUE(FPackageName::IsValidLongPackageName(TEXT("/Game/A")));
+}
+
+TEST(PackageName, KnowsInvalidNames)
+{
+	for (const TCHAR* Name : {TEXT(""), TEXT("A"), TEXT("/Game"), TEXT("/Game/"), TEXT("/Game//A"), TEXT("/Game/A B"), TEXT("/Game/A.B"), TEXT("Game/A")})
+	{
+		EXPECT_FALSE(FPackageName::IsValidLongPackageName(Name)) << ToStd(Name);
+	}
+}
