@@ -5,12 +5,14 @@ set(CMAKE_SYSTEM_PROCESSOR x86_64)
 set(MINGW_TRIPLET x86_64-w64-mingw32)
 
 find_program(MINGW_CXX ${MINGW_TRIPLET}-g++-posix)
+find_program(MINGW_CC ${MINGW_TRIPLET}-gcc-posix)
 find_program(MINGW_RC ${MINGW_TRIPLET}-windres)
-if(NOT MINGW_CXX OR NOT MINGW_RC)
+if(NOT MINGW_CXX OR NOT MINGW_CC OR NOT MINGW_RC)
     message(FATAL_ERROR "The compiler for Windows, ${MINGW_TRIPLET}-g++-posix, is not on this machine. "
         "Install the package g++-mingw-w64-x86-64-posix, or run ./test --windows, which installs what it needs.")
 endif()
 set(CMAKE_CXX_COMPILER ${MINGW_CXX})
+set(CMAKE_C_COMPILER ${MINGW_CC})
 set(CMAKE_RC_COMPILER ${MINGW_RC})
 
 # The compiler's run-time libraries go into every program and library, so that none has to be installed with them. All of them allocate

@@ -38,6 +38,22 @@ std::string MakeFileStem(const FName& ConfigKey)
 	return Stem;
 }
 
+/** The left half of one picture beside the right half of another of the same size, with a thin line between. */
+FPicture JoinHalves(const FPicture& Left, const FPicture& Right)
+{
+	FPicture Joined = Left;
+	const int32 Middle = Joined.Width / 2;
+	for (int32 Row = 0; Row < Joined.Height; ++Row)
+	{
+		for (int32 Column = Middle; Column < Joined.Width; ++Column)
+		{
+			const int32 Index = Row * Joined.Width + Column;
+			Joined.Pixels[Index] = Column == Middle ? FColor::White : Right.Pixels[Index];
+		}
+	}
+	return Joined;
+}
+
 /** Saves every pane's picture without and with its look, side by side on the page. */
 void SavePictures(FHostProgram& Program, std::ostream& Output)
 {
@@ -70,6 +86,15 @@ void AddPictureCommands(FConsole& Console, FHostProgram& Program)
 			const std::string Name = Words.size() > 1 ? Words[1] : MakeFileStem(Pane->GetConfigKey()) + ".png";
 			const std::filesystem::path File = Save(DrawPane(*Pane), Program.GetOutDir() / Name, Output);
 			Program.GetGallery().AddPicture(ToUtf8(Pane->GetConfigKey().ToString()) + ": " + DescribeRecord(GetPaneRecord(*Pane)), File);
+		});
+	Console.Add("compare PANE [FILE]", "save one picture of a pane, its left half without and its right half with the look",
+		[&Program](const FArguments& Words, std::ostream& Output) {
+			const TSharedRef<SLevelViewport> Pane = FindPane(Words[0]);
+			const std::string Name = Words.size() > 1 ? Words[1] : MakeFileStem(Pane->GetConfigKey()) + "-halves.png";
+			const FPicture Joined = JoinHalves(DrawPaneWithLook(*Pane, false), DrawPaneWithLook(*Pane, true));
+			Program.GetGallery().AddPicture(
+				ToUtf8(Pane->GetConfigKey().ToString()) + ": without and with " + DescribeRecord(GetPaneRecord(*Pane)),
+				Save(Joined, Program.GetOutDir() / Name, Output));
 		});
 	Console.Add("pictures", "save every pane's picture without and with its look",
 		[&Program](const FArguments&, std::ostream& Output) { SavePictures(Program, Output); });

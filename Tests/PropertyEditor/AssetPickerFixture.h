@@ -13,11 +13,8 @@
 #include "StandIn/AssetFiles.h"
 #include "StandIn/AssetPickerRows.h"
 #include "Support/MenuUser.h"
-#include <filesystem>
-#include <fstream>
+#include "Support/TestFolder.h"
 #include <string>
-
-namespace fs = std::filesystem;
 
 /** Type actions that give the assets a name. */
 class FPickerTestActions : public FAssetTypeActions_Base
@@ -36,14 +33,10 @@ class FAssetPickerTest : public ::testing::Test
 protected:
 	FAssetPickerTest()
 	{
-		const ::testing::TestInfo* Info = ::testing::UnitTest::GetInstance()->current_test_info();
-		Folder = fs::temp_directory_path() / (std::string("AssetPicker-") + Info->name());
-		fs::remove_all(Folder);
-		fs::create_directories(Folder);
 		Register("look", "AssetPickerTestAsset");
 		Register("child", "AssetPickerTestChild");
 		Register("other", "AssetPickerTestOther");
-		StandIn::RegisterMountPoint(TEXT("/Game/"), UTF8_TO_TCHAR((Folder.generic_string() + "/").c_str()));
+		StandIn::RegisterMountPoint(TEXT("/Game/"), Folder.Path() + TEXT("/"));
 		Classes.Add(UAssetPickerTestAsset::StaticClass());
 	}
 
@@ -57,7 +50,6 @@ protected:
 		{
 			StandIn::UnregisterAssetFileType(Extension);
 		}
-		fs::remove_all(Folder);
 	}
 
 	/** Makes a kind of asset known. */
@@ -70,7 +62,7 @@ protected:
 	}
 
 	/** Puts an asset on disk. */
-	void Write(const char* FileName) { std::ofstream(Folder / FileName) << "x"; }
+	void Write(const char* FileName) { Folder.Write(FileName, "x"); }
 
 	/** The data of an asset on disk. */
 	static FAssetData Find(const TCHAR* Path)
@@ -135,7 +127,7 @@ protected:
 		ADD_FAILURE() << "no such asset";
 	}
 
-	fs::path Folder;
+	FTestFolder Folder;
 	FObjectSystemScope ObjectSystem;
 	FMenuUser User;
 	TArray<const UClass*> Classes;

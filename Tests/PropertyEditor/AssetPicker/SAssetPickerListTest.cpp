@@ -31,7 +31,6 @@ TEST_F(FAssetPickerListTest, ListsNoAssetsOfOtherClasses)
 
 TEST_F(FAssetPickerListTest, ListsAssetsInFolders)
 {
-	fs::create_directories(Folder / "Looks");
 	Write("Looks/Amber.look");
 	Open();
 	EXPECT_TRUE(IsText(GetNames(), TEXT("Amber")));

@@ -149,9 +149,10 @@ TEST(FHittestGrid, LooksThroughWidgetsThatAreInvisibleToTheMouse)
 {
 	FHittestGrid Grid;
 	const TSharedRef<STestBox> Bottom = SNew(STestBox).Name("bottom");
-	PaintAlone(SNew(SOverlay) + SOverlay::Slot()[Bottom]
-			+ SOverlay::Slot()[SNew(STestBox).Name("glass").Visibility(EVisibility::HitTestInvisible)],
-		FVector2D(100, 100), Grid);
+	const TSharedRef<SOverlay> Overlay = SNew(SOverlay) + SOverlay::Slot()[Bottom]
+		+ SOverlay::Slot()[SNew(STestBox).Name("glass").Visibility(EVisibility::HitTestInvisible)];
+	PaintAlone(Overlay, FVector2D(100, 100), Grid);
+	ASSERT_NE(0, Grid.GetBubblePath(FVector2D(5, 5), false).Num());
 	EXPECT_TRUE(Grid.GetBubblePath(FVector2D(5, 5), false).Last().Widget == Bottom);
 }
 
@@ -161,6 +162,18 @@ TEST(FHittestGrid, LooksThroughChildrenOfWhatLetsNoneBeHit)
 	const TSharedRef<SVerticalBox> Glass =
 		SNew(SVerticalBox).Visibility(EVisibility::HitTestInvisible) + SVerticalBox::Slot()[SNew(STestBox).Name("child")];
 	PaintAlone(Glass, FVector2D(100, 100), Grid);
+	EXPECT_EQ(0, Grid.GetBubblePath(FVector2D(5, 5), false).Num());
+}
+
+TEST(FHittestGrid, DoesNotReachChildrenOfAParentThatIsGone)
+{
+	FHittestGrid Grid;
+	const TSharedRef<STestBox> Child = SNew(STestBox).Name("orphan");
+	{
+		const TSharedRef<SVerticalBox> Box = SNew(SVerticalBox) + SVerticalBox::Slot()[Child];
+		PaintAlone(Box, FVector2D(100, 100), Grid);
+		EXPECT_EQ(2, Grid.GetBubblePath(FVector2D(5, 5), false).Num());
+	}
 	EXPECT_EQ(0, Grid.GetBubblePath(FVector2D(5, 5), false).Num());
 }
 

@@ -99,12 +99,12 @@ TEST(SNew, TakesArgumentsAndSlotsInAnyOrder)
 
 TEST(SNew, LetsConstructShareTheWidget)
 {
-	EXPECT_TRUE(SNew(SArgumentTaker)->bCouldShareInConstruct);
+	EXPECT_TRUE((SNew(SArgumentTaker))->bCouldShareInConstruct);
 }
 
 TEST(SNew, ForwardsRequiredArgumentsEvenThoseThatCanOnlyMove)
 {
-	EXPECT_EQ(42, SNew(SOrderWatcher, 2, std::make_unique<int32>(40))->Sum);
+	EXPECT_EQ(42, (SNew(SOrderWatcher, 2, std::make_unique<int32>(40)))->Sum);
 }
 
 TEST(SAssignNew, AssignsBeforeConstructRuns)

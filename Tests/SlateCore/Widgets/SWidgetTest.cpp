@@ -85,7 +85,7 @@ TEST(SWidget, FollowsAPolledSizeAtTheNextPrepass)
 
 TEST(SWidget, TellsWhereItWasMade)
 {
-	EXPECT_EQ("SVerticalBox [SWidgetTest.cpp(" + std::to_string(__LINE__) + ")]", ToStd(SNew(SVerticalBox)->ToString()));
+	EXPECT_EQ("SVerticalBox [SWidgetTest.cpp(" + std::to_string(__LINE__) + ")]", ToStd((SNew(SVerticalBox))->ToString()));
 }
 
 TEST(SNullWidget, WishesForNothing)

@@ -14,8 +14,8 @@ bool ToText(const std::filesystem::path& Path, FString& OutText)
 {
 	try
 	{
-		const std::u16string Text = Path.generic_u16string();
-		OutText = FString(int32(Text.size()), reinterpret_cast<const TCHAR*>(Text.data()));
+		const std::basic_string<TCHAR> Text = Path.generic_string<TCHAR>();
+		OutText = FString(int32(Text.size()), Text.data());
 		return true;
 	}
 	catch (const std::system_error&)

@@ -71,11 +71,16 @@ UObject* LoadAsset(const FString& PackageName, uint32 LoadFlags)
 		return nullptr;
 	}
 	UPackage* Package = CreatePackage(*File.PackageName);
+	const FName AssetName(*FPackageName::GetShortName(File.PackageName));
+	if (UObject* Existing = FindInOuter(Package, AssetName))
+	{
+		return Existing;
+	}
 	Package->FileName = FName(*File.FileName);
 	Package->MarkAsFullyLoaded();
 	FStaticConstructObjectParameters Params(Class);
 	Params.Outer = Package;
-	Params.Name = FName(*FPackageName::GetShortName(File.PackageName));
+	Params.Name = AssetName;
 	Params.SetFlags = RF_Public | RF_Standalone | RF_WasLoaded;
 	UObject* Asset = StaticConstructObject_Internal(Params);
 	const FString Extension = FPaths::GetExtension(File.FileName);

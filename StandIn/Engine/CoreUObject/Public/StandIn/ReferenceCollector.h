@@ -25,7 +25,7 @@ public:
 	{
 		HandleObjectReference(*(UObject**)&Object, ReferencingObject, ReferencingProperty);
 	}
-	/** Reports a reference that stays even if the object is pending kill. */
+	/** Reports one reference. */
 	template <class UObjectType>
 	void AddReferencedObject(
 		const UObjectType*& Object, const UObject* ReferencingObject = nullptr, const FProperty* ReferencingProperty = nullptr)
