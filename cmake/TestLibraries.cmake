@@ -13,7 +13,7 @@ if(CMAKE_CROSSCOMPILING)
     target_compile_options(gtest PRIVATE -w)
     target_compile_options(gtest_main PRIVATE -w)
 else()
-    find_package(GTest REQUIRED)
+    find_package(GTest QUIET)
 endif()
 find_package(rapidcheck QUIET)
 

@@ -3,7 +3,7 @@
 # What the build and its programs need beyond a bare Debian 12.
 PACKAGES=(
     build-essential cmake ninja-build pkg-config ccache
-    libopencolorio-dev libcairo2-dev libpango1.0-dev libsdl2-dev libcli11-dev fonts-roboto-unhinted fonts-noto-core
+    libopencolorio-dev libcairo2-dev libpango1.0-dev libcli11-dev fonts-roboto-unhinted
 )
 
 # What the tests need on top.
@@ -36,17 +36,21 @@ install_packages()
     "${sudo[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null
 }
 
+# configure PRESET: lays out build/PRESET, or brings it up to date; the log only when something fails.
+configure()
+{
+    local log=build/$1/configure.log
+    mkdir -p "build/$1"
+    say "Configuring build/$1"
+    cmake --preset "$1" >"$log" 2>&1 || { cat "$log" >&2; exit 1; }
+}
+
 # build PRESET TARGET...: configures where needed and builds; progress on one line, the log only when something fails.
 build()
 {
-    local preset=$1 log
+    local preset=$1 log=build/$1/build.log
     shift
-    mkdir -p "build/$preset"
-    log="build/$preset/build.log"
-    if [ ! -f "build/$preset/build.ninja" ]; then
-        say "Configuring build/$preset"
-        cmake --preset "$preset" >"$log" 2>&1 || { cat "$log" >&2; exit 1; }
-    fi
+    [ -f "build/$preset/build.ninja" ] || configure "$preset"
     say "Building $* in build/$preset"
     if [ -t 2 ]; then
         ninja -C "build/$preset" "$@" >&2

@@ -40,6 +40,15 @@ TEST_F(AssetFiles, LoadAnAssetOnce)
 	EXPECT_EQ(LoadObject<UObject>(nullptr, TEXT("/Game/Teal.Teal")), LoadObject<UObject>(nullptr, TEXT("/game/TEAL.teal")));
 }
 
+TEST_F(AssetFiles, LeaveALoadedAssetAloneWhenAnotherNameInItsPackageIsAskedFor)
+{
+	Folder.Write("Content/Teal.coretest", "");
+	UCoreTestAsset* Asset = LoadObject<UCoreTestAsset>(nullptr, TEXT("/Game/Teal.Teal"));
+	ASSERT_NE(Asset, nullptr);
+	Asset->LoadedFrom = TEXT("changed");
+	EXPECT_TRUE(LoadObject<UObject>(nullptr, TEXT("/Game/Teal.Other")) == nullptr && Asset->LoadedFrom == TEXT("changed"));
+}
+
 TEST_F(AssetFiles, LoadByPackageNameAlone)
 {
 	Folder.Write("Content/Teal.coretest", "");

@@ -2,6 +2,7 @@
 
 #include "ConfigFixture.h"
 #include "HAL/FileManager.h"
+#include "StandIn/AtomicFile.h"
 #include "StandIn/ObjectSystem.h"
 #include "Support/LogCapture.h"
 #include "UObject/Package.h"
@@ -277,6 +278,30 @@ TEST_F(UObjectConfig, UsesACopyOfTheSameContentAgain)
 	Save(LoadSettings("Pairs=broken\n"));
 	Save(LoadSettings("Pairs=broken\n"));
 	EXPECT_FALSE(IFileManager::Get().FileExists(*Folder.Path(SavedFile() + ".kept-2")));
+}
+
+TEST_F(UObjectConfig, SavesNothingWhenTheCopyCannotBeMade)
+{
+	UCoreTestSettings* Settings = LoadSettings("Pairs=broken\n");
+	const std::string Before = Folder.Read(SavedFile());
+	StandIn::ClearNotices();
+	StandIn::SetAtomicFileHook([](StandIn::EAtomicFileStep, const TCHAR* FileName) { return !FString(FileName).Contains(TEXT(".kept-")); });
+	Save(Settings);
+	StandIn::SetAtomicFileHook(nullptr);
+	EXPECT_EQ(Folder.Read(SavedFile()), Before);
+	EXPECT_NE(Notices().find("were not saved, because the file has lines that could not be read and no copy of it could be made: injected failure"),
+		std::string::npos)
+		<< Notices();
+}
+
+TEST_F(UObjectConfig, SavesOnceTheCopyCanBeMadeAgain)
+{
+	UCoreTestSettings* Settings = LoadSettings("Pairs=broken\n");
+	StandIn::SetAtomicFileHook([](StandIn::EAtomicFileStep, const TCHAR* FileName) { return !FString(FileName).Contains(TEXT(".kept-")); });
+	Save(Settings);
+	StandIn::SetAtomicFileHook(nullptr);
+	Save(Settings);
+	EXPECT_TRUE(ReadSaved().find("Count=4") != std::string::npos && Folder.Read(SavedFile() + ".kept-1").find("broken") != std::string::npos);
 }
 
 TEST_F(UObjectConfig, ForgetsTheNoticesOfLinesThatAreReadAgainInGoodOrder)

@@ -126,3 +126,14 @@ TEST(ObjectSystemDeathTest, RefusesDefaultObjectsOfAModuleThatIsNotLoaded)
 		},
 		"The default object of class CoreTestAsset was asked for while its module is not loaded.");
 }
+
+TEST(ObjectSystemDeathTest, RefusesAClassWhoseParentsModuleIsNotLoaded)
+{
+	EXPECT_DEATH(
+		{
+			StandIn::DropModuleTypes(TEXT("UnrealEd"));
+			StandIn::DropModuleTypes(TEXT("Engine"));
+			ProcessNewlyLoadedUObjects(TEXT("UnrealEd"));
+		},
+		"of module UnrealEd derives from class [A-Za-z]+ of module Engine, which is not loaded. Load that module first.");
+}

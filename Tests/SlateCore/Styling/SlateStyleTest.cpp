@@ -224,7 +224,8 @@ TEST(FSlateIconFinder, FallsBackToTheDefaultNameThenToNothing)
 
 TEST(FCoreStyle, IsRegisteredUnderItsNameFromTheFirstUseOn)
 {
-	EXPECT_EQ(&FCoreStyle::Get(), FSlateStyleRegistry::FindSlateStyle(FName(TEXT("CoreStyle"))));
+	const ISlateStyle& Style = FCoreStyle::Get();
+	EXPECT_EQ(&Style, FSlateStyleRegistry::FindSlateStyle(FName(TEXT("CoreStyle"))));
 }
 
 TEST(FCoreStyle, HasTheThemesColours)

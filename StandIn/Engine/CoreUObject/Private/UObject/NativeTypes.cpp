@@ -9,7 +9,6 @@
 #include "UObject/UObjectHash.h"
 
 #include <algorithm>
-#include <cstdlib>
 #include <vector>
 
 namespace StandInPrivate
@@ -23,22 +22,9 @@ struct FNativeType
 	bool bAwake;
 };
 
-template <typename FunctionType>
-struct FQueuedType
-{
-	FunctionType Construct;
-	FString PackageName;
-	bool bDone;
-};
-
 struct FNativeTypes
 {
 	std::vector<FNativeType> Types;
-	std::vector<FFieldCompiledInInfo*> ClassInfos;
-	std::vector<FQueuedType<UClass* (*)()>> Classes;
-	std::vector<FQueuedType<UScriptStruct* (*)()>> Structs;
-	std::vector<FQueuedType<UEnum* (*)()>> Enums;
-	bool bExiting = false;
 };
 
 FNativeTypes& GetTypes()
@@ -256,123 +242,27 @@ void CheckParentsAreAwake(const UClass* Class)
 	}
 }
 
-TArray<UClass*> ConstructQueuedTypes()
+void DeleteNativeTypes(const FString& PackageName)
 {
-	FNativeTypes& Types = GetTypes();
-	// Each step may queue more; indices stay valid where iterators would not.
-	for (std::size_t Index = 0; Index < Types.ClassInfos.size(); ++Index)
+	std::vector<FNativeType>& Types = GetTypes().Types;
+	std::vector<UObject*> Gone;
+	for (const FNativeType& Entry : Types)
 	{
-		Types.ClassInfos[Index]->Register();
-	}
-	for (std::size_t Index = 0; Index < Types.Structs.size(); ++Index)
-	{
-		if (!Types.Structs[Index].bDone)
+		if (Entry.PackageName == PackageName)
 		{
-			Types.Structs[Index].bDone = true;
-			Types.Structs[Index].Construct();
+			Gone.push_back(Entry.Type);
 		}
 	}
-	for (std::size_t Index = 0; Index < Types.Enums.size(); ++Index)
+	const auto IsOfPackage = [&PackageName](const FNativeType& Entry) { return Entry.PackageName == PackageName; };
+	Types.erase(std::remove_if(Types.begin(), Types.end(), IsOfPackage), Types.end());
+	for (UObject* Type : Gone)
 	{
-		if (!Types.Enums[Index].bDone)
-		{
-			Types.Enums[Index].bDone = true;
-			Types.Enums[Index].Construct();
-		}
+		Delete(Type);
 	}
-	TArray<UClass*> Classes;
-	for (std::size_t Index = 0; Index < Types.Classes.size(); ++Index)
-	{
-		if (!Types.Classes[Index].bDone)
-		{
-			Types.Classes[Index].bDone = true;
-			Classes.Add(Types.Classes[Index].Construct());
-		}
-	}
-	return Classes;
-}
-
-void NoteProcessExit()
-{
-	// Handlers run last-added first, so this one runs before the destructors of every binary that is mapped by now.
-	std::atexit([]() { GetTypes().bExiting = true; });
 }
 }
 
 void UObjectBase::Register(const TCHAR* PackageName, const TCHAR* Name)
 {
 	StandInPrivate::AddNativeType((UObject*)this, PackageName, Name);
-}
-
-void UClassCompiledInDefer(FFieldCompiledInInfo* Class, const TCHAR* Name, SIZE_T ClassSize, uint32 Crc)
-{
-	(void)Name;
-	(void)ClassSize;
-	(void)Crc;
-	StandInPrivate::GetTypes().ClassInfos.push_back(Class);
-}
-
-void UClassCompiledInForget(FFieldCompiledInInfo* Class)
-{
-	std::vector<FFieldCompiledInInfo*>& Infos = StandInPrivate::GetTypes().ClassInfos;
-	Infos.erase(std::remove(Infos.begin(), Infos.end(), Class), Infos.end());
-}
-
-void UObjectCompiledInDefer(UClass* (*InRegister)(), UClass* (*InStaticClass)(), const TCHAR* Name, const TCHAR* PackageName,
-	bool bDynamic, const TCHAR* DynamicPathName, void (*InInitSearchableValues)(TMap<FName, FName>&))
-{
-	(void)InStaticClass;
-	(void)Name;
-	(void)DynamicPathName;
-	checkf(!bDynamic && InInitSearchableValues == nullptr, TEXT("not in this stand-in: dynamic types"));
-	StandInPrivate::GetTypes().Classes.push_back({InRegister, PackageName, false});
-}
-
-void UObjectCompiledInDeferStruct(
-	UScriptStruct* (*InRegister)(), const TCHAR* PackageName, const TCHAR* ObjectName, bool bDynamic, const TCHAR* DynamicPathName)
-{
-	(void)ObjectName;
-	(void)DynamicPathName;
-	checkf(!bDynamic, TEXT("not in this stand-in: dynamic types"));
-	StandInPrivate::GetTypes().Structs.push_back({InRegister, PackageName, false});
-}
-
-void UObjectCompiledInDeferEnum(
-	UEnum* (*InRegister)(), const TCHAR* PackageName, const TCHAR* ObjectName, bool bDynamic, const TCHAR* DynamicPathName)
-{
-	(void)ObjectName;
-	(void)DynamicPathName;
-	checkf(!bDynamic, TEXT("not in this stand-in: dynamic types"));
-	StandInPrivate::GetTypes().Enums.push_back({InRegister, PackageName, false});
-}
-
-void UObjectCompiledInForget(const TCHAR* PackageName)
-{
-	StandInPrivate::FNativeTypes& Types = StandInPrivate::GetTypes();
-	if (Types.bExiting)
-	{
-		return;
-	}
-	const FString Package(PackageName);
-	if (UObjectInitialized())
-	{
-		StandInPrivate::DropNativeTypes(Package);
-	}
-	const auto IsOfPackage = [&Package](const auto& Entry) { return Entry.PackageName == Package; };
-	Types.Classes.erase(std::remove_if(Types.Classes.begin(), Types.Classes.end(), IsOfPackage), Types.Classes.end());
-	Types.Structs.erase(std::remove_if(Types.Structs.begin(), Types.Structs.end(), IsOfPackage), Types.Structs.end());
-	Types.Enums.erase(std::remove_if(Types.Enums.begin(), Types.Enums.end(), IsOfPackage), Types.Enums.end());
-	std::vector<UObject*> Gone;
-	for (const StandInPrivate::FNativeType& Entry : Types.Types)
-	{
-		if (Entry.PackageName == Package)
-		{
-			Gone.push_back(Entry.Type);
-		}
-	}
-	Types.Types.erase(std::remove_if(Types.Types.begin(), Types.Types.end(), IsOfPackage), Types.Types.end());
-	for (UObject* Type : Gone)
-	{
-		StandInPrivate::Delete(Type);
-	}
 }

@@ -31,6 +31,9 @@ TArray<UObject*> WakeNativeTypes(const FString& PackageName);
 /** Destroys the objects of a package's classes and puts its types to sleep. */
 void DropNativeTypes(const FString& PackageName);
 
+/** Deletes the types of a package whose binary goes away; they must be asleep. */
+void DeleteNativeTypes(const FString& PackageName);
+
 /** Constructs all types that were queued and returns their classes. */
 TArray<UClass*> ConstructQueuedTypes();
 /** Fatal when a parent of a class sleeps. */
