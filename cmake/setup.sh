@@ -32,8 +32,15 @@ install_packages()
         sudo=(sudo)
     fi
     say "Installing ${#missing[@]} packages: ${missing[*]}"
-    "${sudo[@]}" env DEBIAN_FRONTEND=noninteractive apt-get update -qq >&2
-    "${sudo[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null
+    local log
+    log=$(mktemp)
+    if ! { "${sudo[@]}" env DEBIAN_FRONTEND=noninteractive apt-get update -qq &&
+        "${sudo[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends "${missing[@]}"; } >"$log" 2>&1; then
+        cat "$log" >&2
+        say "The packages could not be installed. Install them by hand: ${missing[*]}"
+        exit 2
+    fi
+    rm -f "$log"
 }
 
 # configure PRESET: lays out build/PRESET, or brings it up to date; the log only when something fails.

@@ -27,6 +27,12 @@ constexpr int MaxEscapes = 32;
 
 constexpr double MaxShotScale = 4.0;
 
+constexpr double MinWindowLength = 160.0;
+constexpr double MaxWindowLength = 8192.0;
+
+/** Time for the panes to take their new size and to be drawn in it. */
+constexpr double SettleSeconds = 3.0 / 60.0;
+
 /** The labels of a path "View > Tintmill". */
 std::vector<std::string> SplitPath(const std::string& Path)
 {
@@ -83,7 +89,7 @@ void OpenMenu(FPerson& Person, const std::string& Pane, const std::string& Menu)
 	Person.Click(Button.Center);
 	if (!FSlateApplication::Get().AnyMenusVisible())
 	{
-		throw FCommandError("The button '" + Button.Label + "' of pane " + Pane + " opens no menu here.");
+		throw FCommandError("The button '" + Button.Label + "' of pane " + Pane + " opens no menu here, or closed the one that was open.");
 	}
 }
 
@@ -177,6 +183,12 @@ void AddUiCommands(FConsole& Console, FHostProgram& Program)
 		}
 	});
 	Add("close-menus", "press Escape until no menu is open", [&Person](const FArguments&, std::ostream&) { CloseMenus(Person); });
+	Add("window WIDTH HEIGHT", "give the window another size in pixels", [&Program](const FArguments& Words, std::ostream&) {
+		const double Width = ParseNumber(Words[0], MinWindowLength, MaxWindowLength, "a width in pixels");
+		const double Height = ParseNumber(Words[1], MinWindowLength, MaxWindowLength, "a height in pixels");
+		Program.GetWindow().Resize(FIntPoint(static_cast<int32>(Width), static_cast<int32>(Height)));
+		Program.TickEditor(SettleSeconds);
+	});
 	Add("shot FILE [SCALE] [CAPTION...]", "save a picture of the window as a PNG in the folder of --out, at 1 to 4 pixels a pixel",
 		[&Program](const FArguments& Words, std::ostream& Output) { TakeShot(Program, Words, Output); });
 	Add("expect WHAT VALUE...", "end the run unless: visible|absent|checked|unchecked|enabled|disabled|focused|tooltip LABEL, active PANE, menus NUMBER, PANE.FIELD VALUE",

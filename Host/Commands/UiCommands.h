@@ -3,7 +3,7 @@
 #pragma once
 
 // Commands that use the window as a person does, by what is written on it: open, hover, click, click-box, click-pane, type, press,
-// close-menus, shot, expect.
+// close-menus, window, shot, expect.
 
 namespace TintmillHost
 {

@@ -24,7 +24,7 @@ namespace TintmillHost
 namespace
 {
 /** What a run without a window does when nothing else was asked for. */
-constexpr const char* DefaultCommands = "panes; pictures; notices";
+constexpr const char* DefaultCommands = "registered TintmillEditor; panes; pictures; notices";
 
 constexpr double FrameSeconds = 1.0 / 60.0;
 }

@@ -45,6 +45,12 @@ FEditorWindow::~FEditorWindow()
 	}
 }
 
+void FEditorWindow::Resize(const FIntPoint& NewSize)
+{
+	Size = NewSize;
+	Window->Resize(FVector2D(static_cast<float>(Size.X), static_cast<float>(Size.Y)));
+}
+
 FPicture FEditorWindow::TakePicture(double Scale)
 {
 	FSlateApplication& Application = FSlateApplication::Get();

@@ -31,6 +31,9 @@ public:
 	FEditorWindow(const FEditorWindow&) = delete;
 	FEditorWindow& operator=(const FEditorWindow&) = delete;
 
+	/** Gives the window another size in pixels; the panes follow at the next frames. */
+	void Resize(const FIntPoint& NewSize);
+
 	/** A picture of what Slate painted last, mouse included, with Scale pixels a pixel of the window. */
 	FPicture TakePicture(double Scale);
 

@@ -81,7 +81,10 @@ protected:
 	}
 
 	/** Saves without touching the default object, which other tests share. */
-	static void Save(UCoreTestSettings* Settings) { Settings->SaveConfig(CPF_Config, nullptr, GConfig, false); }
+	static void Save(UCoreTestSettings* Settings)
+	{
+		Settings->SaveConfig(CPF_Config, nullptr, GConfig, false);
+	}
 
 	FTestFolder Folder;
 };

@@ -34,8 +34,8 @@ struct TValueText
 	explicit TValueText(const std::string& Text)
 	{
 		const FString Buffer(UTF8_TO_TCHAR(Text.c_str()));
-		const TCHAR* End
-			= StructType::StaticStruct()->ImportText(*Buffer, &Value, nullptr, PPF_None, &Errors, StructType::StaticStruct()->GetName());
+		const TCHAR* End =
+			StructType::StaticStruct()->ImportText(*Buffer, &Value, nullptr, PPF_None, &Errors, StructType::StaticStruct()->GetName());
 		bRead = End != nullptr;
 		Rest = bRead ? ToStd(End) : "";
 	}

@@ -161,8 +161,8 @@ TEST_F(AssetFiles, StopAScanThatIsAskedTo)
 TEST(PackageName, TakesPathsApart)
 {
 	EXPECT_EQ(ToStd(FPackageName::ObjectPathToPackageName(TEXT("/Game/Dir/Pkg.Obj:Sub"))) + " "
-			+ ToStd(FPackageName::GetLongPackagePath(TEXT("/Game/Dir/Pkg"))) + " " + ToStd(FPackageName::GetShortName(TEXT("/Game/Dir/Pkg"))) + " "
-			+ ToStd(FPackageName::GetPackageMountPoint(TEXT("/Game/Dir"))),
+			+ ToStd(FPackageName::GetLongPackagePath(TEXT("/Game/Dir/Pkg"))) + " "
+			+ ToStd(FPackageName::GetShortName(TEXT("/Game/Dir/Pkg"))) + " " + ToStd(FPackageName::GetPackageMountPoint(TEXT("/Game/Dir"))),
 		"/Game/Dir/Pkg /Game/Dir Pkg Game");
 }
 
@@ -173,7 +173,8 @@ TEST(PackageName, KnowsValidNames)
 
 TEST(PackageName, KnowsInvalidNames)
 {
-	for (const TCHAR* Name : {TEXT(""), TEXT("A"), TEXT("/Game"), TEXT("/Game/"), TEXT("/Game//A"), TEXT("/Game/A B"), TEXT("/Game/A.B"), TEXT("Game/A")})
+	for (const TCHAR* Name :
+		{TEXT(""), TEXT("A"), TEXT("/Game"), TEXT("/Game/"), TEXT("/Game//A"), TEXT("/Game/A B"), TEXT("/Game/A.B"), TEXT("Game/A")})
 	{
 		EXPECT_FALSE(FPackageName::IsValidLongPackageName(Name)) << ToStd(Name);
 	}

@@ -47,9 +47,10 @@ TEST_F(UObjectConfig, SavesAnArrayAsOneBareKeyLineAnElementInOrder)
 	Settings->GetPairs()[1].Look.bEnable = true;
 	Settings->GetPairs()[1].Look.Intensity = 0.35f;
 	Save(Settings);
-	EXPECT_NE(ReadSaved().find("Pairs=(Identifier=\"FourPanes2x2.Viewport "
-							   "1.Viewport1\",Look=(bEnable=False,Intensity=1.000000,Asset=None))\nPairs=(Identifier=\"B\",Look=(bEnable=True,"
-							   "Intensity=0.350000,Asset=None))\n"),
+	EXPECT_NE(
+		ReadSaved().find("Pairs=(Identifier=\"FourPanes2x2.Viewport "
+						 "1.Viewport1\",Look=(bEnable=False,Intensity=1.000000,Asset=None))\nPairs=(Identifier=\"B\",Look=(bEnable=True,"
+						 "Intensity=0.350000,Asset=None))\n"),
 		std::string::npos);
 }
 
@@ -95,11 +96,11 @@ TEST_F(UObjectConfig, ReadsBackWhatItSaved)
 
 TEST_F(UObjectConfig, LoadsTheLinesOfAKeyInFileOrder)
 {
-	UCoreTestSettings* Settings
-		= LoadSettings("Pairs=(Identifier=\"B\")\nPairs=(Identifier=\"A\")\nPairs=(Identifier=\"B\",Look=(Intensity=2))\n");
+	UCoreTestSettings* Settings =
+		LoadSettings("Pairs=(Identifier=\"B\")\nPairs=(Identifier=\"A\")\nPairs=(Identifier=\"B\",Look=(Intensity=2))\n");
 	ASSERT_EQ(Settings->GetPairs().Num(), 3);
-	EXPECT_EQ(ToStd(Settings->GetPairs()[0].Identifier) + ToStd(Settings->GetPairs()[1].Identifier)
-			+ ToStd(Settings->GetPairs()[2].Identifier),
+	EXPECT_EQ(
+		ToStd(Settings->GetPairs()[0].Identifier) + ToStd(Settings->GetPairs()[1].Identifier) + ToStd(Settings->GetPairs()[2].Identifier),
 		"BAB");
 }
 
@@ -216,16 +217,17 @@ TEST_F(UObjectConfig, SaysInTheNoticeWhatIsWrongAndWhereTheCopyGoes)
 
 TEST_F(UObjectConfig, GivesNoNoticeForGoodLines)
 {
-	LoadSettings("Pairs=(Identifier=\"A\",Look=(Intensity=1.5f,),)\nPairs=( identifier = B , Look = ( bEnable = yes ) )\nCount= 5\nKind=three\n");
+	LoadSettings(
+		"Pairs=(Identifier=\"A\",Look=(Intensity=1.5f,),)\nPairs=( identifier = B , Look = ( bEnable = yes ) )\nCount= 5\nKind=three\n");
 	EXPECT_EQ(Notices(), "");
 }
 
 TEST_F(UObjectConfig, NoticesEveryKindOfLoss)
 {
-	for (const char* Line : {"Pairs=", "Pairs=(Identifier=A B)", "Pairs=(Unknown=1)", "Pairs=(Identifier=A,Identifier=B)", "Pairs=(Identifier)",
-			 "Pairs=(Identifier=\"A)", "Pairs=(Identifier=A) x", "Pairs=(Look=5)", "Count=9999999999", "Count=many", "Count=5 apples", "Share=nan",
-			 "bSwitch=perhaps", "Kind=Seven", "Pairs=(Look=(Asset=CoreTestAsset'\"/Game/Gone.Gone\"'))", "Pairs=(Look=(Asset=Mystery'/Game/A.A'))",
-			 "Pairs=(Look=(Asset=/Script/CoreUObject.Class))", "Count=5\nCount=6"})
+	for (const char* Line : {"Pairs=", "Pairs=(Identifier=A B)", "Pairs=(Unknown=1)", "Pairs=(Identifier=A,Identifier=B)",
+			 "Pairs=(Identifier)", "Pairs=(Identifier=\"A)", "Pairs=(Identifier=A) x", "Pairs=(Look=5)", "Count=9999999999", "Count=many",
+			 "Count=5 apples", "Share=nan", "bSwitch=perhaps", "Kind=Seven", "Pairs=(Look=(Asset=CoreTestAsset'\"/Game/Gone.Gone\"'))",
+			 "Pairs=(Look=(Asset=Mystery'/Game/A.A'))", "Pairs=(Look=(Asset=/Script/CoreUObject.Class))", "Count=5\nCount=6"})
 	{
 		StandIn::ClearNotices();
 		LoadSettings(std::string(Line) + "\n");
@@ -235,9 +237,11 @@ TEST_F(UObjectConfig, NoticesEveryKindOfLoss)
 
 TEST_F(UObjectConfig, ReadsAMissingAssetAsNullWithOneNotice)
 {
-	UCoreTestSettings* Settings = LoadSettings("Pairs=(Identifier=\"A\",Look=(bEnable=True,Asset=CoreTestAsset'\"/Game/Gone.Gone\"',Intensity=2))\n");
+	UCoreTestSettings* Settings =
+		LoadSettings("Pairs=(Identifier=\"A\",Look=(bEnable=True,Asset=CoreTestAsset'\"/Game/Gone.Gone\"',Intensity=2))\n");
 	ASSERT_EQ(Settings->GetPairs().Num(), 1);
-	EXPECT_TRUE(Settings->GetPairs()[0].Look.Asset == nullptr && Settings->GetPairs()[0].Look.Intensity == 2.0f && StandIn::GetNotices().Num() == 1)
+	EXPECT_TRUE(
+		Settings->GetPairs()[0].Look.Asset == nullptr && Settings->GetPairs()[0].Look.Intensity == 2.0f && StandIn::GetNotices().Num() == 1)
 		<< Notices();
 }
 
@@ -289,7 +293,8 @@ TEST_F(UObjectConfig, SavesNothingWhenTheCopyCannotBeMade)
 	Save(Settings);
 	StandIn::SetAtomicFileHook(nullptr);
 	EXPECT_EQ(Folder.Read(SavedFile()), Before);
-	EXPECT_NE(Notices().find("were not saved, because the file has lines that could not be read and no copy of it could be made: injected failure"),
+	EXPECT_NE(Notices().find(
+				  "were not saved, because the file has lines that could not be read and no copy of it could be made: injected failure"),
 		std::string::npos)
 		<< Notices();
 }
@@ -301,7 +306,8 @@ TEST_F(UObjectConfig, SavesOnceTheCopyCanBeMadeAgain)
 	Save(Settings);
 	StandIn::SetAtomicFileHook(nullptr);
 	Save(Settings);
-	EXPECT_TRUE(ReadSaved().find("Count=4") != std::string::npos && Folder.Read(SavedFile() + ".kept-1").find("broken") != std::string::npos);
+	EXPECT_TRUE(
+		ReadSaved().find("Count=4") != std::string::npos && Folder.Read(SavedFile() + ".kept-1").find("broken") != std::string::npos);
 }
 
 TEST_F(UObjectConfig, ForgetsTheNoticesOfLinesThatAreReadAgainInGoodOrder)
@@ -328,7 +334,8 @@ TEST_F(UObjectConfig, NamesADefaultIniWithoutPromisingACopy)
 	Folder.Write("Config/DefaultEditorPerProjectUserSettings.ini", "[/Script/CoreUObjectTestTypes.CoreTestSettings]\nCount=x\n");
 	FConfigCacheIni::InitializeConfigSystem();
 	LoadSettings();
-	EXPECT_TRUE(Notices().find("DefaultEditorPerProjectUserSettings.ini:2: ") != std::string::npos && Notices().find("copied") == std::string::npos)
+	EXPECT_TRUE(
+		Notices().find("DefaultEditorPerProjectUserSettings.ini:2: ") != std::string::npos && Notices().find("copied") == std::string::npos)
 		<< Notices();
 }
 

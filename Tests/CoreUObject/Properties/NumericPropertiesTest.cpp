@@ -100,7 +100,8 @@ TEST(EnumProperty, WritesTheShortNameOfAnEnumerator)
 
 TEST(EnumProperty, ReadsShortAndFullNamesInAnyCase)
 {
-	EXPECT_TRUE(FValuesText("(Kind=three)")->Kind == ECoreTestKind::Three && FValuesText("(Kind=ECoreTestKind::Two)")->Kind == ECoreTestKind::Two);
+	EXPECT_TRUE(
+		FValuesText("(Kind=three)")->Kind == ECoreTestKind::Three && FValuesText("(Kind=ECoreTestKind::Two)")->Kind == ECoreTestKind::Two);
 }
 
 TEST(EnumProperty, KeepsItsDefaultForAnUnknownName)

@@ -26,8 +26,8 @@ TEST_F(ObjectProperty, WritesNullAsNone)
 TEST_F(ObjectProperty, ReadsAllFormsAndLoadsTheAsset)
 {
 	Folder.Write("Content/Looks/Teal.coretest", "");
-	for (const char* Form : {"CoreTestAsset'\"/Game/Looks/Teal.Teal\"'", "CoreTestAsset'/Game/Looks/Teal.Teal'", "\"/Game/Looks/Teal.Teal\"",
-			 "/Game/Looks/Teal.Teal", "coretestasset'\"/game/looks/teal.TEAL\"'"})
+	for (const char* Form : {"CoreTestAsset'\"/Game/Looks/Teal.Teal\"'", "CoreTestAsset'/Game/Looks/Teal.Teal'",
+			 "\"/Game/Looks/Teal.Teal\"", "/Game/Looks/Teal.Teal", "coretestasset'\"/game/looks/teal.TEAL\"'"})
 	{
 		const FValuesText Read(std::string("(Object=") + Form + ",Int32=9)");
 		EXPECT_TRUE(Read->Object != nullptr && Read->Object->IsA<UCoreTestAsset>() && Read->Int32 == 9) << Form;

@@ -95,7 +95,8 @@ TEST(TextProperty, WritesPlainTextsQuotedInsideOfAStruct)
 TEST(TextProperty, ReadsALocalizableTextBack)
 {
 	const FValuesText Read("(Text=NSLOCTEXT(\"Ns\",\"Key\" , \"Hel\\\"lo\"),Int32=9)");
-	EXPECT_TRUE(Read->Int32 == 9 && FTextInspector::GetKey(Read->Text).GetValue() == TEXT("Key") && Read->Text.ToString() == TEXT("Hel\"lo"));
+	EXPECT_TRUE(
+		Read->Int32 == 9 && FTextInspector::GetKey(Read->Text).GetValue() == TEXT("Key") && Read->Text.ToString() == TEXT("Hel\"lo"));
 }
 
 TEST(TextProperty, KeepsItsDefaultForABrokenCall)

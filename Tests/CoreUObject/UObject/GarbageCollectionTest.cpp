@@ -176,9 +176,10 @@ TEST_F(GarbageCollection, TellsBeforeAndAfter)
 {
 	std::string Order;
 	const TWeakObjectPtr<UObject> Weak = Make();
-	const FDelegateHandle Pre
-		= FCoreUObjectDelegates::GetPreGarbageCollectDelegate().AddLambda([&]() { Order += Weak.IsValid() ? "pre " : "?"; });
-	const FDelegateHandle Post = FCoreUObjectDelegates::GetPostGarbageCollect().AddLambda([&]() { Order += Weak.IsValid() ? "?" : "post"; });
+	const FDelegateHandle Pre =
+		FCoreUObjectDelegates::GetPreGarbageCollectDelegate().AddLambda([&]() { Order += Weak.IsValid() ? "pre " : "?"; });
+	const FDelegateHandle Post =
+		FCoreUObjectDelegates::GetPostGarbageCollect().AddLambda([&]() { Order += Weak.IsValid() ? "?" : "post"; });
 	CollectGarbage(RF_NoFlags);
 	FCoreUObjectDelegates::GetPreGarbageCollectDelegate().Remove(Pre);
 	FCoreUObjectDelegates::GetPostGarbageCollect().Remove(Post);

@@ -36,7 +36,8 @@ TEST(NewObject, LivesInTheTransientPackageUnlessToldOtherwise)
 
 TEST(NewObject, SetsExactlyTheFlagsThatWereAskedFor)
 {
-	EXPECT_EQ(NewObject<UCoreTestObject>(GetTransientPackage(), NAME_None, RF_Public | RF_Standalone)->GetFlags(), RF_Public | RF_Standalone);
+	EXPECT_EQ(
+		NewObject<UCoreTestObject>(GetTransientPackage(), NAME_None, RF_Public | RF_Standalone)->GetFlags(), RF_Public | RF_Standalone);
 }
 
 TEST(NewObject, RunsTheConstructorAndPostInitProperties)
@@ -54,7 +55,8 @@ TEST(NewObject, MakesDefaultSubobjects)
 {
 	const UCoreTestChild* Object = NewObject<UCoreTestChild>();
 	ASSERT_NE(Object->Subobject, nullptr);
-	EXPECT_TRUE(Object->Subobject->GetOuter() == Object && Object->Subobject->GetName() == TEXT("Part") && Object->Subobject->IsDefaultSubobject());
+	EXPECT_TRUE(
+		Object->Subobject->GetOuter() == Object && Object->Subobject->GetName() == TEXT("Part") && Object->Subobject->IsDefaultSubobject());
 }
 
 TEST(NewObject, GivesEachObjectASubobjectOfItsOwn)
@@ -139,7 +141,8 @@ TEST(NewObjectDeathTest, RefusesANullOuter)
 
 TEST(NewObjectDeathTest, RefusesAnOuterOfAWrongClass)
 {
-	EXPECT_DEATH(NewObject<UCoreTestInside>(GetTransientPackage(), TEXT("In")), "Object CoreTestInside In created in Package instead of CoreTestObject");
+	EXPECT_DEATH(NewObject<UCoreTestInside>(GetTransientPackage(), TEXT("In")),
+		"Object CoreTestInside In created in Package instead of CoreTestObject");
 }
 
 TEST(NewObjectDeathTest, RefusesANamelessSubobjectInAConstructor)
@@ -196,7 +199,8 @@ TEST(ObjectPath, FindsChildClassesUnlessTheExactOneIsWanted)
 {
 	UPackage* Package = MakePackage(TEXT("/Test/Exact"));
 	NewObject<UCoreTestChild>(Package, TEXT("Top"));
-	EXPECT_TRUE(FindObject<UCoreTestObject>(Package, TEXT("Top")) != nullptr && FindObject<UCoreTestObject>(Package, TEXT("Top"), true) == nullptr);
+	EXPECT_TRUE(
+		FindObject<UCoreTestObject>(Package, TEXT("Top")) != nullptr && FindObject<UCoreTestObject>(Package, TEXT("Top"), true) == nullptr);
 }
 
 TEST(Rename, MovesAnObjectToAnotherNameAndOuter)

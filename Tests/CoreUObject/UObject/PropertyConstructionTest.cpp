@@ -109,7 +109,8 @@ TEST(ScriptStruct, ComparesPropertyByProperty)
 	FCoreTestInner A;
 	FCoreTestInner B;
 	B.Amount = 2.0f;
-	EXPECT_TRUE(FCoreTestInner::StaticStruct()->CompareScriptStruct(&A, &A, 0) && !FCoreTestInner::StaticStruct()->CompareScriptStruct(&A, &B, 0));
+	EXPECT_TRUE(
+		FCoreTestInner::StaticStruct()->CompareScriptStruct(&A, &A, 0) && !FCoreTestInner::StaticStruct()->CompareScriptStruct(&A, &B, 0));
 }
 
 TEST(ScriptStruct, HasTheSizeAndAlignmentOfCpp)

@@ -45,7 +45,8 @@ TEST(WeakObjectPtr, HidesAnObjectThatIsPendingKill)
 	UCoreTestObject* Object = NewObject<UCoreTestObject>();
 	const TWeakObjectPtr<UCoreTestObject> Weak = Object;
 	Object->MarkPendingKill();
-	EXPECT_TRUE(Weak.Get() == nullptr && Weak.Get(true) == Object && !Weak.IsValid() && Weak.IsValid(true) && Weak.IsStale() && !Weak.IsStale(false));
+	EXPECT_TRUE(Weak.Get() == nullptr && Weak.Get(true) == Object && !Weak.IsValid() && Weak.IsValid(true) && Weak.IsStale()
+		&& !Weak.IsStale(false));
 }
 
 TEST(WeakObjectPtr, EqualsAnotherInvalidOne)

@@ -238,8 +238,7 @@ void FAssetRegistryImpl::GetSubPaths(const FString& InBasePath, TArray<FString>&
 	for (const FName& PathName : Paths)
 	{
 		const FString Path = PathName.ToString();
-		if (!(Path == Base) && AssetPaths::IsAtOrBelow(Path, Base)
-			&& (bInRecurse || !Path.RightChop(Base.Len() + 1).Contains(TEXT("/"))))
+		if (!(Path == Base) && AssetPaths::IsAtOrBelow(Path, Base) && (bInRecurse || !Path.RightChop(Base.Len() + 1).Contains(TEXT("/"))))
 		{
 			OutPathList.Add(Path);
 		}

@@ -121,7 +121,8 @@ void FAssetRegistryImpl::ReportTrouble(const FString& Folder, const StandIn::FAs
 	if (Report.UnreadableFolders.Num() > 0)
 	{
 		StandIn::AddNotice(UnreadableKey,
-			FString::Printf(TEXT("%d folders with assets cannot be read, the first one is %s. Their assets are not listed. Check who may read them."),
+			FString::Printf(
+				TEXT("%d folders with assets cannot be read, the first one is %s. Their assets are not listed. Check who may read them."),
 				Report.UnreadableFolders.Num(), *Report.UnreadableFolders[0]));
 	}
 	if (Report.SkippedFiles.Num() > 0)

@@ -1,12 +1,12 @@
 // Copyright The Tintmill authors. All rights reserved.
 
 #include "SEditorViewportToolbarMenu.h"
-#include "Brushes/SlateColorBrush.h"
 #include "Framework/Application/IMenu.h"
 #include "Framework/Application/SlateApplication.h"
 #include "InputCoreTypes.h"
 #include "Layout/WidgetPath.h"
 #include "Styling/CoreStyle.h"
+#include "Styling/SlateTypes.h"
 #include "Widgets/Layout/SBorder.h"
 #include "Widgets/Text/STextBlock.h"
 
@@ -34,10 +34,7 @@ void SEditorViewportToolbarMenu::Construct(const FArguments& Declaration)
 			SNew(STextBlock)
 			.Visibility(EVisibility::HitTestInvisible)
 			.Text(Declaration._Label)
-			.Font(FCoreStyle::GetDefaultFontStyle(TEXT("Regular"), 9))
-			.ColorAndOpacity(FSlateColor(FLinearColor(0.72f, 0.72f, 0.72f)))
-			.ShadowOffset(FVector2D(1.0f, 1.0f))
-			.ShadowColorAndOpacity(FLinearColor(0.0f, 0.0f, 0.0f, 0.7f))
+			.TextStyle(&FCoreStyle::Get().GetWidgetStyle<FTextBlockStyle>("ViewportToolBar.Text"))
 		]
 	];
 	// clang-format on
@@ -45,10 +42,8 @@ void SEditorViewportToolbarMenu::Construct(const FArguments& Declaration)
 
 const FSlateBrush* SEditorViewportToolbarMenu::GetBackground() const
 {
-	static const FSlateColorBrush Idle(FLinearColor(0.02f, 0.02f, 0.02f, 0.55f));
-	static const FSlateColorBrush Hovered(FLinearColor(0.1f, 0.1f, 0.1f, 0.7f));
-	static const FSlateColorBrush Open(FLinearColor(0.701f, 0.225f, 0.003f));
-	return IsMenuOpen() ? &Open : (IsHovered() ? &Hovered : &Idle);
+	const FButtonStyle& Style = FCoreStyle::Get().GetWidgetStyle<FButtonStyle>("ViewportToolBar.Button");
+	return IsMenuOpen() ? &Style.Pressed : (IsHovered() ? &Style.Hovered : &Style.Normal);
 }
 
 bool SEditorViewportToolbarMenu::IsMenuOpen() const

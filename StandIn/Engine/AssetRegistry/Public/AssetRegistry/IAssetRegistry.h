@@ -31,8 +31,8 @@ public:
 	virtual bool GetAssetsByPackageName(
 		FName PackageName, TArray<FAssetData>& OutAssetData, bool bIncludeOnlyOnDiskAssets = false) const = 0;
 	/** Appends a folder's assets; false for None. */
-	virtual bool GetAssetsByPath(FName PackagePath, TArray<FAssetData>& OutAssetData, bool bRecursive = false,
-		bool bIncludeOnlyOnDiskAssets = false) const = 0;
+	virtual bool GetAssetsByPath(
+		FName PackagePath, TArray<FAssetData>& OutAssetData, bool bRecursive = false, bool bIncludeOnlyOnDiskAssets = false) const = 0;
 	/** Appends the assets of a class by its short name, and of its children if asked for. */
 	virtual bool GetAssetsByClass(FName ClassName, TArray<FAssetData>& OutAssetData, bool bSearchSubClasses = false) const = 0;
 	/** Appends the assets that a filter describes; false (and none) for an empty one. */

@@ -11,8 +11,7 @@ DEFINE_LOG_CATEGORY_STATIC(LogAssetData, Log, All);
 
 FAssetData::FAssetData()
 	: PackageFlags(0)
-{
-}
+{}
 
 FAssetData::FAssetData(FName InPackageName, FName InPackagePath, FName InAssetName, FName InAssetClass, FAssetDataTagMap InTags,
 	TArrayView<const int32> InChunkIDs, uint32 InPackageFlags)

@@ -94,7 +94,8 @@ public:
 		if (++NumBadLines <= MaxNoticesAKey)
 		{
 			const FString Place = Origin.Line > 0 ? Origin.ToString() : FString::Printf(TEXT("[%s] %s"), *Section, *Key);
-			StandIn::AddNotice(FString::Printf(TEXT("Config|%s|%s|%s|%d"), *FileName, *Section, *Key, Origin.Line > 0 ? Origin.Line : -Line),
+			StandIn::AddNotice(
+				FString::Printf(TEXT("Config|%s|%s|%s|%d"), *FileName, *Section, *Key, Origin.Line > 0 ? Origin.Line : -Line),
 				FString::Printf(TEXT("%s: %s.%s"), *Place, *What, bInSavedFile ? *DescribeCopy() : TEXT("")));
 		}
 	}
@@ -122,8 +123,8 @@ private:
 	{
 		if (CopySentence.Len() == 0)
 		{
-			CopySentence = FString::Printf(
-				TEXT(" The file will be copied to %s before these settings are saved again."), *GetKeptAsideName(FileName));
+			CopySentence =
+				FString::Printf(TEXT(" The file will be copied to %s before these settings are saved again."), *GetKeptAsideName(FileName));
 		}
 		return CopySentence;
 	}

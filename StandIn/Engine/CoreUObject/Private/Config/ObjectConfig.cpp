@@ -93,8 +93,8 @@ void UObject::LoadConfig(UClass* ConfigClass, const TCHAR* Filename, uint32 Prop
 		GetObjectsOfClass(Class, Objects, true, RF_NoFlags);
 		for (UObject* Object : Objects)
 		{
-			const uint32 Wanted = Object->HasAnyFlags(RF_ClassDefaultObject) ? UE4::LCPF_PropagateToChildDefaultObjects
-																			  : UE4::LCPF_PropagateToInstances;
+			const uint32 Wanted =
+				Object->HasAnyFlags(RF_ClassDefaultObject) ? UE4::LCPF_PropagateToChildDefaultObjects : UE4::LCPF_PropagateToInstances;
 			if (Object != this && (PropagationFlags & Wanted))
 			{
 				Object->LoadConfig(Class, Filename, UE4::LCPF_None, PropertyToLoad);

@@ -7,11 +7,11 @@
 
 IMPLEMENT_FIELD(FArrayProperty)
 
-FArrayProperty::FArrayProperty(FFieldVariant InOwner, const FName& InName, EObjectFlags InObjectFlags, int32 InOffset, EPropertyFlags InFlags)
+FArrayProperty::FArrayProperty(
+	FFieldVariant InOwner, const FName& InName, EObjectFlags InObjectFlags, int32 InOffset, EPropertyFlags InFlags)
 	: FProperty(InOwner, InName, InObjectFlags, StaticClass(), InOffset, InFlags, int32(sizeof(FScriptArray)))
 	, Inner(nullptr)
-{
-}
+{}
 
 FArrayProperty::~FArrayProperty()
 {
@@ -103,7 +103,8 @@ const TCHAR* FArrayProperty::ImportText_Internal(
 	if (*Text != TEXT('('))
 	{
 		StandInPrivate::ReportImportProblem(ErrorText,
-			FString::Printf(TEXT("%s=%s is not a list in parentheses and was left at its default"), *GetName(), *StandInPrivate::Excerpt(Text)));
+			FString::Printf(
+				TEXT("%s=%s is not a list in parentheses and was left at its default"), *GetName(), *StandInPrivate::Excerpt(Text)));
 		return nullptr;
 	}
 	Helper.EmptyValues();
@@ -165,8 +166,7 @@ FScriptArrayHelper::FScriptArrayHelper(const FArrayProperty* InProperty, const v
 	: InnerProperty(InProperty->Inner)
 	, Array((FScriptArray*)InArray)
 	, ElementSize(InProperty->Inner->ElementSize)
-{
-}
+{}
 
 int32 FScriptArrayHelper::Num() const
 {

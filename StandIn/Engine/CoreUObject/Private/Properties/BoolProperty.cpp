@@ -6,12 +6,11 @@
 
 IMPLEMENT_FIELD(FBoolProperty)
 
-FBoolProperty::FBoolProperty(FFieldVariant InOwner, const FName& InName, EObjectFlags InObjectFlags, int32 InOffset,
-	EPropertyFlags InFlags, uint8 InBitMask, uint32 InElementSize, bool bInIsNativeBool)
+FBoolProperty::FBoolProperty(FFieldVariant InOwner, const FName& InName, EObjectFlags InObjectFlags, int32 InOffset, EPropertyFlags InFlags,
+	uint8 InBitMask, uint32 InElementSize, bool bInIsNativeBool)
 	: FProperty(InOwner, InName, InObjectFlags, StaticClass(), InOffset, InFlags, bInIsNativeBool ? int32(InElementSize) : 1)
 	, FieldMask(InBitMask)
-{
-}
+{}
 
 void FBoolProperty::SetPropertyValue(void* A, bool Value) const
 {
@@ -37,8 +36,8 @@ bool FBoolProperty::Identical(const void* A, const void* B, uint32 PortFlags) co
 	return GetPropertyValue(A) == (B != nullptr && GetPropertyValue(B));
 }
 
-void FBoolProperty::ExportTextItem(FString& ValueStr, const void* PropertyValue, const void* DefaultValue, UObject* Parent,
-	int32 PortFlags, UObject* ExportRootScope) const
+void FBoolProperty::ExportTextItem(FString& ValueStr, const void* PropertyValue, const void* DefaultValue, UObject* Parent, int32 PortFlags,
+	UObject* ExportRootScope) const
 {
 	(void)DefaultValue;
 	(void)Parent;

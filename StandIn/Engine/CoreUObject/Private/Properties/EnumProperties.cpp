@@ -17,8 +17,7 @@ void ExportEnumerator(FString& ValueStr, const UEnum* Enum, int64 Value)
 }
 
 // Reads an enumerator's short or full name; null when there is none of the name.
-const TCHAR* ImportEnumerator(
-	const FProperty* Property, const UEnum* Enum, const TCHAR* Buffer, int64& OutValue, FOutputDevice* ErrorText)
+const TCHAR* ImportEnumerator(const FProperty* Property, const UEnum* Enum, const TCHAR* Buffer, int64& OutValue, FOutputDevice* ErrorText)
 {
 	const TCHAR* Rest = SkipBlanks(Buffer);
 	FString Token;
@@ -50,8 +49,8 @@ bool FByteProperty::SameType(const FProperty* Other) const
 	return Super::SameType(Other) && Enum == ((const FByteProperty*)Other)->Enum;
 }
 
-void FByteProperty::ExportTextItem(FString& ValueStr, const void* PropertyValue, const void* DefaultValue, UObject* Parent,
-	int32 PortFlags, UObject* ExportRootScope) const
+void FByteProperty::ExportTextItem(FString& ValueStr, const void* PropertyValue, const void* DefaultValue, UObject* Parent, int32 PortFlags,
+	UObject* ExportRootScope) const
 {
 	if (Enum != nullptr)
 	{
@@ -82,8 +81,7 @@ FEnumProperty::FEnumProperty(
 	: FProperty(InOwner, InName, InObjectFlags, StaticClass(), InOffset, InFlags, 0)
 	, UnderlyingProp(nullptr)
 	, Enum(InEnum)
-{
-}
+{}
 
 FEnumProperty::~FEnumProperty()
 {
@@ -126,8 +124,8 @@ bool FEnumProperty::Identical(const void* A, const void* B, uint32 PortFlags) co
 	return UnderlyingProp->Identical(A, B, PortFlags);
 }
 
-void FEnumProperty::ExportTextItem(FString& ValueStr, const void* PropertyValue, const void* DefaultValue, UObject* Parent,
-	int32 PortFlags, UObject* ExportRootScope) const
+void FEnumProperty::ExportTextItem(FString& ValueStr, const void* PropertyValue, const void* DefaultValue, UObject* Parent, int32 PortFlags,
+	UObject* ExportRootScope) const
 {
 	(void)DefaultValue;
 	(void)Parent;

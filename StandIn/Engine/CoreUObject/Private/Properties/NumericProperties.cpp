@@ -65,8 +65,8 @@ bool ReadWholeNumber(const TCHAR*& Text, bool& bOutNegative, uint64& OutMagnitud
 
 const TCHAR* RefuseNumber(const FProperty* Property, const TCHAR* Buffer, const TCHAR* Reason, FOutputDevice* ErrorText)
 {
-	ReportImportProblem(
-		ErrorText, FString::Printf(TEXT("%s=%s %s and was left at its default"), *Property->GetName(), *Excerpt(SkipBlanks(Buffer)), Reason));
+	ReportImportProblem(ErrorText,
+		FString::Printf(TEXT("%s=%s %s and was left at its default"), *Property->GetName(), *Excerpt(SkipBlanks(Buffer)), Reason));
 	return nullptr;
 }
 }
@@ -128,8 +128,7 @@ const TCHAR* FNumericProperty::ImportFloat(const TCHAR* Buffer, double Max, doub
 {
 	const TCHAR* Start = StandInPrivate::SkipBlanks(Buffer);
 	const TCHAR* Digits = *Start == TEXT('-') || *Start == TEXT('+') ? Start + 1 : Start;
-	const bool bIsNumber
-		= StandInPrivate::IsDigit(*Digits) || (*Digits == TEXT('.') && StandInPrivate::IsDigit(Digits[1]));
+	const bool bIsNumber = StandInPrivate::IsDigit(*Digits) || (*Digits == TEXT('.') && StandInPrivate::IsDigit(Digits[1]));
 	if (!bIsNumber)
 	{
 		return StandInPrivate::RefuseNumber(this, Buffer, TEXT("is not a number"), ErrorText);

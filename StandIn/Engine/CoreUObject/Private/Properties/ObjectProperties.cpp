@@ -77,8 +77,7 @@ FObjectPropertyBase::FObjectPropertyBase(FFieldVariant InOwner, const FName& InN
 	int32 InOffset, EPropertyFlags InFlags, UClass* InPropertyClass, int32 InElementSize)
 	: FProperty(InOwner, InName, InObjectFlags, InClass, InOffset, InFlags, InElementSize)
 	, PropertyClass(InPropertyClass)
-{
-}
+{}
 
 void FObjectPropertyBase::LinkInternal()
 {

@@ -14,8 +14,7 @@ FProperty::FProperty(FFieldVariant InOwner, const FName& InName, EObjectFlags In
 	, PropertyLinkNext(nullptr)
 	, NextRef(nullptr)
 	, Offset_Internal(InOffset)
-{
-}
+{}
 
 FText FProperty::GetDisplayNameText() const
 {
@@ -36,7 +35,8 @@ bool FProperty::SameType(const FProperty* Other) const
 
 bool FProperty::Identical_InContainer(const void* A, const void* B, int32 ArrayIndex, uint32 PortFlags) const
 {
-	return Identical(ContainerPtrToValuePtr<void>(A, ArrayIndex), B != nullptr ? ContainerPtrToValuePtr<void>(B, ArrayIndex) : nullptr, PortFlags);
+	return Identical(
+		ContainerPtrToValuePtr<void>(A, ArrayIndex), B != nullptr ? ContainerPtrToValuePtr<void>(B, ArrayIndex) : nullptr, PortFlags);
 }
 
 void FProperty::CopyCompleteValue(void* Dest, void const* Src) const
@@ -95,8 +95,8 @@ bool FProperty::ExportText_Direct(
 	return true;
 }
 
-bool FProperty::ExportText_InContainer(int32 Index, FString& ValueStr, const void* Container, const void* DeltaContainer,
-	UObject* Parent, int32 PortFlags, UObject* ExportRootScope) const
+bool FProperty::ExportText_InContainer(int32 Index, FString& ValueStr, const void* Container, const void* DeltaContainer, UObject* Parent,
+	int32 PortFlags, UObject* ExportRootScope) const
 {
 	return ExportText_Direct(ValueStr, ContainerPtrToValuePtr<void>(Container, Index),
 		DeltaContainer != nullptr ? ContainerPtrToValuePtr<void>(DeltaContainer, Index) : nullptr, Parent, PortFlags, ExportRootScope);
@@ -104,7 +104,8 @@ bool FProperty::ExportText_InContainer(int32 Index, FString& ValueStr, const voi
 
 const TCHAR* FProperty::ImportText(const TCHAR* Buffer, void* Data, int32 PortFlags, UObject* OwnerObject, FOutputDevice* ErrorText) const
 {
-	return Buffer != nullptr && ShouldPort(uint32(PortFlags)) ? ImportText_Internal(Buffer, Data, PortFlags, OwnerObject, ErrorText) : nullptr;
+	return Buffer != nullptr && ShouldPort(uint32(PortFlags)) ? ImportText_Internal(Buffer, Data, PortFlags, OwnerObject, ErrorText)
+															  : nullptr;
 }
 
 bool FProperty::ShouldPort(uint32 PortFlags) const

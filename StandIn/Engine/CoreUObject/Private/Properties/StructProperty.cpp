@@ -4,12 +4,11 @@
 
 IMPLEMENT_FIELD(FStructProperty)
 
-FStructProperty::FStructProperty(FFieldVariant InOwner, const FName& InName, EObjectFlags InObjectFlags, int32 InOffset,
-	EPropertyFlags InFlags, UScriptStruct* InStruct)
+FStructProperty::FStructProperty(
+	FFieldVariant InOwner, const FName& InName, EObjectFlags InObjectFlags, int32 InOffset, EPropertyFlags InFlags, UScriptStruct* InStruct)
 	: FProperty(InOwner, InName, InObjectFlags, StaticClass(), InOffset, InFlags, InStruct->GetStructureSize())
 	, Struct(InStruct)
-{
-}
+{}
 
 int32 FStructProperty::GetMinAlignment() const
 {

@@ -127,8 +127,8 @@ struct FStructReader
 					End = SkipField(Rest);
 					if (End != Rest)
 					{
-						ReportImportProblem(ErrorText,
-							FString::Printf(TEXT("\"%s\" behind a value of %s was ignored"), *Excerpt(Rest), *StructName));
+						ReportImportProblem(
+							ErrorText, FString::Printf(TEXT("\"%s\" behind a value of %s was ignored"), *Excerpt(Rest), *StructName));
 					}
 				}
 				Text = End;
@@ -183,8 +183,8 @@ void UScriptStruct::ExportText(FString& ValueStr, const void* Value, const void*
 	ValueStr += TEXT(')');
 }
 
-const TCHAR* UScriptStruct::ImportText(const TCHAR* Buffer, void* Value, UObject* OwnerObject, int32 PortFlags,
-	FOutputDevice* ErrorText, const FString& StructName, bool bAllowNativeOverride) const
+const TCHAR* UScriptStruct::ImportText(const TCHAR* Buffer, void* Value, UObject* OwnerObject, int32 PortFlags, FOutputDevice* ErrorText,
+	const FString& StructName, bool bAllowNativeOverride) const
 {
 	(void)bAllowNativeOverride;
 	StandInPrivate::FStructReader Reader{this, Value, OwnerObject, PortFlags, ErrorText, TArray<StandInPrivate::FMetField>()};

@@ -27,11 +27,13 @@ namespace
 {
 void ReportOpenQuote(const FProperty* Property, FOutputDevice* ErrorText)
 {
-	ReportImportProblem(ErrorText, FString::Printf(TEXT("the quote of %s is not closed and it was left at its default"), *Property->GetName()));
+	ReportImportProblem(
+		ErrorText, FString::Printf(TEXT("the quote of %s is not closed and it was left at its default"), *Property->GetName()));
 }
 
 // Reads a string: the whole text, or inside of a struct a quoted string or token. Null for a quote that stays open.
-const TCHAR* ImportString(const FProperty* Property, const TCHAR* Buffer, int32 PortFlags, FString& OutString, bool bEscapes, FOutputDevice* ErrorText)
+const TCHAR* ImportString(
+	const FProperty* Property, const TCHAR* Buffer, int32 PortFlags, FString& OutString, bool bEscapes, FOutputDevice* ErrorText)
 {
 	if ((PortFlags & PPF_Delimited) == 0)
 	{
@@ -80,8 +82,8 @@ bool FNameProperty::Identical(const void* A, const void* B, uint32 PortFlags) co
 	return GetPropertyValue(A) == (B != nullptr ? GetPropertyValue(B) : FName());
 }
 
-void FNameProperty::ExportTextItem(FString& ValueStr, const void* PropertyValue, const void* DefaultValue, UObject* Parent,
-	int32 PortFlags, UObject* ExportRootScope) const
+void FNameProperty::ExportTextItem(FString& ValueStr, const void* PropertyValue, const void* DefaultValue, UObject* Parent, int32 PortFlags,
+	UObject* ExportRootScope) const
 {
 	(void)DefaultValue;
 	(void)Parent;
@@ -120,8 +122,8 @@ bool FStrProperty::Identical(const void* A, const void* B, uint32 PortFlags) con
 	return B != nullptr ? GetPropertyValue(A).Equals(GetPropertyValue(B)) : GetPropertyValue(A).Len() == 0;
 }
 
-void FStrProperty::ExportTextItem(FString& ValueStr, const void* PropertyValue, const void* DefaultValue, UObject* Parent,
-	int32 PortFlags, UObject* ExportRootScope) const
+void FStrProperty::ExportTextItem(FString& ValueStr, const void* PropertyValue, const void* DefaultValue, UObject* Parent, int32 PortFlags,
+	UObject* ExportRootScope) const
 {
 	(void)DefaultValue;
 	(void)Parent;
@@ -161,8 +163,8 @@ bool FTextProperty::Identical(const void* A, const void* B, uint32 PortFlags) co
 		|| (!FTextInspector::GetKey(Left).IsSet() && !FTextInspector::GetKey(Right).IsSet() && Left.EqualTo(Right));
 }
 
-void FTextProperty::ExportTextItem(FString& ValueStr, const void* PropertyValue, const void* DefaultValue, UObject* Parent,
-	int32 PortFlags, UObject* ExportRootScope) const
+void FTextProperty::ExportTextItem(FString& ValueStr, const void* PropertyValue, const void* DefaultValue, UObject* Parent, int32 PortFlags,
+	UObject* ExportRootScope) const
 {
 	(void)DefaultValue;
 	(void)Parent;

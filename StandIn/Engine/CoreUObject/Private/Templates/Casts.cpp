@@ -9,6 +9,5 @@ void CastLogError(const TCHAR* FromType, const TCHAR* ToType)
 {
 	UE_LOG(LogCasts, Fatal, TEXT("Cast of %s to %s failed"), FromType, ToType);
 	for (;;)
-	{
-	}
+	{}
 }

@@ -28,8 +28,7 @@ UClass::UClass(EStaticConstructor, int32 InSize, int32 InAlignment, EClassFlags 
 	, ClassWithin(nullptr)
 	, ClassConfigName(InClassConfigName)
 	, ClassDefaultObject(nullptr)
-{
-}
+{}
 
 UClass::UClass(const FObjectInitializer& ObjectInitializer)
 	: UStruct(ObjectInitializer)
@@ -106,8 +105,8 @@ const FString UClass::GetConfigName() const
 			return KnownIni.FileName;
 		}
 	}
-	UE_CLOG(ClassConfigName.IsNone(), LogClass, Fatal, TEXT("UObject::GetConfigName() called on class with config name 'None'. Class flags = 0x%08X"),
-		uint32(ClassFlags));
+	UE_CLOG(ClassConfigName.IsNone(), LogClass, Fatal,
+		TEXT("UObject::GetConfigName() called on class with config name 'None'. Class flags = 0x%08X"), uint32(ClassFlags));
 	FString FileName;
 	FConfigCacheIni::LoadGlobalIniFile(FileName, *ClassConfigName.ToString());
 	return FileName;

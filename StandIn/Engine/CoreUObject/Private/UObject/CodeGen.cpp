@@ -74,8 +74,8 @@ void ConstructUScriptStruct(UScriptStruct*& OutStruct, const FStructParams& Para
 	{
 		return;
 	}
-	UScriptStruct* Struct
-		= (UScriptStruct*)StandInPrivate::MakeType(UScriptStruct::StaticClass(), Outer, Params.NameUTF8, Params.ObjectFlags);
+	UScriptStruct* Struct =
+		(UScriptStruct*)StandInPrivate::MakeType(UScriptStruct::StaticClass(), Outer, Params.NameUTF8, Params.ObjectFlags);
 	OutStruct = Struct;
 	Struct->PropertiesSize = int32(Params.SizeOf);
 	Struct->MinAlignment = int32(Params.AlignOf);
@@ -135,7 +135,8 @@ void ConstructUClass(UClass*& OutClass, const FClassParams& Params)
 	}
 	checkf(Params.NumFunctions == 0 && Params.NumImplementedInterfaces == 0, TEXT("not in this stand-in: functions and interfaces of %s"),
 		*Class->GetName());
-	checkf((Params.ClassFlags & CLASS_PerObjectConfig) == 0, TEXT("not in this stand-in: per-object configuration of %s"), *Class->GetName());
+	checkf(
+		(Params.ClassFlags & CLASS_PerObjectConfig) == 0, TEXT("not in this stand-in: per-object configuration of %s"), *Class->GetName());
 	Class->ClassFlags |= EClassFlags(Params.ClassFlags | CLASS_Constructed);
 	if (Class->GetSuperClass() != nullptr)
 	{

@@ -27,15 +27,13 @@ UEnum::UEnum(EStaticConstructor, EObjectFlags InFlags)
 	: UField(EC_StaticConstructor, InFlags)
 	, CppForm(ECppForm::Regular)
 	, EnumFlags(EEnumFlags::None)
-{
-}
+{}
 
 UEnum::UEnum(const FObjectInitializer& ObjectInitializer)
 	: UField(ObjectInitializer)
 	, CppForm(ECppForm::Regular)
 	, EnumFlags(EEnumFlags::None)
-{
-}
+{}
 
 bool UEnum::SetEnums(TArray<TPair<FName, int64>>& InNames, ECppForm InCppForm, EEnumFlags InFlags, bool bAddMaxKeyIfMissing)
 {

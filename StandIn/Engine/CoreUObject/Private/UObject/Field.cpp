@@ -7,8 +7,7 @@ FFieldClass::FFieldClass(const TCHAR* InName, uint64 InCastFlags, FFieldClass* I
 	: Name(InName)
 	, CastFlags(InCastFlags)
 	, SuperClass(InSuperClass)
-{
-}
+{}
 
 bool FFieldClass::IsChildOf(const FFieldClass* InClass) const
 {
@@ -35,8 +34,7 @@ FField::FField(FFieldVariant InOwner, const FName& InName, EObjectFlags InObject
 	, FlagsPrivate(InObjectFlags)
 	, ClassPrivate(InClass)
 	, MetaDataMap(nullptr)
-{
-}
+{}
 
 FField::~FField()
 {

@@ -14,8 +14,7 @@ void UMetaData::__DefaultConstructor(const FObjectInitializer& X)
 
 UMetaData::UMetaData(const FObjectInitializer& ObjectInitializer)
 	: UObject(ObjectInitializer)
-{
-}
+{}
 
 TMap<FName, FString>* UMetaData::GetMapForObject(const UObject* Object)
 {

@@ -237,8 +237,8 @@ void CheckParentsAreAwake(const UClass* Class)
 	for (const UClass* Super = Class->GetSuperClass(); Super != nullptr; Super = Super->GetSuperClass())
 	{
 		UE_CLOG(!IsAwake(Super), LogClass, Fatal,
-			TEXT("Class %s of module %s derives from class %s of module %s, which is not loaded. Load that module first."), *Class->GetName(),
-			*GetModuleOf(Class->GetOuter()->GetName()), *Super->GetName(), *GetModuleOf(Super->GetOuter()->GetName()));
+			TEXT("Class %s of module %s derives from class %s of module %s, which is not loaded. Load that module first."),
+			*Class->GetName(), *GetModuleOf(Class->GetOuter()->GetName()), *Super->GetName(), *GetModuleOf(Super->GetOuter()->GetName()));
 	}
 }
 

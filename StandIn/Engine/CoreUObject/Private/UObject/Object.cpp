@@ -18,13 +18,11 @@ UObject::UObject(const FObjectInitializer& ObjectInitializer)
 
 UObject::UObject(EStaticConstructor, EObjectFlags InFlags)
 	: UObjectBaseUtility(InFlags)
-{
-}
+{}
 
 UObject::UObject(FVTableHelper& Helper)
 	: UObjectBaseUtility(Helper)
-{
-}
+{}
 
 UObject* UObject::CreateDefaultSubobject(
 	FName SubobjectFName, UClass* ReturnType, UClass* ClassToCreateByDefault, bool bIsRequired, bool bIsTransient)
@@ -37,8 +35,8 @@ void UObject::PostInitProperties() {}
 
 void UObject::BeginDestroy()
 {
-	checkf(HasAnyFlags(RF_BeginDestroyed), TEXT("Trying to call UObject::BeginDestroy from outside of UObject::ConditionalBeginDestroy on object %s."),
-		*GetName());
+	checkf(HasAnyFlags(RF_BeginDestroyed),
+		TEXT("Trying to call UObject::BeginDestroy from outside of UObject::ConditionalBeginDestroy on object %s."), *GetName());
 }
 
 void UObject::FinishDestroy()

@@ -25,8 +25,8 @@ void CheckAllocation(const UClass* Class, UObject* Outer, FName Name, EObjectFla
 	}
 	if (!UObjectInitialized())
 	{
-		UE_LOG(LogUObjectGlobals, Fatal, TEXT("Unable to create new object: %s %s. The object system is not running."),
-			*Class->GetName(), *Name.ToString());
+		UE_LOG(LogUObjectGlobals, Fatal, TEXT("Unable to create new object: %s %s. The object system is not running."), *Class->GetName(),
+			*Name.ToString());
 	}
 	if (IsGarbageCollecting())
 	{

@@ -15,10 +15,7 @@ struct FOuterAndName
 	uint32 Index;
 	int32 Number;
 
-	bool operator==(const FOuterAndName& Other) const
-	{
-		return Outer == Other.Outer && Index == Other.Index && Number == Other.Number;
-	}
+	bool operator==(const FOuterAndName& Other) const { return Outer == Other.Outer && Index == Other.Index && Number == Other.Number; }
 };
 
 struct FOuterAndNameHash
@@ -50,6 +47,12 @@ FOuterAndName MakeKey(const UObjectBase* Outer, FName Name)
 	return FOuterAndName{Outer, Name.GetComparisonIndex().ToUnstableInt(), Name.GetNumber()};
 }
 
+// The object that its base class is just being constructed for.
+UObject* ToObject(UObjectBase* Object)
+{
+	return reinterpret_cast<UObject*>(Object);
+}
+
 uint64 MakeNameKey(FName Name)
 {
 	return (uint64(Name.GetComparisonIndex().ToUnstableInt()) << 32) | uint32(Name.GetNumber());
@@ -59,22 +62,22 @@ uint64 MakeNameKey(FName Name)
 void HashObject(UObjectBase* Object)
 {
 	FObjectHash& Hash = GetHash();
-	Hash.ByOuter[MakeKey(Object->GetOuter(), Object->GetFName())] = (UObject*)Object;
-	Hash.ByName.emplace(MakeNameKey(Object->GetFName()), (UObject*)Object);
+	Hash.ByOuter[MakeKey(Object->GetOuter(), Object->GetFName())] = ToObject(Object);
+	Hash.ByName.emplace(MakeNameKey(Object->GetFName()), ToObject(Object));
 }
 
 void UnhashObject(UObjectBase* Object)
 {
 	FObjectHash& Hash = GetHash();
 	const auto Found = Hash.ByOuter.find(MakeKey(Object->GetOuter(), Object->GetFName()));
-	if (Found != Hash.ByOuter.end() && Found->second == Object)
+	if (Found != Hash.ByOuter.end() && Found->second == ToObject(Object))
 	{
 		Hash.ByOuter.erase(Found);
 	}
 	const auto Range = Hash.ByName.equal_range(MakeNameKey(Object->GetFName()));
 	for (auto It = Range.first; It != Range.second; ++It)
 	{
-		if (It->second == Object)
+		if (It->second == ToObject(Object))
 		{
 			Hash.ByName.erase(It);
 			break;

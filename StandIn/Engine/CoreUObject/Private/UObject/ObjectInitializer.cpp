@@ -32,8 +32,8 @@ void CopyProperties(UObject* Object, UObject* Source, bool bCopyTransientsFromCl
 		{
 			continue;
 		}
-		const bool bFromDefaults = bCopyTransientsFromClassDefaults && Defaults != nullptr
-			&& It->HasAnyPropertyFlags(CPF_Transient | CPF_DuplicateTransient);
+		const bool bFromDefaults =
+			bCopyTransientsFromClassDefaults && Defaults != nullptr && It->HasAnyPropertyFlags(CPF_Transient | CPF_DuplicateTransient);
 		UObject* From = bFromDefaults ? Defaults : Source;
 		if (From->IsA((const UClass*)It.GetStruct()))
 		{
@@ -114,8 +114,8 @@ void FObjectInitializer::AssertIfInConstructor(UObject* Outer, const TCHAR* Erro
 	UE_CLOG(Top != nullptr && Top->Obj == Outer, LogUObjectGlobals, Fatal, TEXT("%s"), ErrorMessage);
 }
 
-UObject* FObjectInitializer::CreateDefaultSubobject(UObject* Outer, FName SubobjectFName, UClass* ReturnType,
-	UClass* ClassToCreateByDefault, bool bIsRequired, bool bIsTransient) const
+UObject* FObjectInitializer::CreateDefaultSubobject(
+	UObject* Outer, FName SubobjectFName, UClass* ReturnType, UClass* ClassToCreateByDefault, bool bIsRequired, bool bIsTransient) const
 {
 	(void)bIsRequired;
 	UE_CLOG(StandInPrivate::TopInitializer() != this, LogClass, Fatal,
@@ -152,8 +152,8 @@ void FObjectInitializer::PostConstructInit()
 		// A compiled-in class's constructor makes the default values; only what configuration changed is copied from the
 		// default object. Any other template is copied whole.
 		const bool bFromDefaultObject = ObjectArchetype == Class->GetDefaultObject(false);
-		StandInPrivate::CopyProperties(Obj, ObjectArchetype, bCopyTransientsFromClassDefaults,
-			bFromDefaultObject || !bShouldInitializePropsFromArchetype);
+		StandInPrivate::CopyProperties(
+			Obj, ObjectArchetype, bCopyTransientsFromClassDefaults, bFromDefaultObject || !bShouldInitializePropsFromArchetype);
 	}
 	if (bIsDefaultObject && Class->HasAnyClassFlags(CLASS_Config))
 	{

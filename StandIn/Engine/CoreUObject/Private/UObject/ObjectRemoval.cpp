@@ -19,8 +19,7 @@ class FNullingCollector : public FReferenceCollector
 public:
 	explicit FNullingCollector(const std::unordered_set<const UObject*>& InGone)
 		: Gone(InGone)
-	{
-	}
+	{}
 	virtual bool IsIgnoringArchetypeRef() const override { return false; }
 	virtual bool IsIgnoringTransient() const override { return false; }
 
@@ -123,9 +122,8 @@ void DestroyObjectsOfClasses(const TArray<UClass*>& Classes)
 void DestroyAllObjects()
 {
 	// Plain objects first, then the default objects they were made from, then what contains them.
-	DestroyObjects(FindObjects([](const UObject* Object) {
-		return !Object->IsNative() && !Object->IsTemplate() && Object->GetOuter() != nullptr;
-	}),
+	DestroyObjects(
+		FindObjects([](const UObject* Object) { return !Object->IsNative() && !Object->IsTemplate() && Object->GetOuter() != nullptr; }),
 		true);
 	DestroyObjects(FindObjects([](const UObject* Object) { return !Object->IsNative() && Object->GetOuter() != nullptr; }), true);
 	DestroyObjects(FindObjects([](const UObject* Object) { return !Object->IsNative(); }), true);

@@ -99,15 +99,15 @@ UObject* LoadAsset(const FString& PackageName, uint32 LoadFlags)
 }
 }
 
-UObject* StaticFindObjectFast(UClass* Class, UObject* InOuter, FName InName, bool ExactClass, bool AnyPackage,
-	EObjectFlags ExclusiveFlags, EInternalObjectFlags ExclusiveInternalFlags)
+UObject* StaticFindObjectFast(UClass* Class, UObject* InOuter, FName InName, bool ExactClass, bool AnyPackage, EObjectFlags ExclusiveFlags,
+	EInternalObjectFlags ExclusiveInternalFlags)
 {
 	if (InName.IsNone())
 	{
 		return nullptr;
 	}
 	UObject* Found = AnyPackage || InOuter == (UObject*)ANY_PACKAGE ? StandInPrivate::FindAnywhere(InName, Class, ExactClass)
-																   : StandInPrivate::FindInOuter(InOuter, InName);
+																	: StandInPrivate::FindInOuter(InOuter, InName);
 	return StandInPrivate::FitsClass(Found, Class, ExactClass) && !Found->HasAnyFlags(ExclusiveFlags)
 			&& !Found->HasAnyInternalFlags(ExclusiveInternalFlags | EInternalObjectFlags::Unreachable)
 		? Found
@@ -145,8 +145,8 @@ UObject* StaticFindObjectChecked(UClass* Class, UObject* InOuter, const TCHAR* N
 	return Result;
 }
 
-UObject* StaticLoadObject(UClass* Class, UObject* InOuter, const TCHAR* Name, const TCHAR* Filename, uint32 LoadFlags,
-	UPackageMap* Sandbox, bool bAllowObjectReconciliation)
+UObject* StaticLoadObject(UClass* Class, UObject* InOuter, const TCHAR* Name, const TCHAR* Filename, uint32 LoadFlags, UPackageMap* Sandbox,
+	bool bAllowObjectReconciliation)
 {
 	check(Class);
 	check(Name);
@@ -173,7 +173,8 @@ UObject* StaticLoadObject(UClass* Class, UObject* InOuter, const TCHAR* Name, co
 	return Result;
 }
 
-UClass* StaticLoadClass(UClass* BaseClass, UObject* InOuter, const TCHAR* Name, const TCHAR* Filename, uint32 LoadFlags, UPackageMap* Sandbox)
+UClass* StaticLoadClass(
+	UClass* BaseClass, UObject* InOuter, const TCHAR* Name, const TCHAR* Filename, uint32 LoadFlags, UPackageMap* Sandbox)
 {
 	check(BaseClass);
 	UClass* Class = (UClass*)StaticLoadObject(UClass::StaticClass(), InOuter, Name, Filename, LoadFlags, Sandbox);

@@ -19,8 +19,7 @@ UPackage::UPackage(const FObjectInitializer& ObjectInitializer)
 	, BodyCRC(0)
 	, DeclarationsCRC(0)
 	, MetaData(nullptr)
-{
-}
+{}
 
 UPackage::~UPackage() {}
 

@@ -24,7 +24,8 @@ FBoolProperty* MakeBool(FFieldVariant Owner, FName Name, const UE4CodeGen_Privat
 {
 	int32 Offset = 0;
 	uint8 Mask = 0xff;
-	const bool bNative = (Params.Flags & UE4CodeGen_Private::EPropertyGenFlags::NativeBool) == UE4CodeGen_Private::EPropertyGenFlags::NativeBool;
+	const bool bNative =
+		(Params.Flags & UE4CodeGen_Private::EPropertyGenFlags::NativeBool) == UE4CodeGen_Private::EPropertyGenFlags::NativeBool;
 	if (Params.SetBitFunc != nullptr && Params.SizeOfOuter > 0)
 	{
 		uint8* Memory = (uint8*)FMemory::Malloc(Params.SizeOfOuter);
@@ -128,8 +129,8 @@ FProperty* MakeProperty(FFieldVariant Owner, const UE4CodeGen_Private::FProperty
 	case EPropertyGenFlags::Object:
 	{
 		const FObjectPropertyParams& Params = *(const FObjectPropertyParams*)Base;
-		Made = Finish(
-			new FObjectProperty(Owner, Name, Params.ObjectFlags, Params.Offset, Params.PropertyFlags, Params.ClassFunc()), Params);
+		Made =
+			Finish(new FObjectProperty(Owner, Name, Params.ObjectFlags, Params.Offset, Params.PropertyFlags, Params.ClassFunc()), Params);
 		break;
 	}
 	case EPropertyGenFlags::WeakObject:

@@ -94,8 +94,8 @@ void UClassCompiledInForget(FFieldCompiledInInfo* Class)
 	Infos.erase(std::remove(Infos.begin(), Infos.end(), Class), Infos.end());
 }
 
-void UObjectCompiledInDefer(UClass* (*InRegister)(), UClass* (*InStaticClass)(), const TCHAR* Name, const TCHAR* PackageName,
-	bool bDynamic, const TCHAR* DynamicPathName, void (*InInitSearchableValues)(TMap<FName, FName>&))
+void UObjectCompiledInDefer(UClass* (*InRegister)(), UClass* (*InStaticClass)(), const TCHAR* Name, const TCHAR* PackageName, bool bDynamic,
+	const TCHAR* DynamicPathName, void (*InInitSearchableValues)(TMap<FName, FName>&))
 {
 	(void)InStaticClass;
 	(void)Name;

@@ -17,15 +17,13 @@ UScriptStruct::UScriptStruct(EStaticConstructor, int32 InSize, int32 InAlignment
 	: UStruct(EC_StaticConstructor, InSize, InAlignment, InFlags)
 	, StructFlags(STRUCT_NoFlags)
 	, CppStructOps(nullptr)
-{
-}
+{}
 
 UScriptStruct::UScriptStruct(const FObjectInitializer& ObjectInitializer)
 	: UStruct(ObjectInitializer)
 	, StructFlags(STRUCT_NoFlags)
 	, CppStructOps(nullptr)
-{
-}
+{}
 
 UScriptStruct::~UScriptStruct()
 {

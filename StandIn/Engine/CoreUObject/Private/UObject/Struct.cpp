@@ -15,13 +15,11 @@ void UField::__DefaultConstructor(const FObjectInitializer& X)
 
 UField::UField(EStaticConstructor, EObjectFlags InFlags)
 	: UObject(EC_StaticConstructor, InFlags)
-{
-}
+{}
 
 UField::UField(const FObjectInitializer& ObjectInitializer)
 	: UObject(ObjectInitializer)
-{
-}
+{}
 
 const FString* UField::FindMetaData(const FName& Key) const
 {
@@ -82,8 +80,7 @@ UStruct::UStruct(EStaticConstructor, int32 InSize, int32 InMinAlignment, EObject
 	, PropertiesSize(InSize)
 	, MinAlignment(InMinAlignment)
 	, SuperStruct(nullptr)
-{
-}
+{}
 
 UStruct::UStruct(const FObjectInitializer& ObjectInitializer)
 	: UField(ObjectInitializer)
@@ -93,8 +90,7 @@ UStruct::UStruct(const FObjectInitializer& ObjectInitializer)
 	, PropertiesSize(0)
 	, MinAlignment(1)
 	, SuperStruct(nullptr)
-{
-}
+{}
 
 UStruct::~UStruct()
 {

@@ -28,8 +28,7 @@ UObjectBase::UObjectBase(EObjectFlags InFlags)
 	, InternalIndex(-1)
 	, ClassPrivate(nullptr)
 	, OuterPrivate(nullptr)
-{
-}
+{}
 
 UObjectBase::UObjectBase(FVTableHelper& Helper)
 	: UObjectBase(RF_NoFlags)

@@ -104,8 +104,7 @@ void UObjectBaseUtility::GetPathName(const UObject* StopOuter, FString& ResultSt
 		Outer->GetPathName(StopOuter, ResultString);
 		// The first name inside of an object that lies directly in a package follows a colon.
 		const bool bOuterIsPackage = Outer->GetClass() == UPackage::StaticClass();
-		const bool bOuterIsTopLevel
-			= Outer->GetOuter() != nullptr && Outer->GetOuter()->GetClass() == UPackage::StaticClass();
+		const bool bOuterIsTopLevel = Outer->GetOuter() != nullptr && Outer->GetOuter()->GetClass() == UPackage::StaticClass();
 		ResultString += !bOuterIsPackage && bOuterIsTopLevel ? TEXT(":") : TEXT(".");
 	}
 	AppendName(ResultString);

@@ -39,8 +39,7 @@ UObject* StaticConstructObject_Internal(const FStaticConstructObjectParameters& 
 		TEXT("not in this stand-in: instancing graphs and external packages"));
 	UClass* Class = const_cast<UClass*>(Params.Class);
 	UE_CLOG(Class == nullptr, LogUObjectGlobals, Fatal, TEXT("Empty class for object %s"), *Params.Name.ToString());
-	checkf(Params.Template == nullptr || Params.Template->IsA(Class)
-			|| Class->IsChildOf(Params.Template->GetClass()),
+	checkf(Params.Template == nullptr || Params.Template->IsA(Class) || Class->IsChildOf(Params.Template->GetClass()),
 		TEXT("StaticConstructObject %s is not an instance of class %s and it is not a CDO."), *GetFullNameSafe(Params.Template),
 		*Class->GetName());
 	// The default object has to be there before memory is prepared: making it makes objects, too.
@@ -49,8 +48,8 @@ UObject* StaticConstructObject_Internal(const FStaticConstructObjectParameters& 
 	{
 		Template = Class->GetDefaultObject();
 	}
-	UObject* Result = StandInPrivate::AllocateObject(
-		Class, Params.Outer, Params.Name, Params.SetFlags | RF_NeedInitialization, Params.InternalSetFlags);
+	UObject* Result =
+		StandInPrivate::AllocateObject(Class, Params.Outer, Params.Name, Params.SetFlags | RF_NeedInitialization, Params.InternalSetFlags);
 	(*Class->ClassConstructor)(FObjectInitializer(Result, Template, Params.bCopyTransientsFromClassDefaults, true));
 	return Result;
 }

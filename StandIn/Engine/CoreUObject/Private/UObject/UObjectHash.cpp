@@ -9,7 +9,8 @@ namespace StandInPrivate
 namespace
 {
 template <typename PredicateType>
-void AppendObjects(TArray<UObject*>& Results, EObjectFlags ExclusionFlags, EInternalObjectFlags ExclusionInternalFlags, PredicateType Predicate)
+void AppendObjects(
+	TArray<UObject*>& Results, EObjectFlags ExclusionFlags, EInternalObjectFlags ExclusionInternalFlags, PredicateType Predicate)
 {
 	for (int32 Index = 0; Index < GUObjectArray.GetObjectArrayNum(); ++Index)
 	{
@@ -29,18 +30,16 @@ void GetObjectsWithOuter(const UObjectBase* Outer, TArray<UObject*>& Results, bo
 	EInternalObjectFlags ExclusionInternalFlags)
 {
 	check(Outer != nullptr);
-	StandInPrivate::AppendObjects(Results, ExclusionFlags, ExclusionInternalFlags, [=](const UObject* Object) {
-		return bIncludeNestedObjects ? Object->IsIn((const UObject*)Outer) : Object->GetOuter() == Outer;
-	});
+	StandInPrivate::AppendObjects(Results, ExclusionFlags, ExclusionInternalFlags,
+		[=](const UObject* Object) { return bIncludeNestedObjects ? Object->IsIn((const UObject*)Outer) : Object->GetOuter() == Outer; });
 }
 
 void GetObjectsOfClass(const UClass* ClassToLookFor, TArray<UObject*>& Results, bool bIncludeDerivedClasses, EObjectFlags ExcludeFlags,
 	EInternalObjectFlags ExclusionInternalFlags)
 {
 	check(ClassToLookFor != nullptr);
-	StandInPrivate::AppendObjects(Results, ExcludeFlags, ExclusionInternalFlags, [=](const UObject* Object) {
-		return bIncludeDerivedClasses ? Object->IsA(ClassToLookFor) : Object->GetClass() == ClassToLookFor;
-	});
+	StandInPrivate::AppendObjects(Results, ExcludeFlags, ExclusionInternalFlags,
+		[=](const UObject* Object) { return bIncludeDerivedClasses ? Object->IsA(ClassToLookFor) : Object->GetClass() == ClassToLookFor; });
 }
 
 void GetDerivedClasses(const UClass* ClassToLookFor, TArray<UClass*>& Results, bool bRecursive)

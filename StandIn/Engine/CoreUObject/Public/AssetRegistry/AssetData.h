@@ -78,7 +78,8 @@ struct COREUOBJECT_API FAssetData
 	template <typename ValueType>
 	ValueType GetTagValueRef(FName InTagName) const
 	{
-		static_assert(std::is_same<ValueType, FString>::value, "not in this stand-in: FAssetData::GetTagValueRef for other types than FString");
+		static_assert(
+			std::is_same<ValueType, FString>::value, "not in this stand-in: FAssetData::GetTagValueRef for other types than FString");
 		FString Value;
 		GetTagValue(InTagName, Value);
 		return Value;

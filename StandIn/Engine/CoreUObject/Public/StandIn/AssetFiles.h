@@ -78,6 +78,6 @@ struct FAssetScanReport
  * links to folders are followed once a folder; folders that cannot be read are reported and skipped. Progress (may be
  * unset) gets the number of files met so far and ends the scan by returning false.
  */
-COREUOBJECT_API void ScanAssetFiles(const FString& Directory, bool bRecursive, TArray<FAssetFile>& OutFiles,
-	FAssetScanReport& OutReport, const TFunction<bool(int32 NumFiles)>& Progress = TFunction<bool(int32)>());
+COREUOBJECT_API void ScanAssetFiles(const FString& Directory, bool bRecursive, TArray<FAssetFile>& OutFiles, FAssetScanReport& OutReport,
+	const TFunction<bool(int32 NumFiles)>& Progress = TFunction<bool(int32)>());
 }

@@ -35,8 +35,7 @@ struct TStructOpsTypeTraitsBase2
 /** A struct's traits; specialise to change them. */
 template <class CPPSTRUCT>
 struct TStructOpsTypeTraits : public TStructOpsTypeTraitsBase2<CPPSTRUCT>
-{
-};
+{};
 
 /** What a class params record knows of a C++ class. */
 struct FCppClassTypeInfoStatic

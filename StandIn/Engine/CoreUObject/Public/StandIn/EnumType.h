@@ -28,8 +28,8 @@ class COREUOBJECT_API UEnum : public UField
 	explicit UEnum(const FObjectInitializer& ObjectInitializer);
 
 	/** Replaces the enumerators (full names, `EFoo::Bar` for an enum class); a `_MAX` one is added if asked for and absent. */
-	bool SetEnums(TArray<TPair<FName, int64>>& InNames, ECppForm InCppForm, EEnumFlags InFlags = EEnumFlags::None,
-		bool bAddMaxKeyIfMissing = true);
+	bool SetEnums(
+		TArray<TPair<FName, int64>>& InNames, ECppForm InCppForm, EEnumFlags InFlags = EEnumFlags::None, bool bAddMaxKeyIfMissing = true);
 	/** Number of enumerators with the `_MAX` one. */
 	int32 NumEnums() const { return Names.Num(); }
 	/** Full name at an index, or None. */
@@ -74,4 +74,3 @@ private:
 	ECppForm CppForm;
 	EEnumFlags EnumFlags;
 };
-

@@ -16,8 +16,8 @@ class COREUOBJECT_API FObjectInitializer
 {
 public:
 	/** For an object whose memory has been prepared. */
-	FObjectInitializer(UObject* InObj, UObject* InObjectArchetype, bool bInCopyTransientsFromClassDefaults,
-		bool bInShouldInitializeProps, FObjectInstancingGraph* InInstanceGraph = nullptr);
+	FObjectInitializer(UObject* InObj, UObject* InObjectArchetype, bool bInCopyTransientsFromClassDefaults, bool bInShouldInitializeProps,
+		FObjectInstancingGraph* InInstanceGraph = nullptr);
 	/** Initialises the properties and calls PostInitProperties. */
 	~FObjectInitializer();
 	FObjectInitializer(const FObjectInitializer&) = delete;

@@ -118,8 +118,7 @@ class COREUOBJECT_API UScriptStruct : public UStruct
 		ICppStructOps(int32 InSize, int32 InAlignment)
 			: Size(InSize)
 			, Alignment(InAlignment)
-		{
-		}
+		{}
 		virtual ~ICppStructOps() {}
 		virtual bool HasZeroConstructor() = 0;
 		/** Constructs in zeroed memory. */
@@ -153,8 +152,7 @@ class COREUOBJECT_API UScriptStruct : public UStruct
 
 		TCppStructOps()
 			: ICppStructOps(int32(sizeof(CPPSTRUCT)), int32(alignof(CPPSTRUCT)))
-		{
-		}
+		{}
 		virtual bool HasZeroConstructor() override { return TTraits::WithZeroConstructor; }
 		virtual void Construct(void* Dest) override { StandInPrivate::ConstructStruct<CPPSTRUCT>(Dest); }
 		virtual bool HasDestructor() override { return !(TTraits::WithNoDestructor || std::is_trivially_destructible<CPPSTRUCT>::value); }
@@ -169,7 +167,10 @@ class COREUOBJECT_API UScriptStruct : public UStruct
 		virtual bool Identical(const void* A, const void* B, uint32 PortFlags, bool& bOutResult) override
 		{
 			return StandInPrivate::IdenticalStruct((const CPPSTRUCT*)A, (const CPPSTRUCT*)B, PortFlags, bOutResult,
-				std::integral_constant<int, TTraits::WithIdentical ? 1 : TTraits::WithIdenticalViaEquality ? 2 : 0>());
+				std::integral_constant < int,
+				TTraits::WithIdentical                  ? 1
+					: TTraits::WithIdenticalViaEquality ? 2
+														: 0 > ());
 		}
 		virtual bool HasAddStructReferencedObjects() override { return TTraits::WithAddStructReferencedObjects; }
 		virtual TPointerToAddStructReferencedObjects AddStructReferencedObjects() override

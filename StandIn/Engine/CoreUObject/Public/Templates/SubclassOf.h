@@ -15,17 +15,14 @@ class TSubclassOf
 public:
 	TSubclassOf()
 		: Class(nullptr)
-	{
-	}
+	{}
 	TSubclassOf(UClass* From)
 		: Class(From)
-	{
-	}
+	{}
 	template <class TClassA, typename = typename std::enable_if<std::is_convertible<TClassA*, TClass*>::value>::type>
 	TSubclassOf(const TSubclassOf<TClassA>& Other)
 		: Class(*Other)
-	{
-	}
+	{}
 	TSubclassOf& operator=(UClass* From)
 	{
 		Class = From;

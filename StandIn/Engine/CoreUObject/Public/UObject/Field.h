@@ -41,18 +41,15 @@ public:
 	FFieldVariant()
 		: Field(nullptr)
 		, Object(nullptr)
-	{
-	}
+	{}
 	FFieldVariant(FField* InField)
 		: Field(InField)
 		, Object(nullptr)
-	{
-	}
+	{}
 	FFieldVariant(UObject* InObject)
 		: Field(nullptr)
 		, Object(InObject)
-	{
-	}
+	{}
 	bool IsUObject() const { return Object != nullptr; }
 	bool IsValid() const { return Field != nullptr || Object != nullptr; }
 	FField* ToField() const { return Field; }
@@ -70,8 +67,14 @@ public: \
 	typedef TClass ThisClass; \
 	/** The kind. */ \
 	static FFieldClass* StaticClass(); \
-	static uint64 StaticClassCastFlagsPrivate() { return uint64(TStaticCastFlags); } \
-	static uint64 StaticClassCastFlags() { return uint64(TStaticCastFlags) | Super::StaticClassCastFlags(); }
+	static uint64 StaticClassCastFlagsPrivate() \
+	{ \
+		return uint64(TStaticCastFlags); \
+	} \
+	static uint64 StaticClassCastFlags() \
+	{ \
+		return uint64(TStaticCastFlags) | Super::StaticClassCastFlags(); \
+	}
 
 /** Defines what DECLARE_FIELD declares. */
 #define IMPLEMENT_FIELD(TClass) \

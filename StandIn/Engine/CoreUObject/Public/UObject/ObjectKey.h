@@ -13,8 +13,7 @@ struct FObjectKey
 	FObjectKey() {}
 	FObjectKey(const UObject* Object)
 		: WeakPtr(Object)
-	{
-	}
+	{}
 	bool operator==(const FObjectKey& Other) const { return WeakPtr.HasSameIndexAndSerialNumber(Other.WeakPtr); }
 	bool operator!=(const FObjectKey& Other) const { return !(*this == Other); }
 	UObject* ResolveObjectPtr() const { return WeakPtr.Get(); }

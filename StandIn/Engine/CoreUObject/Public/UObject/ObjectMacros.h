@@ -86,11 +86,20 @@ public: \
 	typedef TSuperClass Super; \
 	typedef TClass ThisClass; \
 	/** The class object. */ \
-	inline static UClass* StaticClass() { return GetPrivateStaticClass(); } \
+	inline static UClass* StaticClass() \
+	{ \
+		return GetPrivateStaticClass(); \
+	} \
 	/** Name of the package that the class lives in. */ \
-	inline static const TCHAR* StaticPackage() { return TPackage; } \
+	inline static const TCHAR* StaticPackage() \
+	{ \
+		return TPackage; \
+	} \
 	/** Cast bits of the class. */ \
-	inline static EClassCastFlags StaticClassCastFlags() { return TStaticCastFlags; } \
+	inline static EClassCastFlags StaticClassCastFlags() \
+	{ \
+		return TStaticCastFlags; \
+	} \
 	/** Constructs in the memory of an object that is being made. */ \
 	inline void* operator new(const size_t InSize, EInternal* InMem) \
 	{ \
@@ -103,15 +112,25 @@ public: \
 
 #define DECLARE_WITHIN(TWithinClass) \
 	typedef class TWithinClass WithinClass; \
-	TWithinClass* GetOuter##TWithinClass() const { return (TWithinClass*)GetOuter(); }
+	TWithinClass* GetOuter##TWithinClass() const \
+	{ \
+		return (TWithinClass*)GetOuter(); \
+	}
 
 #define DEFINE_DEFAULT_CONSTRUCTOR_CALL(TClass) \
-	static void __DefaultConstructor(const FObjectInitializer& X) { new ((EInternal*)X.GetObj()) TClass; }
+	static void __DefaultConstructor(const FObjectInitializer& X) \
+	{ \
+		new ((EInternal*)X.GetObj()) TClass; \
+	}
 #define DEFINE_DEFAULT_OBJECT_INITIALIZER_CONSTRUCTOR_CALL(TClass) \
-	static void __DefaultConstructor(const FObjectInitializer& X) { new ((EInternal*)X.GetObj()) TClass(X); }
+	static void __DefaultConstructor(const FObjectInitializer& X) \
+	{ \
+		new ((EInternal*)X.GetObj()) TClass(X); \
+	}
 #define DEFINE_FORBIDDEN_DEFAULT_CONSTRUCTOR_CALL(TClass) \
-	static_assert(sizeof(TClass) == 0, "You have to define " #TClass "::" #TClass "() or " #TClass "::" #TClass \
-								   "(const FObjectInitializer&). This is required by UObject system to work correctly.");
+	static_assert(sizeof(TClass) == 0, \
+		"You have to define " #TClass "::" #TClass "() or " #TClass "::" #TClass \
+		"(const FObjectInitializer&). This is required by UObject system to work correctly.");
 #define DEFINE_ABSTRACT_DEFAULT_CONSTRUCTOR_CALL(TClass) DEFINE_DEFAULT_CONSTRUCTOR_CALL(TClass)
 #define DEFINE_ABSTRACT_DEFAULT_OBJECT_INITIALIZER_CONSTRUCTOR_CALL(TClass) DEFINE_DEFAULT_OBJECT_INITIALIZER_CONSTRUCTOR_CALL(TClass)
 
@@ -119,8 +138,7 @@ public: \
 #define DEFINE_VTABLE_PTR_HELPER_CTOR(TClass) \
 	TClass::TClass(FVTableHelper& Helper) \
 		: Super(Helper) \
-	{ \
-	}
+	{}
 #define DEFINE_VTABLE_PTR_HELPER_CTOR_CALLER_DUMMY() \
 	static UObject* __VTableCtorCaller(FVTableHelper& Helper) \
 	{ \
@@ -137,9 +155,9 @@ public: \
 		static UClass* PrivateStaticClass = nullptr; \
 		if (!PrivateStaticClass) \
 		{ \
-			GetPrivateStaticClassBody(StaticPackage(), &TEXT(#TClass)[1], PrivateStaticClass, StaticRegisterNatives##TClass, sizeof(TClass), \
-				alignof(TClass), (EClassFlags)TClass::StaticClassFlags, TClass::StaticClassCastFlags(), TClass::StaticConfigName(), \
-				(UClass::ClassConstructorType)InternalConstructor<TClass>, \
+			GetPrivateStaticClassBody(StaticPackage(), &TEXT(#TClass)[1], PrivateStaticClass, StaticRegisterNatives##TClass, \
+				sizeof(TClass), alignof(TClass), (EClassFlags)TClass::StaticClassFlags, TClass::StaticClassCastFlags(), \
+				TClass::StaticConfigName(), (UClass::ClassConstructorType)InternalConstructor<TClass>, \
 				(UClass::ClassVTableHelperCtorCallerType)InternalVTableHelperCtorCaller<TClass>, &TClass::AddReferencedObjects, \
 				&TClass::Super::StaticClass, &TClass::WithinClass::StaticClass); \
 		} \

@@ -14,17 +14,14 @@ class TStrongObjectPtr : private FGCObject
 public:
 	TStrongObjectPtr(TYPE_OF_NULLPTR = nullptr)
 		: Object(nullptr)
-	{
-	}
+	{}
 	explicit TStrongObjectPtr(ObjectType* InObject)
 		: Object(InObject)
-	{
-	}
+	{}
 	TStrongObjectPtr(const TStrongObjectPtr& Other)
 		: FGCObject()
 		, Object(Other.Object)
-	{
-	}
+	{}
 	TStrongObjectPtr& operator=(const TStrongObjectPtr& Other)
 	{
 		Object = Other.Object;

@@ -63,8 +63,7 @@ struct COREUOBJECT_API FFieldCompiledInInfo
 	FFieldCompiledInInfo(SIZE_T InClassSize, uint32 InCrc)
 		: Size(InClassSize)
 		, Crc(InCrc)
-	{
-	}
+	{}
 	virtual ~FFieldCompiledInInfo() {}
 	/** Makes the class object. */
 	virtual UClass* Register() const = 0;

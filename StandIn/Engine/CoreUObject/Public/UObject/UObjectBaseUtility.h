@@ -15,12 +15,10 @@ protected:
 	UObjectBaseUtility() {}
 	explicit UObjectBaseUtility(EObjectFlags InFlags)
 		: UObjectBase(InFlags)
-	{
-	}
+	{}
 	explicit UObjectBaseUtility(FVTableHelper& Helper)
 		: UObjectBase(Helper)
-	{
-	}
+	{}
 
 public:
 	/** Sets flags; RF_MarkAsNative and RF_MarkAsRootSet are not allowed here. */

@@ -47,7 +47,8 @@ COREUOBJECT_API FName MakeUniqueObjectName(UObject* Outer, const UClass* Class, 
 COREUOBJECT_API UObject* StaticFindObject(UClass* Class, UObject* InOuter, const TCHAR* Name, bool ExactClass = false);
 /** Finds an object by name in an outer; null when there is none. */
 COREUOBJECT_API UObject* StaticFindObjectFast(UClass* Class, UObject* InOuter, FName InName, bool ExactClass = false,
-	bool AnyPackage = false, EObjectFlags ExclusiveFlags = RF_NoFlags, EInternalObjectFlags ExclusiveInternalFlags = EInternalObjectFlags::None);
+	bool AnyPackage = false, EObjectFlags ExclusiveFlags = RF_NoFlags,
+	EInternalObjectFlags ExclusiveInternalFlags = EInternalObjectFlags::None);
 /** Finds an object, fatal when there is none. */
 COREUOBJECT_API UObject* StaticFindObjectChecked(UClass* Class, UObject* InOuter, const TCHAR* Name, bool ExactClass = false);
 /** Finds or loads the object of a path; null, with warnings in the log, when that fails. */
@@ -62,8 +63,7 @@ struct COREUOBJECT_API FStaticConstructObjectParameters
 {
 	explicit FStaticConstructObjectParameters(const UClass* InClass)
 		: Class(InClass)
-	{
-	}
+	{}
 
 	const UClass* Class;
 	UObject* Outer = (UObject*)GetTransientPackage();
@@ -144,21 +144,22 @@ inline T* FindObjectChecked(UObject* Outer, const TCHAR* Name, bool ExactClass =
 }
 /** Finds an object of class T by its name in an outer, or null. */
 template <class T>
-inline T* FindObjectFast(UObject* Outer, FName Name, bool ExactClass = false, bool AnyPackage = false, EObjectFlags ExclusiveFlags = RF_NoFlags)
+inline T* FindObjectFast(
+	UObject* Outer, FName Name, bool ExactClass = false, bool AnyPackage = false, EObjectFlags ExclusiveFlags = RF_NoFlags)
 {
 	return (T*)StaticFindObjectFast(T::StaticClass(), Outer, Name, ExactClass, AnyPackage, ExclusiveFlags);
 }
 /** Finds or loads an object of class T; null, with warnings in the log, when that fails. */
 template <class T>
-inline T* LoadObject(UObject* Outer, const TCHAR* Name, const TCHAR* Filename = nullptr, uint32 LoadFlags = LOAD_None,
-	UPackageMap* Sandbox = nullptr)
+inline T* LoadObject(
+	UObject* Outer, const TCHAR* Name, const TCHAR* Filename = nullptr, uint32 LoadFlags = LOAD_None, UPackageMap* Sandbox = nullptr)
 {
 	return (T*)StaticLoadObject(T::StaticClass(), Outer, Name, Filename, LoadFlags, Sandbox);
 }
 /** Finds or loads a child class of T; null, with warnings in the log, when that fails. */
 template <class T>
-inline UClass* LoadClass(UObject* Outer, const TCHAR* Name, const TCHAR* Filename = nullptr, uint32 LoadFlags = LOAD_None,
-	UPackageMap* Sandbox = nullptr)
+inline UClass* LoadClass(
+	UObject* Outer, const TCHAR* Name, const TCHAR* Filename = nullptr, uint32 LoadFlags = LOAD_None, UPackageMap* Sandbox = nullptr)
 {
 	return StaticLoadClass(T::StaticClass(), Outer, Name, Filename, LoadFlags, Sandbox);
 }

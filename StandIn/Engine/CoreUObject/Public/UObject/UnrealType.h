@@ -34,8 +34,7 @@ struct FPropertyChangedEvent
 		: Property(InProperty)
 		, MemberProperty(InProperty)
 		, ChangeType(InChangeType)
-	{
-	}
+	{}
 	/** Name of the property, or None. */
 	FName GetPropertyName() const { return Property ? Property->GetFName() : FName(NAME_None); }
 

@@ -13,12 +13,10 @@ struct COREUOBJECT_API FWeakObjectPtr
 	FWeakObjectPtr()
 		: ObjectIndex(-1)
 		, ObjectSerialNumber(0)
-	{
-	}
+	{}
 	FWeakObjectPtr(TYPE_OF_NULLPTR)
 		: FWeakObjectPtr()
-	{
-	}
+	{}
 	FWeakObjectPtr(const UObject* Object)
 		: FWeakObjectPtr()
 	{

@@ -23,19 +23,16 @@ struct TWeakObjectPtr : private TWeakObjectPtrBase
 	TWeakObjectPtr& operator=(const TWeakObjectPtr&) = default;
 	TWeakObjectPtr(TYPE_OF_NULLPTR)
 		: TWeakObjectPtrBase(nullptr)
-	{
-	}
+	{}
 	/** Points at an object of the class or of a child of it. */
 	template <class U, typename = typename std::enable_if<std::is_convertible<U*, T*>::value>::type>
 	TWeakObjectPtr(U* Object)
 		: TWeakObjectPtrBase((const UObject*)Object)
-	{
-	}
+	{}
 	template <class OtherT, typename = typename std::enable_if<std::is_convertible<OtherT*, T*>::value>::type>
 	TWeakObjectPtr(const TWeakObjectPtr<OtherT, TWeakObjectPtrBase>& Other)
 		: TWeakObjectPtrBase(static_cast<const TWeakObjectPtrBase&>(Other))
-	{
-	}
+	{}
 	template <class U>
 	TWeakObjectPtr& operator=(U* Object)
 	{

@@ -25,8 +25,8 @@ class COREUOBJECT_API FArrayProperty : public FProperty
 	virtual bool SameType(const FProperty* Other) const override;
 	virtual bool Identical(const void* A, const void* B, uint32 PortFlags = 0) const override;
 	virtual bool ContainsObjectReference() const override { return Inner->ContainsObjectReference(); }
-	virtual void ExportTextItem(FString& ValueStr, const void* PropertyValue, const void* DefaultValue, UObject* Parent,
-		int32 PortFlags, UObject* ExportRootScope = nullptr) const override;
+	virtual void ExportTextItem(FString& ValueStr, const void* PropertyValue, const void* DefaultValue, UObject* Parent, int32 PortFlags,
+		UObject* ExportRootScope = nullptr) const override;
 
 protected:
 	virtual const TCHAR* ImportText_Internal(
@@ -71,6 +71,5 @@ class FScriptArrayHelper_InContainer : public FScriptArrayHelper
 public:
 	FScriptArrayHelper_InContainer(const FArrayProperty* InProperty, const void* InContainer, int32 FixedArrayIndex = 0)
 		: FScriptArrayHelper(InProperty, InProperty->ContainerPtrToValuePtr<void>(InContainer, FixedArrayIndex))
-	{
-	}
+	{}
 };

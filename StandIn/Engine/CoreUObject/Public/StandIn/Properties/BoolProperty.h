@@ -31,8 +31,8 @@ class COREUOBJECT_API FBoolProperty : public FProperty
 	virtual void LinkInternal() override;
 	virtual FString GetCPPType(FString* ExtendedTypeText = nullptr, uint32 CPPExportFlags = 0) const override;
 	virtual bool Identical(const void* A, const void* B, uint32 PortFlags = 0) const override;
-	virtual void ExportTextItem(FString& ValueStr, const void* PropertyValue, const void* DefaultValue, UObject* Parent,
-		int32 PortFlags, UObject* ExportRootScope = nullptr) const override;
+	virtual void ExportTextItem(FString& ValueStr, const void* PropertyValue, const void* DefaultValue, UObject* Parent, int32 PortFlags,
+		UObject* ExportRootScope = nullptr) const override;
 
 protected:
 	virtual const TCHAR* ImportText_Internal(

@@ -15,16 +15,15 @@ class COREUOBJECT_API FByteProperty : public TProperty_Numeric<uint8>
 		UEnum* InEnum = nullptr)
 		: TProperty_Numeric<uint8>(InOwner, InName, InObjectFlags, StaticClass(), InOffset, InFlags)
 		, Enum(InEnum)
-	{
-	}
+	{}
 
 	UEnum* Enum;
 
 	virtual bool IsEnum() const override { return Enum != nullptr; }
 	virtual FString GetCPPType(FString* ExtendedTypeText = nullptr, uint32 CPPExportFlags = 0) const override;
 	virtual bool SameType(const FProperty* Other) const override;
-	virtual void ExportTextItem(FString& ValueStr, const void* PropertyValue, const void* DefaultValue, UObject* Parent,
-		int32 PortFlags, UObject* ExportRootScope = nullptr) const override;
+	virtual void ExportTextItem(FString& ValueStr, const void* PropertyValue, const void* DefaultValue, UObject* Parent, int32 PortFlags,
+		UObject* ExportRootScope = nullptr) const override;
 
 protected:
 	virtual const TCHAR* ImportText_Internal(
@@ -36,8 +35,8 @@ class COREUOBJECT_API FEnumProperty : public FProperty
 {
 	DECLARE_FIELD(FEnumProperty, FProperty, CASTCLASS_FEnumProperty)
 
-	FEnumProperty(FFieldVariant InOwner, const FName& InName, EObjectFlags InObjectFlags, int32 InOffset, EPropertyFlags InFlags,
-		UEnum* InEnum);
+	FEnumProperty(
+		FFieldVariant InOwner, const FName& InName, EObjectFlags InObjectFlags, int32 InOffset, EPropertyFlags InFlags, UEnum* InEnum);
 	virtual ~FEnumProperty();
 
 	UEnum* GetEnum() const { return Enum; }
@@ -48,8 +47,8 @@ class COREUOBJECT_API FEnumProperty : public FProperty
 	virtual FString GetCPPType(FString* ExtendedTypeText = nullptr, uint32 CPPExportFlags = 0) const override;
 	virtual bool SameType(const FProperty* Other) const override;
 	virtual bool Identical(const void* A, const void* B, uint32 PortFlags = 0) const override;
-	virtual void ExportTextItem(FString& ValueStr, const void* PropertyValue, const void* DefaultValue, UObject* Parent,
-		int32 PortFlags, UObject* ExportRootScope = nullptr) const override;
+	virtual void ExportTextItem(FString& ValueStr, const void* PropertyValue, const void* DefaultValue, UObject* Parent, int32 PortFlags,
+		UObject* ExportRootScope = nullptr) const override;
 
 protected:
 	virtual const TCHAR* ImportText_Internal(

@@ -22,7 +22,8 @@ class TFieldIterator
 {
 public:
 	/** Starts at the type's first property. */
-	explicit TFieldIterator(const UStruct* InStruct, EFieldIteratorFlags::SuperClassFlags InSuperClassFlags = EFieldIteratorFlags::IncludeSuper)
+	explicit TFieldIterator(
+		const UStruct* InStruct, EFieldIteratorFlags::SuperClassFlags InSuperClassFlags = EFieldIteratorFlags::IncludeSuper)
 		: Struct(InStruct)
 		, Field(InStruct ? InStruct->ChildProperties : nullptr)
 		, bIncludeSuper(InSuperClassFlags == EFieldIteratorFlags::IncludeSuper)

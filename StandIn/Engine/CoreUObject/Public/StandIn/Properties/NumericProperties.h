@@ -16,8 +16,7 @@ class COREUOBJECT_API FNumericProperty : public FProperty
 	FNumericProperty(FFieldVariant InOwner, const FName& InName, EObjectFlags InObjectFlags, FFieldClass* InClass, int32 InOffset,
 		EPropertyFlags InFlags, int32 InElementSize)
 		: FProperty(InOwner, InName, InObjectFlags, InClass, InOffset, InFlags, InElementSize)
-	{
-	}
+	{}
 	virtual bool IsFloatingPoint() const = 0;
 	virtual bool IsInteger() const = 0;
 	virtual bool IsEnum() const { return false; }
@@ -61,24 +60,21 @@ public:
 		const TCppType Right = B ? *(const TCppType*)B : TCppType(0);
 		return !(Left < Right) && !(Right < Left);
 	}
-	virtual void ExportTextItem(FString& ValueStr, const void* PropertyValue, const void*, UObject*, int32, UObject* = nullptr) const override
+	virtual void ExportTextItem(
+		FString& ValueStr, const void* PropertyValue, const void*, UObject*, int32, UObject* = nullptr) const override
 	{
 		Export(ValueStr, *(const TCppType*)PropertyValue, std::is_floating_point<TCppType>());
 	}
 
 protected:
-	virtual const TCHAR* ImportText_Internal(
-		const TCHAR* Buffer, void* Data, int32, UObject*, FOutputDevice* ErrorText) const override
+	virtual const TCHAR* ImportText_Internal(const TCHAR* Buffer, void* Data, int32, UObject*, FOutputDevice* ErrorText) const override
 	{
 		return Import(Buffer, (TCppType*)Data, ErrorText, std::is_floating_point<TCppType>(), std::is_signed<TCppType>());
 	}
 
 private:
 	static void Export(FString& ValueStr, TCppType Value, std::true_type) { FNumericProperty::ExportFloat(ValueStr, double(Value)); }
-	static void Export(FString& ValueStr, TCppType Value, std::false_type)
-	{
-		ExportWhole(ValueStr, Value, std::is_signed<TCppType>());
-	}
+	static void Export(FString& ValueStr, TCppType Value, std::false_type) { ExportWhole(ValueStr, Value, std::is_signed<TCppType>()); }
 	static void ExportWhole(FString& ValueStr, TCppType Value, std::true_type) { FNumericProperty::ExportInteger(ValueStr, int64(Value)); }
 	static void ExportWhole(FString& ValueStr, TCppType Value, std::false_type)
 	{
@@ -123,8 +119,7 @@ private:
 \
 		TName(FFieldVariant InOwner, const FName& InName, EObjectFlags InObjectFlags, int32 InOffset, EPropertyFlags InFlags) \
 			: TProperty_Numeric<TCpp>(InOwner, InName, InObjectFlags, StaticClass(), InOffset, InFlags) \
-		{ \
-		} \
+		{} \
 		virtual FString GetCPPType(FString* ExtendedTypeText = nullptr, uint32 CPPExportFlags = 0) const override; \
 	};
 

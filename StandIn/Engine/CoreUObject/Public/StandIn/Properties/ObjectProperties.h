@@ -34,8 +34,8 @@ class COREUOBJECT_API FObjectPropertyBase : public FProperty
 	virtual bool SameType(const FProperty* Other) const override;
 	virtual bool Identical(const void* A, const void* B, uint32 PortFlags = 0) const override;
 	virtual bool ContainsObjectReference() const override { return true; }
-	virtual void ExportTextItem(FString& ValueStr, const void* PropertyValue, const void* DefaultValue, UObject* Parent,
-		int32 PortFlags, UObject* ExportRootScope = nullptr) const override;
+	virtual void ExportTextItem(FString& ValueStr, const void* PropertyValue, const void* DefaultValue, UObject* Parent, int32 PortFlags,
+		UObject* ExportRootScope = nullptr) const override;
 
 protected:
 	virtual const TCHAR* ImportText_Internal(
@@ -55,10 +55,15 @@ class COREUOBJECT_API FObjectProperty : public FObjectPropertyBase
 	FObjectProperty(FFieldVariant InOwner, const FName& InName, EObjectFlags InObjectFlags, int32 InOffset, EPropertyFlags InFlags,
 		UClass* InPropertyClass, FFieldClass* InClass = StaticClass())
 		: FObjectPropertyBase(InOwner, InName, InObjectFlags, InClass, InOffset, InFlags, InPropertyClass, int32(sizeof(UObject*)))
+	{}
+	virtual UObject* GetObjectPropertyValue(const void* PropertyValueAddress) const override
 	{
+		return *(UObject* const*)PropertyValueAddress;
 	}
-	virtual UObject* GetObjectPropertyValue(const void* PropertyValueAddress) const override { return *(UObject* const*)PropertyValueAddress; }
-	virtual void SetObjectPropertyValue(void* PropertyValueAddress, UObject* Value) const override { *(UObject**)PropertyValueAddress = Value; }
+	virtual void SetObjectPropertyValue(void* PropertyValueAddress, UObject* Value) const override
+	{
+		*(UObject**)PropertyValueAddress = Value;
+	}
 };
 
 /** A pointer to a class, or TSubclassOf. */
@@ -70,8 +75,7 @@ class COREUOBJECT_API FClassProperty : public FObjectProperty
 		UClass* InMetaClass, UClass* InClassType)
 		: FObjectProperty(InOwner, InName, InObjectFlags, InOffset, InFlags, InClassType, StaticClass())
 		, MetaClass(InMetaClass)
-	{
-	}
+	{}
 
 	/** Parent of the classes that may be referred to. */
 	UClass* MetaClass;
@@ -90,9 +94,9 @@ class COREUOBJECT_API FWeakObjectProperty : public FObjectPropertyBase
 
 	FWeakObjectProperty(FFieldVariant InOwner, const FName& InName, EObjectFlags InObjectFlags, int32 InOffset, EPropertyFlags InFlags,
 		UClass* InPropertyClass)
-		: FObjectPropertyBase(InOwner, InName, InObjectFlags, StaticClass(), InOffset, InFlags, InPropertyClass, int32(sizeof(FWeakObjectPtr)))
-	{
-	}
+		: FObjectPropertyBase(
+			InOwner, InName, InObjectFlags, StaticClass(), InOffset, InFlags, InPropertyClass, int32(sizeof(FWeakObjectPtr)))
+	{}
 	virtual UObject* GetObjectPropertyValue(const void* PropertyValueAddress) const override;
 	virtual void SetObjectPropertyValue(void* PropertyValueAddress, UObject* Value) const override;
 	virtual int32 GetMinAlignment() const override { return int32(alignof(FWeakObjectPtr)); }

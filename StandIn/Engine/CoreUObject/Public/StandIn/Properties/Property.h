@@ -84,17 +84,17 @@ class COREUOBJECT_API FProperty : public FField
 	void ClearValue(void* Data) const;
 
 	/** Appends one element's text. */
-	virtual void ExportTextItem(FString& ValueStr, const void* PropertyValue, const void* DefaultValue, UObject* Parent,
-		int32 PortFlags, UObject* ExportRootScope = nullptr) const = 0;
+	virtual void ExportTextItem(FString& ValueStr, const void* PropertyValue, const void* DefaultValue, UObject* Parent, int32 PortFlags,
+		UObject* ExportRootScope = nullptr) const = 0;
 	/** Appends the text of an element of Data, at an address; false (nothing appended) when it equals Delta's. */
-	bool ExportText_Direct(FString& ValueStr, const void* Data, const void* Delta, UObject* Parent, int32 PortFlags,
-		UObject* ExportRootScope = nullptr) const;
+	bool ExportText_Direct(
+		FString& ValueStr, const void* Data, const void* Delta, UObject* Parent, int32 PortFlags, UObject* ExportRootScope = nullptr) const;
 	/** Appends the text of an element of a container; false (nothing appended) when it equals DeltaContainer's. */
 	bool ExportText_InContainer(int32 Index, FString& ValueStr, const void* Container, const void* DeltaContainer, UObject* Parent,
 		int32 PortFlags, UObject* ExportRootScope = nullptr) const;
 	/** Reads one element from text; returns the text behind it, or null when the text is none for it. */
-	const TCHAR* ImportText(const TCHAR* Buffer, void* Data, int32 PortFlags, UObject* OwnerObject,
-		FOutputDevice* ErrorText = (FOutputDevice*)GWarn) const;
+	const TCHAR* ImportText(
+		const TCHAR* Buffer, void* Data, int32 PortFlags, UObject* OwnerObject, FOutputDevice* ErrorText = (FOutputDevice*)GWarn) const;
 	/** Says whether the property takes part in text under these flags. */
 	bool ShouldPort(uint32 PortFlags = 0) const;
 	/** Says whether values hold strong or weak object references. */

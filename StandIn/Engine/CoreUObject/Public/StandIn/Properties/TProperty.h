@@ -19,8 +19,7 @@ public:
 	TProperty(FFieldVariant InOwner, const FName& InName, EObjectFlags InObjectFlags, FFieldClass* InClass, int32 InOffset,
 		EPropertyFlags InFlags)
 		: TInheritedClass(InOwner, InName, InObjectFlags, InClass, InOffset, InFlags, int32(sizeof(TCppType)))
-	{
-	}
+	{}
 
 	static const TCppType& GetPropertyValue(void const* Ptr) { return *(TCppType const*)Ptr; }
 	static TCppType* GetPropertyValuePtr(void* Ptr) { return (TCppType*)Ptr; }
@@ -37,8 +36,7 @@ public:
 	virtual int32 GetMinAlignment() const override { return int32(alignof(TCppType)); }
 	virtual void LinkInternal() override
 	{
-		this->PropertyFlags |= CPF_ZeroConstructor
-			| (std::is_trivially_destructible<TCppType>::value ? CPF_NoDestructor : CPF_None)
+		this->PropertyFlags |= CPF_ZeroConstructor | (std::is_trivially_destructible<TCppType>::value ? CPF_NoDestructor : CPF_None)
 			| (std::is_trivially_copyable<TCppType>::value ? CPF_IsPlainOldData : CPF_None);
 	}
 

@@ -17,8 +17,7 @@
 \
 		TName(FFieldVariant InOwner, const FName& InName, EObjectFlags InObjectFlags, int32 InOffset, EPropertyFlags InFlags) \
 			: TProperty<TCpp, FProperty>(InOwner, InName, InObjectFlags, StaticClass(), InOffset, InFlags) \
-		{ \
-		} \
+		{} \
 		virtual void LinkInternal() override; \
 		virtual FString GetCPPType(FString* ExtendedTypeText = nullptr, uint32 CPPExportFlags = 0) const override; \
 		virtual bool Identical(const void* A, const void* B, uint32 PortFlags = 0) const override; \

@@ -12,8 +12,32 @@
 void SMenuHeading::Construct(const FArguments& InArgs)
 {
 	Text = InArgs._Text;
-	ChildSlot.Padding(FMargin(4.0f, 4.0f, 4.0f,
-		2.0f))[SNew(STextBlock).Text(InArgs._Text).Font(FMenuLook::HeadingFont()).ColorAndOpacity(FMenuLook::HeadingColor())];
+	// clang-format off
+	ChildSlot
+	.Padding(FMargin(4.0f, 5.0f, 4.0f, 2.0f))
+	[
+		SNew(SHorizontalBox)
+		+ SHorizontalBox::Slot()
+		.AutoWidth()
+		[
+			SNew(STextBlock)
+			.Text(InArgs._Text)
+			.Font(FMenuLook::HeadingFont())
+			.ColorAndOpacity(FMenuLook::HeadingColor())
+		]
+		+ SHorizontalBox::Slot()
+		.FillWidth(1.0f)
+		.VAlign(VAlign_Center)
+		.Padding(FMargin(6.0f, 1.0f, 0.0f, 0.0f))
+		[
+			SNew(SBox)
+			.HeightOverride(1.0f)
+			[
+				SNew(SImage).Image(FMenuLook::Separator())
+			]
+		]
+	];
+	// clang-format on
 }
 
 TSharedRef<SWidget> FHeadingBlock::MakeWidget(const TSharedRef<SMultiBoxWidget>&) const

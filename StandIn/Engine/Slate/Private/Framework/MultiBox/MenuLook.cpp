@@ -3,6 +3,7 @@
 #include "Framework/MultiBox/MenuLook.h"
 #include "Styling/CoreStyle.h"
 #include "Styling/StyleDefaults.h"
+#include "Widgets/SToolTip.h"
 
 namespace MenuLookPrivate
 {
@@ -79,6 +80,14 @@ const FSlateBrush* FMenuLook::Separator()
 const FSlateBrush* FMenuLook::Arrow()
 {
 	return FCoreStyle::Get().GetBrush("Menu.SubMenuIndicator");
+}
+
+TSharedRef<IToolTip> FMenuLook::MakeToolTip(const TAttribute<FText>& Text)
+{
+	return SNew(SToolTip)
+		.Text(Text)
+		.BorderImage(FCoreStyle::Get().GetBrush("ToolTip.BrightBackground"))
+		.ColorAndOpacity(FCoreStyle::Get().GetSlateColor("InvertedForeground"));
 }
 
 const FSlateBrush* FMenuLook::CheckMark(const EUserInterfaceActionType ActionType, const ECheckBoxState State, const bool bHighlighted)

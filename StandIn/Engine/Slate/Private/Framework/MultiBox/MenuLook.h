@@ -5,9 +5,11 @@
 #include "CoreMinimal.h"
 #include "Fonts/SlateFontInfo.h"
 #include "Framework/Commands/UICommandInfo.h"
+#include "Misc/Attribute.h"
 #include "Styling/SlateColor.h"
 #include "Styling/SlateTypes.h"
 
+class IToolTip;
 struct FSlateBrush;
 
 /** Fonts, colours and brushes of menus. */
@@ -46,6 +48,9 @@ public:
 
 	/** Arrow of a row that opens a submenu. */
 	static const FSlateBrush* Arrow();
+
+	/** Tool tip of a row: dark text on a bright box. */
+	static TSharedRef<IToolTip> MakeToolTip(const TAttribute<FText>& Text);
 
 	/** Check mark of a kind of entry in a state. */
 	static const FSlateBrush* CheckMark(const EUserInterfaceActionType ActionType, const ECheckBoxState State, const bool bHighlighted);

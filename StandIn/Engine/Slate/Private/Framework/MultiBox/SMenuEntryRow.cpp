@@ -9,6 +9,7 @@
 #include "Widgets/Layout/SBorder.h"
 #include "Widgets/Layout/SBox.h"
 #include "Widgets/SBoxPanel.h"
+#include "Widgets/IToolTip.h"
 #include "Widgets/Text/STextBlock.h"
 
 void SMenuEntryRow::Construct(
@@ -20,7 +21,9 @@ void SMenuEntryRow::Construct(
 	SetVisibility(TAttribute<EVisibility>(this, &SMenuEntryRow::GetRowVisibility));
 	if (Block->GetArguments().ToolTip.IsSet() || Block->GetArguments().Command.IsValid())
 	{
-		SetToolTipText(TAttribute<FText>::Create(TAttribute<FText>::FGetter::CreateLambda([InBlock]() { return InBlock->GetToolTip(); })));
+		const TAttribute<FText> Text =
+			TAttribute<FText>::Create(TAttribute<FText>::FGetter::CreateLambda([InBlock]() { return InBlock->GetToolTip(); }));
+		SetToolTip(TSharedPtr<IToolTip>(FMenuLook::MakeToolTip(Text)));
 	}
 	// clang-format off
 	ChildSlot

@@ -66,13 +66,19 @@ void SMultiBoxWidget::BuildMultiBoxWidget()
 	ChildSlot
 	[
 		SNew(SBorder)
-		.BorderImage(FMenuLook::Background())
+		.BorderImage(this, &SMultiBoxWidget::GetBackground)
 		.Padding(FMargin(2.0f))
 		[
 			Rows.ToSharedRef()
 		]
 	];
 	// clang-format on
+}
+
+const FSlateBrush* SMultiBoxWidget::GetBackground() const
+{
+	// A menu that is part of another one has no frame of its own.
+	return IsNested() ? FMenuLook::None() : FMenuLook::Background();
 }
 
 TSharedPtr<SMenuEntryRow> SMultiBoxWidget::GetOpenRow() const

@@ -361,10 +361,12 @@ int32 SEditableText::OnPaint(const FPaintArgs& /*Args*/, const FGeometry& Allott
 	}
 	else
 	{
+		// Clear of the caret.
+		const float HintX = 2.0f;
 		FLinearColor HintTint = Tint;
 		HintTint.A *= 0.5f;
 		FSlateDrawElement::MakeText(OutDrawElements, static_cast<uint32>(LayerId + 1),
-			AllottedGeometry.ToPaintGeometry(FVector2D(0.0f, Top), FVector2D(Size.X, LineHeight)), HintText.Get(), FontInfo, Effect, HintTint);
+			AllottedGeometry.ToPaintGeometry(FVector2D(HintX, Top), FVector2D(Size.X, LineHeight)), HintText.Get(), FontInfo, Effect, HintTint);
 	}
 	if (bFocused && !IsReadOnly.Get())
 	{

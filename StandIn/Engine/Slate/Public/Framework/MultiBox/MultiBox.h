@@ -11,6 +11,7 @@
 class FMultiBox;
 class ISlateStyle;
 class SMenuEntryRow;
+struct FSlateBrush;
 class SMultiBoxWidget;
 class SVerticalBox;
 
@@ -123,6 +124,9 @@ public:
 private:
 	/** True if this widget sits inside the rows of another menu. */
 	bool IsNested() const;
+
+	/** Background of the menu; nothing inside another menu. */
+	const FSlateBrush* GetBackground() const;
 
 	/** Moves the keyboard focus to the next row (Step 1) or the one before (Step -1), around the ends. */
 	bool MoveFocus(const int32 Step);
