@@ -1,9 +1,20 @@
 #!/usr/bin/env bash
-# run-suites.sh BUILD [NAME...]: runs the test programs and the checks of the sources, sums up in one line.
+# run-suites.sh BUILD [NAME...]: runs the test programs of a build and the checks of its platform, sums up in one line.
 set -uo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 build_dir=$1
 shift
+
+# run_program PROGRAM [ARGUMENT...]; the checks of the platform lie in $checks.
+if [ -d "$build_dir/Engine/Binaries/Win64" ]; then
+    source cmake/wine.sh
+    start_wine "$build_dir"
+    checks=cmake/checks-windows
+    run_program() { run_in_wine "$build_dir/Engine/Binaries/Win64/$1.exe" "${@:2}"; }
+else
+    checks=cmake/checks
+    run_program() { timeout 600 "$build_dir/Engine/Binaries/Linux/$1" "${@:2}"; }
+fi
 
 passed=0
 failed=0
@@ -32,8 +43,8 @@ count()
 # suite NAME: one GoogleTest program; a crash counts as a failure of its own.
 suite()
 {
-    local name=$1 program="$build_dir/Engine/Binaries/Linux/$1" log="$build_dir/Results/$1.log" status ok bad
-    timeout 600 "$program" --gtest_brief=0 --gtest_output="xml:$build_dir/Results/$name.xml" >"$log" 2>&1
+    local name=$1 log="$build_dir/Results/$1.log" status ok bad
+    run_program "$name" --gtest_brief=0 --gtest_output="xml:$build_dir/Results/$name.xml" </dev/null >"$log" 2>&1
     status=$?
     ok=$(grep -c '^\[       OK \]' "$log")
     bad=$(grep -c '^\[  FAILED  \] .* (.* ms)$' "$log")
@@ -64,7 +75,7 @@ while read -r name; do
     wanted "$name" && suite "$name"
 done <"$build_dir/suites.txt"
 
-for script in cmake/checks/*.sh; do
+for script in "$checks"/*.sh; do
     name="check $(basename "$script" .sh)"
     wanted "$name" && check "$name" "$script"
 done

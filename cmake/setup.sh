@@ -11,6 +11,9 @@ TEST_PACKAGES=(
     libgtest-dev libgmock-dev librapidcheck-dev libbenchmark-dev clang clang-format binutils
 )
 
+# What ./test --windows needs on top of both: the cross-compiler, Wine, and the tests' library as source.
+WINDOWS_PACKAGES=(g++-mingw-w64-x86-64-posix wine wine64 googletest)
+
 # say TEXT: one line on what goes on.
 say()
 {
@@ -69,17 +72,17 @@ build()
 # progress_lines LOG COMMAND...: runs the command, prints a line at every tenth of its steps, all of its output if it fails.
 progress_lines()
 {
-    local log=$1 status=0
+    local log=$1 status=()
     shift
+    # Read in the same list: the next command, be it "true", would put its own status in the pipeline's place.
     NINJA_STATUS='[%f/%t] ' "$@" 2>&1 | tee "$log" | awk '
         match($0, /^\[[0-9]+\/[0-9]+\]/) {
             split(substr($0, 2, RLENGTH - 2), step, "/")
             tenth = int(10 * step[1] / step[2])
             if (tenth != last) { print "   " step[1] " of " step[2]; fflush(); last = tenth }
-        }' >&2 || true
-    status=${PIPESTATUS[0]}
-    if [ "$status" -ne 0 ]; then
-        grep -v '^\[[0-9]*/[0-9]*\] \(Building\|Linking\|Generating\)' "$log" >&2
-        exit "$status"
+        }' >&2 && status=(0) || status=("${PIPESTATUS[@]}")
+    if [ "${status[0]}" -ne 0 ]; then
+        grep -v '^\[[0-9]*/[0-9]*\] \(Building\|Linking\|Generating\)' "$log" >&2 || true
+        exit "${status[0]}"
     fi
 }

@@ -4,6 +4,7 @@
 
 #include "Host/Console/Console.h"
 #include "Host/Editor/Panes.h"
+#include "Host/Editor/Play.h"
 #include "Host/Picture/PngFile.h"
 #include "Host/Program/HostProgram.h"
 #include "Host/Program/Strings.h"
@@ -54,6 +55,46 @@ FPicture JoinHalves(const FPicture& Left, const FPicture& Right)
 	return Joined;
 }
 
+/** Two pictures beside each other, with a thin line between. */
+FPicture PutBeside(const FPicture& Left, const FPicture& Right)
+{
+	constexpr int32 Gap = 2;
+	FPicture Both;
+	Both.Width = Left.Width + Gap + Right.Width;
+	Both.Height = std::max(Left.Height, Right.Height);
+	Both.Pixels.Init(FColor::White, Both.Width * Both.Height);
+	const auto Put = [&Both](const FPicture& Part, int32 At) {
+		for (int32 Row = 0; Row < Part.Height; ++Row)
+		{
+			std::copy_n(&Part.Pixels[Row * Part.Width], Part.Width, &Both.Pixels[Row * Both.Width + At]);
+		}
+	};
+	Put(Left, 0);
+	Put(Right, Left.Width + Gap);
+	return Both;
+}
+
+/** The words from the third on, or what is said without them. */
+std::string CaptionOf(const FArguments& Words, const std::string& Otherwise)
+{
+	std::string Caption;
+	for (size_t Index = 2; Index < Words.size(); ++Index)
+	{
+		Caption += (Index > 2 ? " " : "") + Words[Index];
+	}
+	return Caption.empty() ? Otherwise : Caption;
+}
+
+/** game|both [FILE] [CAPTION...] */
+void SaveGamePicture(const FArguments& Words, FHostProgram& Program, std::ostream& Output)
+{
+	const std::string Description = DescribeGame();
+	const FPicture Game = DrawGame();
+	const std::string Name = Words.size() > 1 ? Words[1] : Words[0] + ".png";
+	Program.GetGallery().AddPicture(CaptionOf(Words, Description),
+		Save(Words[0] == "game" ? Game : PutBeside(DrawPane(*GetActivePane()), Game), Program.GetOutDir() / Name, Output));
+}
+
 /** Saves every pane's picture without and with its look, side by side on the page. */
 void SavePictures(FHostProgram& Program, std::ostream& Output)
 {
@@ -80,12 +121,19 @@ void AddPictureCommands(FConsole& Console, FHostProgram& Program)
 			}
 		}
 	});
-	Console.Add("picture PANE [FILE]", "draw a pane and save its picture as a PNG in the folder of --out",
+	Console.Add("picture PANE|game|both [FILE] [CAPTION...]",
+		"draw a pane, the game, or the active pane beside the game, and save the picture as a PNG in the folder of --out",
 		[&Program](const FArguments& Words, std::ostream& Output) {
+			if (Words[0] == "game" || Words[0] == "both")
+			{
+				SaveGamePicture(Words, Program, Output);
+				return;
+			}
 			const TSharedRef<SLevelViewport> Pane = FindPane(Words[0]);
 			const std::string Name = Words.size() > 1 ? Words[1] : MakeFileStem(Pane->GetConfigKey()) + ".png";
 			const std::filesystem::path File = Save(DrawPane(*Pane), Program.GetOutDir() / Name, Output);
-			Program.GetGallery().AddPicture(ToUtf8(Pane->GetConfigKey().ToString()) + ": " + DescribeRecord(GetPaneRecord(*Pane)), File);
+			Program.GetGallery().AddPicture(
+				CaptionOf(Words, ToUtf8(Pane->GetConfigKey().ToString()) + ": " + DescribeRecord(GetPaneRecord(*Pane))), File);
 		});
 	Console.Add("compare PANE [FILE]", "save one picture of a pane, its left half without and its right half with the look",
 		[&Program](const FArguments& Words, std::ostream& Output) {

@@ -24,6 +24,9 @@ public:
 	/** The viewport's camera; at first the one that suits the pane's kind of view, or the game's. */
 	FSceneCamera& GetCamera(FViewportClient& Client);
 
+	/** Gives the viewport the camera that it had at first. */
+	void ResetCamera(FViewportClient& Client) { Cameras.erase(&Client); }
+
 private:
 	std::map<const FViewportClient*, FSceneCamera> Cameras;
 };

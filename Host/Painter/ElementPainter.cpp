@@ -97,19 +97,15 @@ void FElementPainter::PaintBox(cairo_t* Context, const FSlateDrawElement& Elemen
 		PaintShape(Context, Shape);
 		return;
 	}
-	if (UObject* const Object = Brush.GetResourceObject())
-	{
-		const FPictureView Picture = ObjectPictures ? ObjectPictures(Object, SizeOf(Rect)) : FPictureView();
-		if (Picture.Pixels != nullptr)
-		{
-			PaintPicture(Context, Picture, Rect, Color.Alpha);
-			return;
-		}
-	}
-	if (Brush.GetResourceName().IsNone())
+	if (Brush.GetResourceName().IsNone() && Brush.GetResourceObject() == nullptr)
 	{
 		Shape.Kind = StandIn::EBrushShape::RoundedBox;
 		PaintShape(Context, Shape);
+		return;
+	}
+	if (const FPictureView Picture = BrushPictures ? BrushPictures(Brush, SizeOf(Rect)) : FPictureView(); Picture.Pixels != nullptr)
+	{
+		PaintPicture(Context, Picture, Rect, Color.Alpha);
 		return;
 	}
 	if (cairo_surface_t* const Image = Images.Find(ToUtf8(Brush.GetResourceName().ToString()), Element.GetTint()))

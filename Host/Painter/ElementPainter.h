@@ -24,8 +24,8 @@ struct FPictureView
 /** Gives the picture of a viewport for an area of DeviceSize pixels; one of another size is stretched, no pixels leave it dark. */
 using FViewportPictures = std::function<FPictureView(const ISlateViewport& Viewport, const FIntPoint& DeviceSize)>;
 
-/** Gives the thumbnail of an object that is a brush's image, about DeviceSize pixels large, or no pixels. */
-using FObjectPictures = std::function<FPictureView(UObject* Object, const FIntPoint& DeviceSize)>;
+/** Gives the picture of a brush whose image is no file, for an area of DeviceSize pixels; no pixels mean that it is one. */
+using FBrushPictures = std::function<FPictureView(const FSlateBrush& Brush, const FIntPoint& DeviceSize)>;
 
 /** Paints lists of draw elements. */
 class FElementPainter
@@ -37,8 +37,8 @@ public:
 	/** Sets where pictures of viewports come from. */
 	void SetViewportPictures(FViewportPictures InPictures) { ViewportPictures = std::move(InPictures); }
 
-	/** Sets where pictures of objects come from. */
-	void SetObjectPictures(FObjectPictures InPictures) { ObjectPictures = std::move(InPictures); }
+	/** Sets where pictures of brushes that name no file come from. */
+	void SetBrushPictures(FBrushPictures InPictures) { BrushPictures = std::move(InPictures); }
 
 	/** Paints all elements from the lowest layer to the highest, at Scale pixels of the surface a pixel of the desktop. */
 	void Paint(cairo_t* Context, const FSlateWindowElementList& ElementList, double Scale);
@@ -53,6 +53,6 @@ private:
 	std::shared_ptr<FTextLayouts> Layouts;
 	FImageStore Images;
 	FViewportPictures ViewportPictures;
-	FObjectPictures ObjectPictures;
+	FBrushPictures BrushPictures;
 };
 }

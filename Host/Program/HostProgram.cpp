@@ -5,12 +5,14 @@
 #include "Host/Commands/EditorCommands.h"
 #include "Host/Commands/ListCommands.h"
 #include "Host/Commands/PictureCommands.h"
+#include "Host/Commands/PlayCommands.h"
 #include "Host/Commands/RecordCommands.h"
 #include "Host/Commands/UiCommands.h"
 #include "Host/Console/CommandText.h"
 #include "Host/Editor/Panes.h"
 
 #include "Misc/OutputDeviceRedirector.h"
+#include "Modules/ModuleManager.h"
 #include "StandIn/LookFiles.h"
 
 #include <algorithm>
@@ -75,10 +77,13 @@ void FHostProgram::StartEditor()
 	LoopOptions.MaximizedPane = NAME_None;
 	StartClock.EndPhase("program and project");
 	EngineLoop.PreInit(LoopOptions);
+	// The plug-in loaded it already. If it could not, the program has nothing to show and says so as the engine does.
+	FModuleManager::Get().LoadModuleChecked(TEXT("TintmillEditor"));
 	StartClock.EndPhase("object system, modules, settings, looks");
 	EngineLoop.Init();
 	StartClock.EndPhase("engine object");
 	SceneViews.emplace();
+	PlayScene.emplace(*SceneViews);
 	EngineLoop.InitEditor();
 	StartClock.EndPhase("level editor, panes restored");
 	ResizePanes();
@@ -110,6 +115,7 @@ void FHostProgram::RegisterCommands()
 	AddEditorCommands(Console, *this);
 	AddListCommands(Console);
 	AddPictureCommands(Console, *this);
+	AddPlayCommands(Console, *this);
 	AddRecordCommands(Console);
 	AddUiCommands(Console, *this);
 }
@@ -164,6 +170,7 @@ void FHostProgram::ExitEditor()
 {
 	Window.reset();
 	EngineLoop.CloseMainFrame();
+	PlayScene.reset();
 	SceneViews.reset();
 	EngineLoop.Exit();
 }

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "Host/Console/Console.h"
+#include "Host/Editor/PlayScene.h"
 #include "Host/Editor/SceneViews.h"
 #include "Host/Gallery/GalleryPage.h"
 #include "Host/Program/HostLog.h"
@@ -41,6 +42,12 @@ public:
 	/** The person in front of the window. */
 	FPerson& GetPerson() { return Person; }
 
+	/** What each viewport sees of the scene. */
+	FSceneViews& GetSceneViews() { return *SceneViews; }
+
+	/** What one sees of play. */
+	FPlayScene& GetPlayScene() { return *PlayScene; }
+
 	/** The folder for pictures and pages. */
 	const std::filesystem::path& GetOutDir() const { return Options.OutDir; }
 
@@ -66,6 +73,7 @@ private:
 	FGalleryPage Gallery;
 	StandIn::FEngineLoop EngineLoop;
 	std::optional<FSceneViews> SceneViews;
+	std::optional<FPlayScene> PlayScene;
 	std::optional<FEditorWindow> Window;
 	FPerson Person;
 };

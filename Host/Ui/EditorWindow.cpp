@@ -21,6 +21,7 @@ FEditorWindow::FEditorWindow(const FIntPoint& InSize, const std::string& Project
 {
 	Painter.SetViewportPictures(
 		[this](const ISlateViewport& Viewport, const FIntPoint& DeviceSize) { return PanePictures.Find(Viewport, DeviceSize); });
+	Painter.SetBrushPictures([this](const FSlateBrush& Brush, const FIntPoint&) { return Thumbnails.Find(Brush); });
 	const TSharedPtr<ILevelEditor> LevelEditor =
 		FModuleManager::GetModuleChecked<FLevelEditorModule>(TEXT("LevelEditor")).GetFirstLevelEditor();
 	// clang-format off

@@ -7,6 +7,7 @@
 #include "Host/Painter/PangoFontMeasurer.h"
 #include "Host/Painter/TextLayouts.h"
 #include "Host/Picture/PngFile.h"
+#include "Host/Ui/LookThumbnails.h"
 #include "Host/Ui/PanePictures.h"
 
 #include <memory>
@@ -42,6 +43,7 @@ private:
 	FPangoMeasuring Measuring;
 	FElementPainter Painter;
 	FPanePictures PanePictures;
+	FLookThumbnails Thumbnails;
 	FIntPoint Size;
 	TSharedPtr<SWindow> Window;
 };

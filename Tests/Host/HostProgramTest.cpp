@@ -24,10 +24,10 @@ class HostProgram : public testing::Test
 {
 protected:
 	/** Runs the program on the project without a window; both streams come back as one text. */
-	FResult Run(const std::string& Arguments) const
+	FResult Run(const std::string& Arguments, const std::string& Program = TINTMILL_EDITOR) const
 	{
-		const std::string Command = std::string(TINTMILL_EDITOR) + " --headless --size 64x36 --out '" + Folder.NativePath("out").string()
-			+ "' " + Arguments + " 2>&1";
+		const std::string Command =
+			Program + " --headless --size 64x36 --out '" + Folder.NativePath("out").string() + "' " + Arguments + " 2>&1";
 		FResult Result;
 		std::FILE* const Pipe = popen(Command.c_str(), "r");
 		std::array<char, 4096> Buffer;
@@ -214,6 +214,24 @@ TEST_F(HostProgram, TakesAPlainFolderOfLookFilesAsAProject)
 	Folder.Write("Plain/Red.cube", "LUT_3D_SIZE 2\n0 0 0\n1 0 0\n0 0 0\n1 0 0\n0 0 0\n1 0 0\n0 0 0\n1 0 0\n");
 	const FResult Result = Run("--project '" + Folder.NativePath("Plain").string() + "' --exec looks");
 	EXPECT_NE(Result.Output.find("/Game/Red"), std::string::npos) << Result.Output;
+}
+
+TEST_F(HostProgram, AMissingModuleLibraryIsTheEnginesFatalErrorThatNamesIt)
+{
+	const std::filesystem::path Binaries = std::filesystem::path(TINTMILL_EDITOR).parent_path();
+	const std::filesystem::path Engine = Folder.NativePath("Engine");
+	std::filesystem::create_directories(Engine / "Binaries/Linux");
+	for (const char* const Name : {"tintmill-editor", "libUE4Editor-Engine.so"})
+	{
+		std::filesystem::copy_file(Binaries / Name, Engine / "Binaries/Linux" / Name);
+	}
+	std::filesystem::copy(Binaries / "../../Plugins", Engine / "Plugins", std::filesystem::copy_options::recursive);
+	std::filesystem::remove(Engine / "Plugins/Tintmill/Binaries/Linux/libUE4Editor-TintmillEditor.so");
+	const FResult Result =
+		Run("--project '" + Folder.NativePath("Project").string() + "'", (Engine / "Binaries/Linux/tintmill-editor").string());
+	EXPECT_NE(Result.Code, 0);
+	EXPECT_NE(Result.Output.find("Assertion failed: Module [File:"), std::string::npos) << Result.Output;
+	EXPECT_NE(Result.Output.find("\nTintmillEditor\n"), std::string::npos) << Result.Output;
 }
 
 TEST_F(HostProgram, AFolderThatCannotBeWrittenMakesOneSentence)

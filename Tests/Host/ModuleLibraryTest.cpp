@@ -8,11 +8,13 @@
 #include "Editor/EditorEngine.h"
 #include "Engine/GameViewportClient.h"
 #include "IAssetTools.h"
+#include "Interfaces/IPluginManager.h"
 #include "Misc/ConfigCacheIni.h"
 #include "Misc/Paths.h"
 #include "Modules/ModuleManager.h"
 #include "StandIn/EngineLoop.h"
 #include "StandIn/ModuleHooks.h"
+#include "StandIn/PlaySession.h"
 #include "StandIn/Registrations.h"
 #include "Styling/SlateStyleRegistry.h"
 #include "TintmillObject.h"
@@ -101,6 +103,8 @@ protected:
 	std::vector<std::string> Leftovers;
 };
 
+typedef ModuleLibrary ModuleLibraryDeathTest;
+
 TEST_F(ModuleLibrary, IsMappedByThePlugIn)
 {
 	EXPECT_TRUE(StandIn::IsModuleBinaryMapped(ModuleName));
@@ -140,6 +144,17 @@ TEST_F(ModuleLibrary, CanBeLoadedAgainTenTimes)
 	}
 	EXPECT_NE(FindSettingsClass(), nullptr);
 	EXPECT_NE(FSlateStyleRegistry::FindSlateStyle(TEXT("TintmillStyle")), nullptr);
+}
+
+TEST_F(ModuleLibraryDeathTest, AMissingRuntimeModuleIsFatalAndNamed)
+{
+	EXPECT_DEATH(
+		{
+			FModuleManager::Get().UnloadModule(TEXT("Tintmill"));
+			StandIn::RemoveBinariesDirectory(IPluginManager::Get().FindPlugin(TEXT("Tintmill"))->GetBaseDir() / TEXT("Binaries/Linux"));
+			StandIn::BroadcastLevelViewportClientListChanged();
+		},
+		"Assertion failed: Module \\[File:.*\\] \\[Line: [0-9]+\\] \nTintmill\n");
 }
 
 TEST_F(ModuleLibrary, SharesTheEditorEngineWithTheProgram)

@@ -12,8 +12,12 @@
 #include "StandIn/PlaySession.h"
 #include "TintmillDisplayManager.h"
 #include "TintmillObject.h"
+#include "ToolMenu.h"
+#include "ToolMenus.h"
 
 #include <gtest/gtest.h>
+
+#include <algorithm>
 
 // How a pane's look outlives its client: restored when the pane comes, saved when it goes.
 
@@ -50,6 +54,44 @@ protected:
 		GEditor->OnLevelViewportClientListChanged().RemoveAll(GetModule());
 		return Event;
 	}
+
+	/** The clients of the panes, first to last; good for comparing when the panes are gone. */
+	static std::vector<FViewportClient*> ListClients()
+	{
+		std::vector<FViewportClient*> Clients;
+		for (const TSharedPtr<SLevelViewport>& Pane : StandIn::GetPanes())
+		{
+			Clients.push_back(&Pane->GetLevelViewportClient());
+		}
+		return Clients;
+	}
+
+	/** Assembles the submenu of the active pane, as hovering its entry does. */
+	static void OpenMenuOfTheActivePane()
+	{
+		UToolMenu* const Menu = UToolMenus::Get()->GenerateMenu(TEXT("LevelEditor.LevelViewportToolBar.View"), FToolMenuContext());
+		UToolMenus::Get()->GenerateSubMenu(Menu, TEXT("TMLDisplaySubMenu"));
+	}
+
+	/** Calls back at every line of this text while it lives. */
+	class FLineWatch
+	{
+	public:
+		FLineWatch(const TCHAR* Text, const TFunction<void()>& Seen)
+			: Handle(StandIn::OnLogRecord().AddLambda([Text, Seen](const StandIn::FLogRecord& Record) {
+				if (FString(Record.Text) == Text)
+				{
+					Seen();
+				}
+			}))
+		{}
+		~FLineWatch() { StandIn::OnLogRecord().Remove(Handle); }
+		FLineWatch(const FLineWatch&) = delete;
+		FLineWatch& operator=(const FLineWatch&) = delete;
+
+	private:
+		FDelegateHandle Handle;
+	};
 
 	/** Changes what a pane displays, as its menu does. */
 	static void Display(int32 Number, bool bEnable, float Intensity)
@@ -114,6 +156,67 @@ TEST_F(FLevelViewportTracking, TheLineOfARestoredPaneStandsOnLine293OfTheModules
 	ASSERT_EQ(Lines.size(), 1u);
 	EXPECT_EQ(std::filesystem::path(Lines[0].File).filename(), "TintmillEditorModule.cpp");
 	EXPECT_EQ(Lines[0].Line, 293);
+}
+
+TEST_F(FLevelViewportTracking, EveryRestoredPaneLogsALine)
+{
+	WriteSettings({MakePair(FourPaneKey(0), true, "1.000000", ""), MakePair(FourPaneKey(1), false, "1.000000", ""),
+		MakePair(FourPaneKey(2), true, "1.000000", "Teal"), MakePair(FourPaneKey(3), false, "1.000000", "Teal")});
+	StartEditor(FourPanes);
+	EXPECT_EQ(Log.Count(RestoredLine), 4);
+}
+
+TEST_F(FLevelViewportTracking, PanesThatAppearedTogetherAreRestoredInTheEditorsOrder)
+{
+	WriteSettings({MakePair(FourPaneKey(3), true, "1.000000", ""), MakePair(FourPaneKey(2), true, "1.000000", ""),
+		MakePair(FourPaneKey(1), true, "1.000000", ""), MakePair(FourPaneKey(0), true, "1.000000", "")});
+	StartEditor(OnePane);
+	const TMulticastDelegate<void()> Event = TakeListEvent();
+	StandIn::SetViewportLayout(FourPanes);
+	// At each line, which panes display a look's place by now.
+	std::string Restored;
+	const FLineWatch Watch(RestoredLine, [&] {
+		for (int32 Number = 0; Number < 4; ++Number)
+		{
+			Restored += FindRecord(Number) && FindRecord(Number)->bEnableDisplay ? std::to_string(Number) : "";
+		}
+		Restored += ' ';
+	});
+	Event.Broadcast();
+	EXPECT_EQ(Restored, "0 01 012 0123 ");
+}
+
+TEST_F(FLevelViewportTracking, PanesThatAppearWhileOthersAreRestoredDisturbNothing)
+{
+	WriteSettings({MakePair(FourPaneKey(0), true, "1.000000", ""), MakePair(FourPaneKey(1), true, "1.000000", ""),
+		MakePair(FourPaneKey(2), true, "1.000000", ""), MakePair(FourPaneKey(3), true, "1.000000", "")});
+	StartEditor(OnePane);
+	const TMulticastDelegate<void()> Event = TakeListEvent();
+	StandIn::SetViewportLayout(FourPanes);
+	bool bOpened = false;
+	const FLineWatch Watch(RestoredLine, [&] {
+		if (!bOpened)
+		{
+			bOpened = true;
+			StandIn::OpenViewportTab(2, FourPanes);
+			StandIn::OpenViewportTab(3, FourPanes);
+		}
+	});
+	Event.Broadcast();
+	EXPECT_TRUE(FindRecord(3)->bEnableDisplay);
+	EXPECT_TRUE(Log.InCategory(TEXT("LogOutputDevice")).empty());
+}
+
+TEST_F(FLevelViewportTracking, TheLineOfADepartedPaneIsAWarningOfTheTemporaryCategory)
+{
+	WriteSettings({MakePair(OnePaneKey, true, "1.000000", "")});
+	StartEditor(OnePane);
+	Log.Clear();
+	StandIn::CloseLevelEditor();
+	const std::vector<FCapturedLog::FLine> Lines = Log.InCategory(TEXT("LogTemp"));
+	ASSERT_EQ(Lines.size(), 1u);
+	EXPECT_EQ(Lines[0].Verbosity, ELogVerbosity::Warning);
+	EXPECT_EQ(Lines[0].Text, FString(SavedLine));
 }
 
 TEST_F(FLevelViewportTracking, TheLineOfADepartedPaneStandsOnLine223OfTheModulesSource)
@@ -224,6 +327,20 @@ TEST_F(FLevelViewportTracking, ADepartedPaneWithoutARecordLeavesNoTrace)
 	EXPECT_TRUE(Log.InCategory(TEXT("LogTemp")).empty());
 }
 
+TEST_F(FLevelViewportTracking, ADepartedPaneWithoutARecordIsForgotten)
+{
+	WriteSettings({MakePair(OnePaneKey, true, "0.500000", "")});
+	StartEditor(OnePane);
+	FViewportClient* const Client = GetClient(0);
+	GetDisplayManager().RemoveDisplayConfiguration(Client);
+	StandIn::CloseLevelEditor();
+	// Whoever gets a record under that address later is somebody else.
+	GetDisplayManager().FindOrAddDisplayConfiguration(Client).Intensity = 0.125f;
+	ReportListChange();
+	EXPECT_EQ(ReadSettings(), std::vector<std::string>{MakePair(OnePaneKey, true, "0.500000", "")});
+	EXPECT_TRUE(GetDisplayManager().RemoveDisplayConfiguration(Client));
+}
+
 TEST_F(FLevelViewportTracking, EveryDepartedPaneWithARecordLogsALine)
 {
 	WriteSettings({MakePair(FourPaneKey(0), true, "1.000000", ""), MakePair(FourPaneKey(1), true, "1.000000", ""),
@@ -237,15 +354,11 @@ TEST_F(FLevelViewportTracking, PanesThatDepartedTogetherAreSavedInTheOrderInWhic
 {
 	StartEditor(FourPanes);
 	ReportListChange();
-	std::vector<const FViewportClient*> Clients;
-	for (int32 Number = 0; Number < 4; ++Number)
-	{
-		Clients.push_back(GetClient(Number));
-	}
+	const std::vector<FViewportClient*> Clients = ListClients();
 	// At each line, which clients still have a record.
 	std::string Remaining;
-	const FDelegateHandle Handle = StandIn::OnLogRecord().AddLambda([&](const StandIn::FLogRecord& Record) {
-		for (size_t Index = 0; FString(Record.Text) == SavedLine && Index < Clients.size(); ++Index)
+	const FLineWatch Watch(SavedLine, [&] {
+		for (size_t Index = 0; Index < Clients.size(); ++Index)
 		{
 			Remaining += GetDisplayManager().GetDisplayConfiguration(Clients[Index]) ? std::to_string(Index) : "";
 		}
@@ -254,8 +367,28 @@ TEST_F(FLevelViewportTracking, PanesThatDepartedTogetherAreSavedInTheOrderInWhic
 	const TMulticastDelegate<void()> Event = TakeListEvent();
 	StandIn::CloseLevelEditor();
 	Event.Broadcast();
-	StandIn::OnLogRecord().Remove(Handle);
 	EXPECT_EQ(Remaining, "123 23 3  ");
+}
+
+TEST_F(FLevelViewportTracking, PanesThatDepartedTogetherAreSavedOneByOneEachBeforeItsLine)
+{
+	StartEditor(FourPanes);
+	ReportListChange();
+	for (int32 Number = 0; Number < 4; ++Number)
+	{
+		Display(Number, true, 0.25f);
+	}
+	// At each line, how many panes the file has as they were left.
+	std::string Saved;
+	const FLineWatch Watch(SavedLine, [&] {
+		const std::vector<std::string> Pairs = ReadSettings();
+		Saved += std::to_string(std::count_if(
+			Pairs.begin(), Pairs.end(), [](const std::string& Pair) { return Pair.find("Intensity=0.250000") != std::string::npos; }));
+	});
+	const TMulticastDelegate<void()> Event = TakeListEvent();
+	StandIn::CloseLevelEditor();
+	Event.Broadcast();
+	EXPECT_EQ(Saved, "1234");
 }
 
 TEST_F(FLevelViewportTracking, PanesThatDepartedTogetherCauseALineEach)
@@ -305,6 +438,48 @@ TEST_F(FLevelViewportTracking, AClientWithoutAPaneIsLeftAlone)
 	StartEditor(OnePane);
 	const FLevelEditorViewportClient Client{TSharedPtr<SLevelViewport>()};
 	EXPECT_EQ(GetDisplayManager().GetDisplayConfiguration(&Client), nullptr);
+}
+
+TEST_F(FLevelViewportTracking, AClientThatGetsItsPaneLaterIsRestoredAtTheNextListChange)
+{
+	WriteSettings({MakePair(OnePaneKey, true, "0.500000", "Teal")});
+	InitEngine();
+	FLevelEditorViewportClient Client{TSharedPtr<SLevelViewport>()};
+	StandIn::OpenLevelEditor(OnePane, NAME_None);
+	Client.SetEditorViewportWidget(TWeakPtr<SEditorViewport>(GetPane(0)));
+	ReportListChange();
+	EXPECT_EQ(LookName(GetDisplayManager().GetDisplayConfiguration(&Client)), "Teal");
+	StandIn::CloseLevelEditor();
+}
+
+TEST_F(FLevelViewportTracking, APaneThatItsMenuTracksFirstIsNotGivenItsSavedLook)
+{
+	WriteSettings({MakePair("TwoPanesVert.Viewport 1.Viewport0", true, "0.500000", "Teal")});
+	StartEditor(OnePane);
+	const TMulticastDelegate<void()> Event = TakeListEvent();
+	StandIn::SetViewportLayout(TEXT("TwoPanesVert"));
+	StandIn::ActivatePane(TEXT("TwoPanesVert.Viewport 1.Viewport0"));
+	OpenMenuOfTheActivePane();
+	Event.Broadcast();
+	EXPECT_EQ(LookName(FindRecord(0)), "");
+	EXPECT_EQ(Log.Count(RestoredLine), 0);
+}
+
+TEST_F(FLevelViewportTracking, APaneThatItsMenuTracksIsSavedUnderItsKeyWhenItDeparts)
+{
+	StartEditor(OnePane);
+	OpenMenuOfTheActivePane();
+	Display(0, true, 0.5f);
+	StandIn::CloseLevelEditor();
+	EXPECT_EQ(ReadSettings(), std::vector<std::string>{MakePair(OnePaneKey, true, "0.500000", "")});
+}
+
+TEST_F(FLevelViewportTracking, AMenuThatTracksItsPaneSavesAndLogsNothing)
+{
+	StartEditor(OnePane);
+	OpenMenuOfTheActivePane();
+	EXPECT_TRUE(ReadSettings().empty());
+	EXPECT_TRUE(Log.InCategory(TEXT("LogTemp")).empty());
 }
 
 TEST_F(FLevelViewportTracking, AClientThatTheRuntimeModuleKnowsAlreadyIsStillRestored)

@@ -38,6 +38,8 @@ FModuleFixture::FModuleFixture()
 FModuleFixture::~FModuleFixture()
 {
 	ExitEditor();
+	// A test that took the exit's steps itself has not been through ExitEditor.
+	RemoveDeliberateLeftovers();
 	StandIn::UnregisterMountPoint(TEXT("/Game/"));
 	StandIn::ClearNotices();
 }

@@ -3,13 +3,16 @@
 #include "TintmillEditorSettings.h"
 
 #include "Support/Printers.h"
+#include "Support/Text.h"
 #include "TintmillEditor/ModuleFixture.h"
 
 #include "CoreGlobals.h"
 #include "Misc/ConfigCacheIni.h"
+#include "StandIn/ReflectionData.h"
 #include "TintmillObject.h"
 #include "UObject/Class.h"
 #include "UObject/Package.h"
+#include "UObject/UObjectIterator.h"
 #include "UObject/UnrealType.h"
 
 #include <gtest/gtest.h>
@@ -38,6 +41,18 @@ protected:
 	static UScriptStruct* PairStruct() { return FTMLPerViewportDisplaySettingPair::StaticStruct(); }
 
 	static const FProperty* FindProperty(const UStruct* Struct, const TCHAR* Name) { return Struct->FindPropertyByName(FName(Name)); }
+
+	/** Metadata as "key=value" in the order of declaration. */
+	template <typename FieldType>
+	static std::vector<std::string> MetaDataOf(const FieldType* Field)
+	{
+		std::vector<std::string> Result;
+		for (const TPair<FString, FString>& Entry : StandIn::GetMetaDataInOrder(Field))
+		{
+			Result.push_back(ToStd(Entry.Key) + "=" + ToStd(Entry.Value));
+		}
+		return Result;
+	}
 
 	static const FArrayProperty* ViewportsSettings()
 	{
@@ -87,7 +102,7 @@ TEST_F(FTintmillEditorSettings, TheClassDerivesFromUObject)
 TEST_F(FTintmillEditorSettings, TheArrayIsAProtectedConfigProperty)
 {
 	PreInit();
-	EXPECT_EQ(ViewportsSettings()->PropertyFlags & 0x0020080000004000ull, 0x0020080000004000ull);
+	EXPECT_EQ(static_cast<uint64>(StandIn::GetDeclaredPropertyFlags(ViewportsSettings())), 0x0020080000004000ull);
 }
 
 TEST_F(FTintmillEditorSettings, TheArrayIsNeitherEditedNorSeenByBlueprints)
@@ -99,9 +114,7 @@ TEST_F(FTintmillEditorSettings, TheArrayIsNeitherEditedNorSeenByBlueprints)
 TEST_F(FTintmillEditorSettings, TheArraysElementsAreConfigAndNothingElse)
 {
 	PreInit();
-	const uint64 Declared = CPF_Config | CPF_Protected | CPF_NativeAccessSpecifierProtected | CPF_NativeAccessSpecifierPublic
-		| CPF_NativeAccessSpecifierPrivate | CPF_Edit;
-	EXPECT_EQ(ViewportsSettings()->Inner->PropertyFlags & Declared, static_cast<uint64>(CPF_Config));
+	EXPECT_EQ(static_cast<uint64>(StandIn::GetDeclaredPropertyFlags(ViewportsSettings()->Inner)), 0x0000000000004000ull);
 }
 
 TEST_F(FTintmillEditorSettings, TheArraysElementsArePairs)
@@ -114,8 +127,7 @@ TEST_F(FTintmillEditorSettings, ThePairIsNativeAndHasNoSuperStruct)
 {
 	PreInit();
 	EXPECT_EQ(PairStruct()->GetSuperStruct(), nullptr);
-	EXPECT_EQ(static_cast<uint32>(PairStruct()->StructFlags) & (STRUCT_Native | STRUCT_RequiredAPI | STRUCT_HasInstancedReference),
-		STRUCT_Native);
+	EXPECT_EQ(static_cast<uint32>(StandIn::GetDeclaredStructFlags(PairStruct())), 0x00000001u);
 }
 
 TEST_F(FTintmillEditorSettings, ThePairsReflectedNameHasNoPrefix)
@@ -140,7 +152,7 @@ TEST_F(FTintmillEditorSettings, ThePairsFieldsArePublicConfigProperties)
 	PreInit();
 	for (TFieldIterator<FProperty> It(PairStruct()); It; ++It)
 	{
-		EXPECT_EQ(It->PropertyFlags & 0x0070000000004000ull, 0x0010000000004000ull) << TCHAR_TO_UTF8(*It->GetName());
+		EXPECT_EQ(static_cast<uint64>(StandIn::GetDeclaredPropertyFlags(*It)), 0x0010000000004000ull) << TCHAR_TO_UTF8(*It->GetName());
 	}
 }
 
@@ -151,32 +163,115 @@ TEST_F(FTintmillEditorSettings, ThePairsConfigurationIsTheRuntimeModulesStruct)
 	EXPECT_EQ(Property->Struct, FTintmillDisplayConfiguration::StaticStruct());
 }
 
-TEST_F(FTintmillEditorSettings, TheIdentifiersCommentKeepsItsTwoBlanks)
+TEST_F(FTintmillEditorSettings, TheIdentifiersMetadataKeepsTheTwoBlanksOfItsComment)
 {
 	PreInit();
-	EXPECT_EQ(FindProperty(PairStruct(), TEXT("ViewportIdentifier"))->GetMetaData(TEXT("Comment")),
-		FString(TEXT("/*  Name associated with this viewport's layout to identify it. */")));
+	EXPECT_EQ(MetaDataOf(FindProperty(PairStruct(), TEXT("ViewportIdentifier"))),
+		(std::vector<std::string>{"Comment=/*  Name associated with this viewport's layout to identify it. */",
+			"ModuleRelativePath=Private/TintmillEditorSettings.h", "ToolTip=Name associated with this viewport's layout to identify it."}));
 }
 
-TEST_F(FTintmillEditorSettings, TheClassCommentKeepsItsLines)
+TEST_F(FTintmillEditorSettings, TheConfigurationsMetadataIsCommentPathAndToolTip)
 {
 	PreInit();
-	EXPECT_EQ(UTintmillLevelViewportSettings::StaticClass()->GetMetaData(TEXT("Comment")),
-		FString(TEXT("/**\n* List of Tintmill objects associated to level viewport instances linked with an identifier\n*/")));
+	EXPECT_EQ(MetaDataOf(FindProperty(PairStruct(), TEXT("DisplayConfiguration"))),
+		(std::vector<std::string>{"Comment=/* Display configuration for a given viewport */",
+			"ModuleRelativePath=Private/TintmillEditorSettings.h", "ToolTip=Display configuration for a given viewport"}));
 }
 
-TEST_F(FTintmillEditorSettings, TheArraysToolTipIsItsCommentWithoutMarks)
+TEST_F(FTintmillEditorSettings, TheClassMetadataKeepsTheLinesOfItsComment)
 {
 	PreInit();
-	EXPECT_EQ(ViewportsSettings()->GetMetaData(TEXT("ToolTip")), FString(TEXT("Settings associated to each viewport that was configured")));
+	EXPECT_EQ(MetaDataOf(UTintmillLevelViewportSettings::StaticClass()),
+		(std::vector<std::string>{
+			"Comment=/**\n* List of Tintmill objects associated to level viewport instances linked with an identifier\n*/",
+			"IncludePath=TintmillEditorSettings.h", "ModuleRelativePath=Private/TintmillEditorSettings.h",
+			"ToolTip=List of Tintmill objects associated to level viewport instances linked with an identifier"}));
 }
 
-TEST_F(FTintmillEditorSettings, TheStructsOnlyMetadataIsItsPath)
+TEST_F(FTintmillEditorSettings, TheArraysMetadataIsCommentPathAndToolTip)
 {
 	PreInit();
-	EXPECT_TRUE(PairStruct()->HasMetaData(TEXT("ModuleRelativePath")));
-	EXPECT_FALSE(PairStruct()->HasMetaData(TEXT("Comment")));
-	EXPECT_FALSE(PairStruct()->HasMetaData(TEXT("ToolTip")));
+	EXPECT_EQ(MetaDataOf(ViewportsSettings()),
+		(std::vector<std::string>{"Comment=/** Settings associated to each viewport that was configured */",
+			"ModuleRelativePath=Private/TintmillEditorSettings.h", "ToolTip=Settings associated to each viewport that was configured"}));
+}
+
+TEST_F(FTintmillEditorSettings, TheArraysElementsHaveNoMetadata)
+{
+	PreInit();
+	EXPECT_EQ(MetaDataOf(ViewportsSettings()->Inner), std::vector<std::string>());
+}
+
+TEST_F(FTintmillEditorSettings, ThePairsOnlyMetadataIsItsPath)
+{
+	PreInit();
+	EXPECT_EQ(MetaDataOf(PairStruct()), std::vector<std::string>{"ModuleRelativePath=Private/TintmillEditorSettings.h"});
+}
+
+TEST_F(FTintmillEditorSettings, ThePairHasNativeStructOperations)
+{
+	PreInit();
+	EXPECT_NE(PairStruct()->GetCppStructOps(), nullptr);
+}
+
+TEST_F(FTintmillEditorSettings, TheClassLivesWithinAnyObject)
+{
+	PreInit();
+	EXPECT_EQ(UTintmillLevelViewportSettings::StaticClass()->ClassWithin, UObject::StaticClass());
+}
+
+TEST_F(FTintmillEditorSettings, TheClassIsDeclaredWithTheConfigFlagAlone)
+{
+	EXPECT_EQ(static_cast<uint32>(UTintmillLevelViewportSettings::StaticClassFlags), static_cast<uint32>(CLASS_Config | CLASS_Intrinsic));
+}
+
+TEST_F(FTintmillEditorSettings, TheArrayIsTheClassesOnlyProperty)
+{
+	PreInit();
+	TArray<FString> Names;
+	for (TFieldIterator<FProperty> It(UTintmillLevelViewportSettings::StaticClass()); It; ++It)
+	{
+		Names.Add(It->GetName());
+	}
+	EXPECT_EQ(Names, TArray<FString>{TEXT("ViewportsSettings")});
+}
+
+TEST_F(FTintmillEditorSettings, NoObjectOfTheClassIsEverMadeBesideTheDefaultOne)
+{
+	WriteSettings({MakePair("FourPanes2x2.Viewport 1.Viewport0", true, "0.500000", "Teal")});
+	StartEditor(TEXT("FourPanes2x2"));
+	TArray<FString> Names;
+	for (TObjectIterator<UTintmillLevelViewportSettings> It(RF_NoFlags); It; ++It)
+	{
+		Names.Add(It->GetName());
+	}
+	EXPECT_EQ(Names, TArray<FString>{TEXT("Default__TintmillLevelViewportSettings")});
+}
+
+TEST_F(FTintmillEditorSettings, AnEmptySectionGivesNoConfigurations)
+{
+	WriteSettings({});
+	PreInit();
+	EXPECT_EQ(Settings()->FindDisplayConfiguration(TEXT("A")), nullptr);
+}
+
+TEST_F(FTintmillEditorSettings, IdentifiersThatDifferByNumberAreNotTheSame)
+{
+	WriteSettings({MakePair("A_1", true, "1.000000", "")});
+	PreInit();
+	EXPECT_EQ(Settings()->FindDisplayConfiguration(TEXT("A_2")), nullptr);
+	EXPECT_EQ(Settings()->FindDisplayConfiguration(TEXT("A")), nullptr);
+}
+
+TEST_F(FTintmillEditorSettings, APairWithoutAConfigurationHasTheDefaults)
+{
+	WriteSettings({"(ViewportIdentifier=\"A\")"});
+	PreInit();
+	ASSERT_NE(Settings()->FindDisplayConfiguration(TEXT("A")), nullptr);
+	EXPECT_FALSE(Settings()->FindDisplayConfiguration(TEXT("A"))->bEnableDisplay);
+	EXPECT_FLOAT_EQ(Settings()->FindDisplayConfiguration(TEXT("A"))->Intensity, 1.0f);
+	EXPECT_EQ(Settings()->FindDisplayConfiguration(TEXT("A"))->LookAsset, nullptr);
 }
 
 TEST_F(FTintmillEditorSettings, AnEmptyFileGivesNoConfigurations)

@@ -7,6 +7,7 @@
 #include "Editor.h"
 #include "Editor/EditorEngine.h"
 #include "LevelEditorViewport.h"
+#include "Modules/ModuleManager.h"
 #include "SLevelViewport.h"
 #include "Slate/SceneViewport.h"
 #include "StandIn/LevelEditorPanes.h"

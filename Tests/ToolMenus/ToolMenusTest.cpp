@@ -2,6 +2,7 @@
 
 #include "ToolMenus.h"
 #include "Misc/CoreDelegates.h"
+#include "Modules/ModuleManager.h"
 #include "StandIn/LogRecord.h"
 #include "StandIn/Registrations.h"
 #include "ToolMenuFixture.h"
@@ -9,6 +10,7 @@
 #include "UObject/UObjectGlobals.h"
 
 using UToolMenusTest = FToolMenuFixture;
+using UToolMenusDeathTest = FToolMenuFixture;
 using UToolMenusUserTest = FToolMenuUserFixture;
 
 namespace ToolMenusTestPrivate
@@ -236,11 +238,22 @@ TEST_F(UToolMenusTest, RegistrationsListSectionsAndEntriesOfAnOwner)
 	EXPECT_EQ(ToolMenusTestPrivate::CountRegistrations(this), 2);
 }
 
-TEST_F(UToolMenusTest, UnregisterOwnerIsHarmlessWithoutObjectSystem)
+TEST_F(UToolMenusTest, UnregisterOwnerIsHarmlessWithoutTheModule)
 {
-	StandIn::ShutdownObjectSystem();
+	FModuleManager::Get().UnloadModule("ToolMenus");
 	UToolMenus::UnregisterOwner(this);
 	EXPECT_EQ(UToolMenus::TryGet(), nullptr);
+}
+
+TEST_F(UToolMenusDeathTest, UnregisterOwnerIsFatalWhenOnlyTheModuleIsLeft)
+{
+	UToolMenus::Get();
+	EXPECT_DEATH(
+		{
+			StandIn::ShutdownObjectSystem();
+			UToolMenus::UnregisterOwner(this);
+		},
+		"The object system is not running");
 }
 
 TEST_F(UToolMenusTest, RemoveMenuForgetsTheMenu)

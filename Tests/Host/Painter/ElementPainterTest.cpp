@@ -248,13 +248,19 @@ TEST_F(ElementPainter, AMissingImageIsACheckerboard)
 	EXPECT_EQ(At(Picture, 2, 2), At(Picture, 10, 10));
 }
 
-TEST_F(ElementPainter, AnObjectsPictureTakesThePlaceOfAnImage)
+TEST_F(ElementPainter, AnImageThatIsNoFileComesFromItsSource)
 {
 	const FColor Pixel = FColor::Blue;
-	Painter.SetObjectPictures([&Pixel](UObject*, const FIntPoint&) { return FPictureView{FIntPoint(1, 1), &Pixel}; });
-	int Object = 0;
-	AddBox(Place(0, 0, 4, 4), FSlateImageBrush(reinterpret_cast<UObject*>(&Object), FVector2D(4, 4)));
+	Painter.SetBrushPictures([&Pixel](const FSlateBrush&, const FIntPoint&) { return FPictureView{FIntPoint(1, 1), &Pixel}; });
+	AddBox(Place(0, 0, 4, 4), FSlateImageBrush(FName("Thumbnail:Teal"), FVector2D(4, 4)));
 	EXPECT_EQ(At(Paint(4, 4), 2, 2), FColor::Blue);
+}
+
+TEST_F(ElementPainter, AnImageThatItsSourceDoesNotKnowIsAFile)
+{
+	Painter.SetBrushPictures([](const FSlateBrush&, const FIntPoint&) { return FPictureView(); });
+	AddBox(Place(0, 0, 6, 6), FSlateImageBrush(WriteFrameImage(), FVector2D(6, 6)));
+	EXPECT_EQ(At(Paint(6, 6), 0, 0), FColor::Red);
 }
 
 TEST_F(ElementPainter, ALineOfOneUnitIsOnePixelWide)

@@ -38,7 +38,7 @@ UToolMenus* UToolMenus::TryGetExisting()
 
 UToolMenus* UToolMenus::TryGet()
 {
-	return UObjectInitialized() && FModuleManager::Get().IsModuleLoaded(TEXT("ToolMenus")) ? Get() : nullptr;
+	return FModuleManager::Get().IsModuleLoaded(TEXT("ToolMenus")) ? Get() : nullptr;
 }
 
 void UToolMenus::AddReferencedObjects(UObject* InThis, FReferenceCollector& Collector)

@@ -30,13 +30,13 @@ class TOOLMENUS_API UToolMenus : public UObject
 public:
 	UToolMenus();
 
-	/** The manager; made on first use, with its module loaded. */
+	/** The manager; made on first use, with its module loaded, and fatal once the object system is gone. */
 	static UToolMenus* Get();
 
-	/** The manager, or null if its module is not loaded. */
+	/** The manager, or null if its module is not loaded; fatal as Get is while the module outlives the object system. */
 	static UToolMenus* TryGet();
 
-	/** Removes everything of an owner; the empty owner has nothing, and without a manager nothing happens. */
+	/** Removes everything of an owner from what TryGet gives; the empty owner has nothing, and without the module nothing happens. */
 	static void UnregisterOwner(FToolMenuOwner Owner);
 
 	/** Removes everything of an owner that is a name. */

@@ -11,12 +11,12 @@ namespace StandInPrivate
 /** What UObjectBase takes over when its constructor runs. */
 struct FPendingObject
 {
-	void* Memory;
-	UClass* Class;
-	UObject* Outer;
+	void* Memory = nullptr;
+	UClass* Class = nullptr;
+	UObject* Outer = nullptr;
 	FName Name;
-	EObjectFlags Flags;
-	EInternalObjectFlags InternalFlags;
+	EObjectFlags Flags = RF_NoFlags;
+	EInternalObjectFlags InternalFlags = EInternalObjectFlags::None;
 };
 
 /** Announces an object that is about to be constructed. */

@@ -80,7 +80,7 @@ public: \
 #define IMPLEMENT_FIELD(TClass) \
 	FFieldClass* TClass::StaticClass() \
 	{ \
-		static FFieldClass StaticFieldClass(TEXT(#TClass) + 1, TClass::StaticClassCastFlags(), TClass::Super::StaticClass()); \
+		static FFieldClass StaticFieldClass(&TEXT(#TClass)[1], TClass::StaticClassCastFlags(), TClass::Super::StaticClass()); \
 		return &StaticFieldClass; \
 	}
 

@@ -5,6 +5,8 @@
 #include "Brushes/SlateColorBrush.h"
 #include "ClassIconFinder.h"
 #include "Rendering/DrawElements.h"
+#include "StandIn/AssetThumbnails.h"
+#include "StandIn/TextLines.h"
 #include "Styling/CoreStyle.h"
 
 namespace AssetPickerListPrivate
@@ -80,8 +82,13 @@ int32 SAssetPickerList::PaintRow(const int32 Index, const FVector2D& Position, c
 	const FVector2D Thumbnail = Position + FVector2D(4.0f, 4.0f);
 	FSlateDrawElement::MakeBox(OutDrawElements, LayerId + 1,
 		AllottedGeometry.ToPaintGeometry(Thumbnail, FVector2D(ThumbnailSize, ThumbnailSize)), White(), ESlateDrawEffect::None, PlateColor);
-	const FSlateBrush* Brush = FClassIconFinder::FindThumbnailForClass(Item.Asset.GetClass());
-	if (Brush)
+	if (const FSlateBrush* OwnThumbnail = StandIn::FindAssetThumbnail(Item.Asset))
+	{
+		FSlateDrawElement::MakeBox(OutDrawElements, LayerId + 2,
+			AllottedGeometry.ToPaintGeometry(Thumbnail, FVector2D(ThumbnailSize, ThumbnailSize - StripHeight)), OwnThumbnail,
+			ESlateDrawEffect::None, FLinearColor::White);
+	}
+	else if (const FSlateBrush* Brush = FClassIconFinder::FindThumbnailForClass(Item.Asset.GetClass()))
 	{
 		FSlateDrawElement::MakeBox(OutDrawElements, LayerId + 2,
 			AllottedGeometry.ToPaintGeometry(Thumbnail + FVector2D(2.0f, 1.0f), FVector2D(ThumbnailSize - 4.0f, ThumbnailSize - 4.0f)),
@@ -100,10 +107,12 @@ int32 SAssetPickerList::PaintRow(const int32 Index, const FVector2D& Position, c
 	const FVector2D TextSize(FMath::Max(0.0f, Size.X - ThumbnailSize - 14.0f), 16.0f);
 	const FLinearColor NameColor = bSelected ? FLinearColor::Black : TextColor;
 	const FLinearColor TypeColor = bSelected ? FLinearColor(0.05f, 0.03f, 0.0f) : DimTextColor;
-	FSlateDrawElement::MakeText(OutDrawElements, LayerId + 3, AllottedGeometry.ToPaintGeometry(TextPosition, TextSize), Item.Label,
-		FCoreStyle::GetDefaultFontStyle(TEXT("Regular"), 9), ESlateDrawEffect::None, NameColor);
+	const FSlateFontInfo NameFont = FCoreStyle::GetDefaultFontStyle(TEXT("Regular"), 9);
+	const FSlateFontInfo TypeFont = FCoreStyle::GetDefaultFontStyle(TEXT("Regular"), 8);
+	FSlateDrawElement::MakeText(OutDrawElements, LayerId + 3, AllottedGeometry.ToPaintGeometry(TextPosition, TextSize),
+		StandIn::CutWithEllipsis(Item.Label, NameFont, TextSize.X), NameFont, ESlateDrawEffect::None, NameColor);
 	FSlateDrawElement::MakeText(OutDrawElements, LayerId + 3,
-		AllottedGeometry.ToPaintGeometry(TextPosition + FVector2D(0.0f, 16.0f), TextSize), GetTypeLabel(Item.Asset),
-		FCoreStyle::GetDefaultFontStyle(TEXT("Regular"), 8), ESlateDrawEffect::None, TypeColor);
+		AllottedGeometry.ToPaintGeometry(TextPosition + FVector2D(0.0f, 16.0f), TextSize),
+		StandIn::CutWithEllipsis(GetTypeLabel(Item.Asset), TypeFont, TextSize.X), TypeFont, ESlateDrawEffect::None, TypeColor);
 	return LayerId + 3;
 }

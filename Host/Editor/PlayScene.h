@@ -1,0 +1,46 @@
+// Copyright The Tintmill authors. All rights reserved.
+
+#pragma once
+
+#include "CoreMinimal.h"
+#include "Delegates/Delegate.h"
+#include "Host/Scene/SceneCamera.h"
+
+class FViewport;
+class FViewportClient;
+
+// What one sees of play: the game has a view of its own, and in it the figures move.
+
+namespace TintmillHost
+{
+class FSceneViews;
+
+/** Moves the scene while play runs, by the editor's frames and no other clock, so that the same frames give the same pictures. */
+class FPlayScene
+{
+public:
+	/** Listens to play; the views must outlive the object. */
+	explicit FPlayScene(FSceneViews& InViews);
+	~FPlayScene();
+	FPlayScene(const FPlayScene&) = delete;
+	FPlayScene& operator=(const FPlayScene&) = delete;
+
+	/** Shows the game from another camera, and still, until play ends or ReleaseGame is called. */
+	void HoldGame(const FSceneCamera& Camera);
+
+	/** Gives the game its own view back, at the time that play has come to. */
+	void ReleaseGame();
+
+private:
+	void OnGameViewportCreated();
+	void OnEndPlay(const bool bIsSimulating);
+	bool Tick(float DeltaSeconds);
+	void MoveGames();
+	void MovePanes(float PaneSeconds, bool bOnlySimulated);
+
+	FSceneViews& Views;
+	FDelegateHandle Ticker;
+	float Seconds = 0.0f;
+	bool bGameHeld = false;
+};
+}
