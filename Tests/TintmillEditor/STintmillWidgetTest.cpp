@@ -444,14 +444,6 @@ TEST_F(FTintmillWidget, TheTogglesLabelClosesTheMenuAndToggles)
 	EXPECT_EQ(Changes.size(), 1u);
 }
 
-TEST_F(FTintmillWidget, TheKeyboardTogglesToo)
-{
-	const TSharedRef<STintmillWidget> Widget = OpenNew();
-	User->Press(EKeys::Down);
-	User->Press(EKeys::Enter);
-	EXPECT_EQ(Changes.size(), 1u);
-}
-
 TEST_F(FTintmillWidget, WithoutAListenerTheCheckMarkStillFlips)
 {
 	User->Open(SNew(STintmillWidget).Viewport(GetViewport(0)));

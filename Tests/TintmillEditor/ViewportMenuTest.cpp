@@ -67,6 +67,14 @@ protected:
 		}
 	}
 
+	/** Unloads the module while the editor runs, and takes the binding off that it leaves on purpose. */
+	static void UnloadLive()
+	{
+		const void* const Module = GetModule();
+		FModuleManager::Get().UnloadModule(TEXT("TintmillEditor"));
+		GEditor->OnLevelViewportClientListChanged().RemoveAll(Module);
+	}
+
 	/** Names of the section's entries. */
 	static std::string GetEntryNames()
 	{
@@ -312,6 +320,16 @@ TEST_F(FViewportMenu, TheKeyboardOpensThePanelToo)
 	User->Press(EKeys::Up);
 	User->Press(EKeys::Right);
 	EXPECT_EQ(ToStd(User->GetLabels(1)), "Enable Display|Select a TML Asset");
+}
+
+TEST_F(FViewportMenu, TheKeyboardTogglesToo)
+{
+	ShowEditor(OnePane);
+	OpenViewMenu();
+	User->Press(EKeys::Up);
+	User->Press(EKeys::Right);
+	User->Press(EKeys::Enter);
+	EXPECT_TRUE(IsOn(0));
 }
 
 TEST_F(FViewportMenu, ASelectionInThePanelClosesAllMenus)
@@ -641,7 +659,7 @@ TEST_F(FViewportMenu, AChangeShowsOnTheNextDraw)
 TEST_F(FViewportMenu, ShutDownTakesTheRowOutOfEveryPanesToolbar)
 {
 	ShowEditor();
-	FModuleManager::Get().UnloadModule(TEXT("TintmillEditor"));
+	UnloadLive();
 	int32 Found = 0;
 	for (int32 Number = 0; Number < 4; ++Number)
 	{
@@ -657,7 +675,7 @@ TEST_F(FViewportMenu, ShutDownLeavesThePanelsMenuRegistered)
 	ShowEditor(OnePane);
 	OpenPanel();
 	CloseMenus();
-	FModuleManager::Get().UnloadModule(TEXT("TintmillEditor"));
+	UnloadLive();
 	EXPECT_TRUE(UToolMenus::Get()->IsMenuRegistered(PanelMenu));
 }
 
@@ -666,7 +684,7 @@ TEST_F(FViewportMenu, LoadedAgainTheModuleTakesThePanelsOldMenu)
 	ShowEditor(OnePane);
 	OpenPanel();
 	CloseMenus();
-	FModuleManager::Get().UnloadModule(TEXT("TintmillEditor"));
+	UnloadLive();
 	FModuleManager::Get().LoadModule(TEXT("TintmillEditor"));
 	OpenPanel();
 	EXPECT_EQ(ToStd(User->GetLabels(1)), "Enable Display|Select a TML Asset");

@@ -79,7 +79,7 @@ TEST_F(UiCommands, AMenuIsOpenedByTheNameOfItsButton)
 
 TEST_F(UiCommands, ViewIsAnotherNameForTheButtonThatReadsLit)
 {
-	ExpectDone("open 2 View; expect menus 1; expect visible Tintmill");
+	ExpectDone("open 0 View; expect menus 1; expect visible Tintmill");
 }
 
 TEST_F(UiCommands, AButtonWithoutAMenuMakesAComplaint)
@@ -165,7 +165,7 @@ TEST_F(UiCommands, ArrowKeysWalkTheListAndChooseNothing)
 TEST_F(UiCommands, ClearEmptiesTheChoice)
 {
 	ExpectDone(Panel
-		+ "hover Select a TML Asset; click Red; hover Red; expect visible Current Asset; click Clear; expect 1.look none; expect visible Select a TML Asset");
+		+ "hover Select a TML Asset; click Red; hover Red; expect visible Current Asset; click Clear; expect menus 0; expect 1.look none");
 }
 
 TEST_F(UiCommands, TheWholeMenuCanBeUsedWithoutTheMouse)
