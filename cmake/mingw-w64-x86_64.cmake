@@ -15,6 +15,9 @@ set(CMAKE_CXX_COMPILER ${MINGW_CXX})
 set(CMAKE_C_COMPILER ${MINGW_CC})
 set(CMAKE_RC_COMPILER ${MINGW_RC})
 
+# This compiler takes the empty half of an optional for an uninitialised variable; the one of the everyday build does not.
+set(CMAKE_CXX_FLAGS_INIT "-Wno-maybe-uninitialized")
+
 # The compiler's run-time libraries go into every program and library, so that none has to be installed with them. All of them allocate
 # from the one C library of the system.
 set(static_runtime "-static-libgcc -static-libstdc++ -Wl,-Bstatic,--whole-archive -lwinpthread -Wl,--no-whole-archive,-Bdynamic")

@@ -147,12 +147,10 @@ void AddUiCommands(FConsole& Console, FHostProgram& Program)
 	FPerson& Person = Program.GetPerson();
 
 	Add("open PANE MENU...", "click a button of a pane's tool bar (View is the one that reads Lit)",
-		[&Person](const FArguments& Words, std::ostream&) {
-			OpenMenu(Person, Words[0], JoinWords(FArguments(Words.begin() + 1, Words.end())));
-		});
-	Add("hover LABEL...", "rest the mouse on something; 'A > B' rests on A first", [&Person](const FArguments& Words, std::ostream&) {
-		Person.Hover(FollowPath(Person, JoinWords(Words)).Center);
-	});
+		[&Person](
+			const FArguments& Words, std::ostream&) { OpenMenu(Person, Words[0], JoinWords(FArguments(Words.begin() + 1, Words.end()))); });
+	Add("hover LABEL...", "rest the mouse on something; 'A > B' rests on A first",
+		[&Person](const FArguments& Words, std::ostream&) { Person.Hover(FollowPath(Person, JoinWords(Words)).Center); });
 	Add("click LABEL...", "click something; 'A > B' rests on A first", [&Person](const FArguments& Words, std::ostream&) {
 		const FSeen Thing = FollowPath(Person, JoinWords(Words));
 		CheckEnabled(Thing);
@@ -176,12 +174,13 @@ void AddUiCommands(FConsole& Console, FHostProgram& Program)
 			throw FCommandError("Nothing takes the text '" + JoinWords(Words) + "': click a text box first.");
 		}
 	});
-	Add("press KEY...", "press keys one after the other, such as Escape, Down or Ctrl+A", [&Person](const FArguments& Words, std::ostream&) {
-		for (const std::string& Word : Words)
-		{
-			Person.Press(ParseKeys(Word));
-		}
-	});
+	Add("press KEY...", "press keys one after the other, such as Escape, Down or Ctrl+A",
+		[&Person](const FArguments& Words, std::ostream&) {
+			for (const std::string& Word : Words)
+			{
+				Person.Press(ParseKeys(Word));
+			}
+		});
 	Add("close-menus", "press Escape until no menu is open", [&Person](const FArguments&, std::ostream&) { CloseMenus(Person); });
 	Add("window WIDTH HEIGHT", "give the window another size in pixels", [&Program](const FArguments& Words, std::ostream&) {
 		const double Width = ParseNumber(Words[0], MinWindowLength, MaxWindowLength, "a width in pixels");
@@ -191,7 +190,8 @@ void AddUiCommands(FConsole& Console, FHostProgram& Program)
 	});
 	Add("shot FILE [SCALE] [CAPTION...]", "save a picture of the window as a PNG in the folder of --out, at 1 to 4 pixels a pixel",
 		[&Program](const FArguments& Words, std::ostream& Output) { TakeShot(Program, Words, Output); });
-	Add("expect WHAT VALUE...", "end the run unless: visible|absent|checked|unchecked|enabled|disabled|focused|tooltip LABEL, active PANE, menus NUMBER, PANE.FIELD VALUE",
+	Add("expect WHAT VALUE...",
+		"end the run unless: visible|absent|checked|unchecked|enabled|disabled|focused|tooltip LABEL, active PANE, menus NUMBER, PANE.FIELD VALUE",
 		[](const FArguments& Words, std::ostream&) { CheckExpectation(Words[0], JoinWords(FArguments(Words.begin() + 1, Words.end()))); });
 }
 }

@@ -57,13 +57,15 @@ void CheckToolTip(const std::string& Text)
 	{
 		Shown += Thing.Kind == ESeenKind::ToolTip ? (Shown.empty() ? "" : " ") + Thing.Label : "";
 	}
-	Require(Shown == Text, "The tool tip was expected to read '" + Text + "', and " + (Shown.empty() ? "there is none." : "it reads '" + Shown + "'."));
+	Require(Shown == Text,
+		"The tool tip was expected to read '" + Text + "', and " + (Shown.empty() ? "there is none." : "it reads '" + Shown + "'."));
 }
 
 void CheckActive(const std::string& Word)
 {
 	const FName Active = GetActivePane()->GetConfigKey();
-	Require(FindPane(Word)->GetConfigKey() == Active, "Pane " + Word + " was expected to be active, and it is " + ToUtf8(Active.ToString()) + ".");
+	Require(FindPane(Word)->GetConfigKey() == Active,
+		"Pane " + Word + " was expected to be active, and it is " + ToUtf8(Active.ToString()) + ".");
 }
 
 void CheckMenus(const std::string& Value)
@@ -139,7 +141,8 @@ void CheckExpectation(const std::string& What, const std::string& Value)
 	}
 	else if (What == "focused")
 	{
-		Require(FindOrComplain(LookAround(), Value).bFocused, "The keyboard's input was expected to go to '" + Value + "', and it does not.");
+		Require(
+			FindOrComplain(LookAround(), Value).bFocused, "The keyboard's input was expected to go to '" + Value + "', and it does not.");
 	}
 	else if (What == "tooltip")
 	{

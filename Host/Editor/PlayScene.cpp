@@ -12,10 +12,15 @@
 #include "SLevelViewport.h"
 #include "StandIn/LevelEditorPanes.h"
 
+#include <cmath>
+
 namespace TintmillHost
 {
 namespace
 {
+/** The scene moves in steps, because every one has to be painted. */
+constexpr float StepSeconds = 0.1f;
+
 /** Calls a function with the client of every game viewport that is open. */
 template <typename FunctionType>
 void ForEachGame(const FunctionType& Function)
@@ -61,34 +66,49 @@ void FPlayScene::ReleaseGame()
 	MoveGames();
 }
 
+void FPlayScene::AddReferencedObjects(FReferenceCollector& Collector)
+{
+	for (UGameViewportClient*& Game : Games)
+	{
+		Collector.AddReferencedObject(Game);
+	}
+}
+
 void FPlayScene::OnGameViewportCreated()
 {
 	if (GEditor && GEditor->GameViewport)
 	{
-		// A client of an earlier play may have had this address.
-		Views.GetCamera(*GEditor->GameViewport) = GameSceneCamera();
+		Games.AddUnique(GEditor->GameViewport);
 	}
 }
 
 void FPlayScene::OnEndPlay(const bool)
 {
-	Seconds = 0.0f;
+	ElapsedSeconds = 0.0f;
+	SceneSeconds = 0.0f;
 	bGameHeld = false;
 	MovePanes(0.0f, false);
 }
 
 bool FPlayScene::Tick(float DeltaSeconds)
 {
-	if (GEditor && GEditor->PlayWorld)
+	if (!GEditor || !GEditor->PlayWorld)
 	{
-		Seconds += DeltaSeconds;
+		return true;
+	}
+	ElapsedSeconds += DeltaSeconds;
+	// A little more, because sixtieths of a second do not add up to tenths exactly.
+	const float Steps = std::floor(ElapsedSeconds / StepSeconds + 0.01f);
+	if (Steps * StepSeconds != SceneSeconds)
+	{
+		SceneSeconds = Steps * StepSeconds;
 		if (!bGameHeld)
 		{
 			MoveGames();
 		}
 		if (GEditor->IsSimulateInEditorInProgress())
 		{
-			MovePanes(Seconds, true);
+			MovePanes(SceneSeconds, true);
 		}
 	}
 	return true;
@@ -97,7 +117,7 @@ bool FPlayScene::Tick(float DeltaSeconds)
 void FPlayScene::MoveGames()
 {
 	ForEachGame([this](UGameViewportClient& Client) {
-		Views.GetCamera(Client).Seconds = Seconds;
+		Views.GetCamera(Client).Seconds = SceneSeconds;
 		Client.Viewport->InvalidateDisplay();
 	});
 }

@@ -5,9 +5,9 @@
 #include "CoreMinimal.h"
 #include "Delegates/Delegate.h"
 #include "Host/Scene/SceneCamera.h"
+#include "UObject/GCObject.h"
 
-class FViewport;
-class FViewportClient;
+class UGameViewportClient;
 
 // What one sees of play: the game has a view of its own, and in it the figures move.
 
@@ -15,13 +15,17 @@ namespace TintmillHost
 {
 class FSceneViews;
 
-/** Moves the scene while play runs, by the editor's frames and no other clock, so that the same frames give the same pictures. */
-class FPlayScene
+/**
+ * Moves the scene while play runs, by the editor's frames and no other clock, so that the same frames give the same pictures.
+ * Looks go by the address of a viewport's client and are never taken from a game's; so the clients of all games are kept, or
+ * a game from a pane without a look could find that of an earlier game.
+ */
+class FPlayScene : public FGCObject
 {
 public:
 	/** Listens to play; the views must outlive the object. */
 	explicit FPlayScene(FSceneViews& InViews);
-	~FPlayScene();
+	virtual ~FPlayScene() override;
 	FPlayScene(const FPlayScene&) = delete;
 	FPlayScene& operator=(const FPlayScene&) = delete;
 
@@ -30,6 +34,8 @@ public:
 
 	/** Gives the game its own view back, at the time that play has come to. */
 	void ReleaseGame();
+
+	virtual void AddReferencedObjects(FReferenceCollector& Collector) override;
 
 private:
 	void OnGameViewportCreated();
@@ -40,7 +46,12 @@ private:
 
 	FSceneViews& Views;
 	FDelegateHandle Ticker;
-	float Seconds = 0.0f;
+	TArray<UGameViewportClient*> Games;
+
+	/** How long play has run, and the time that the scene shows. */
+	float ElapsedSeconds = 0.0f;
+	float SceneSeconds = 0.0f;
+
 	bool bGameHeld = false;
 };
 }

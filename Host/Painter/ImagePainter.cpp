@@ -52,7 +52,8 @@ std::array<double, 4> Split(double Start, double Length, double First, double La
 	return {Start, Start + std::round(First * Shrink), Start + Length - std::round(Last * Shrink), Start + Length};
 }
 
-void PaintNineParts(cairo_t* Context, cairo_surface_t* Image, const FSlateBrush& Brush, const FDeviceRect& Rect, double Scale, double Opacity)
+void PaintNineParts(
+	cairo_t* Context, cairo_surface_t* Image, const FSlateBrush& Brush, const FDeviceRect& Rect, double Scale, double Opacity)
 {
 	const double Width = cairo_image_surface_get_width(Image);
 	const double Height = cairo_image_surface_get_height(Image);
@@ -101,7 +102,8 @@ void PaintImage(cairo_t* Context, cairo_surface_t* Image, const FSlateBrush& Bru
 	{
 		const ESlateBrushTileType::Type Tiling = Brush.GetTiling();
 		FPart Part;
-		Part.Source = {0.0, 0.0, static_cast<double>(cairo_image_surface_get_width(Image)), static_cast<double>(cairo_image_surface_get_height(Image))};
+		Part.Source = {0.0, 0.0, static_cast<double>(cairo_image_surface_get_width(Image)),
+			static_cast<double>(cairo_image_surface_get_height(Image))};
 		Part.Target = Rect;
 		Part.RepeatX = Tiling == ESlateBrushTileType::Horizontal || Tiling == ESlateBrushTileType::Both ? Scale : 0.0;
 		Part.RepeatY = Tiling == ESlateBrushTileType::Vertical || Tiling == ESlateBrushTileType::Both ? Scale : 0.0;

@@ -34,7 +34,8 @@ void Multiply(cairo_surface_t* Surface, const FLinearColor& Tint)
 			const auto Channel = [Pixel = Row[X], Alpha](int Shift) {
 				return static_cast<uint8>(std::min<uint32>(255, (Pixel >> Shift & 0xFFu) * 255u / Alpha));
 			};
-			const FColor Color = (FLinearColor(FColor(Channel(16), Channel(8), Channel(0), 255)) * Tint.CopyWithNewOpacity(1.0f)).ToFColor(true);
+			const FColor Color =
+				(FLinearColor(FColor(Channel(16), Channel(8), Channel(0), 255)) * Tint.CopyWithNewOpacity(1.0f)).ToFColor(true);
 			Row[X] = Alpha << 24 | Color.R * Alpha / 255u << 16 | Color.G * Alpha / 255u << 8 | Color.B * Alpha / 255u;
 		}
 	}
@@ -77,7 +78,8 @@ cairo_surface_t* FImageStore::Find(const std::string& File, const FLinearColor& 
 	{
 		return Image;
 	}
-	FCairoSurface& Tinted = TintedImages[std::to_string(Color.R) + '|' + std::to_string(Color.G) + '|' + std::to_string(Color.B) + '|' + File];
+	FCairoSurface& Tinted =
+		TintedImages[std::to_string(Color.R) + '|' + std::to_string(Color.G) + '|' + std::to_string(Color.B) + '|' + File];
 	if (!Tinted)
 	{
 		Tinted = Copy(Image);

@@ -137,8 +137,8 @@ void PaintCheckerboard(cairo_t* Context, const FShape& Shape)
 	{
 		for (int Column = Row % 2; Column * Cell < Shape.Rect.Width; Column += 2)
 		{
-			cairo_rectangle(Context, Shape.Rect.X + Column * Cell, Shape.Rect.Y + Row * Cell, std::min(Cell, Shape.Rect.Width - Column * Cell),
-				std::min(Cell, Shape.Rect.Height - Row * Cell));
+			cairo_rectangle(Context, Shape.Rect.X + Column * Cell, Shape.Rect.Y + Row * Cell,
+				std::min(Cell, Shape.Rect.Width - Column * Cell), std::min(Cell, Shape.Rect.Height - Row * Cell));
 		}
 	}
 	Shape.Color.Darkened(0.5).Use(Context);
@@ -152,7 +152,8 @@ void PaintShadow(cairo_t* Context, const FShape& Shape, double Reach)
 	const double Drop = std::round(2.0 * Shape.Scale);
 	cairo_save(Context);
 	// Nothing below the area itself, which may be transparent.
-	cairo_rectangle(Context, Shape.Rect.X - 2 * Steps, Shape.Rect.Y - 2 * Steps, Shape.Rect.Width + 4 * Steps, Shape.Rect.Height + 4 * Steps);
+	cairo_rectangle(
+		Context, Shape.Rect.X - 2 * Steps, Shape.Rect.Y - 2 * Steps, Shape.Rect.Width + 4 * Steps, Shape.Rect.Height + 4 * Steps);
 	AddRoundedRect(Context, Shape.Rect, Shape.CornerRadius * Shape.Scale);
 	cairo_set_fill_rule(Context, CAIRO_FILL_RULE_EVEN_ODD);
 	cairo_clip(Context);

@@ -30,7 +30,8 @@ int GetPangoSize(const FSlateFontInfo& Font, double Scale)
 
 std::string GetFontKey(const FSlateFontInfo& Font, double Scale)
 {
-	return ToUtf8(Font.GetFamilyName()) + '|' + ToUtf8(Font.TypefaceFontName.ToString()) + '|' + std::to_string(GetPangoSize(Font, Scale)) + '|';
+	return ToUtf8(Font.GetFamilyName()) + '|' + ToUtf8(Font.TypefaceFontName.ToString()) + '|' + std::to_string(GetPangoSize(Font, Scale))
+		+ '|';
 }
 }
 
@@ -56,8 +57,8 @@ PangoFontDescription* FTextLayouts::FindFont(const FSlateFontInfo& Font, double 
 	{
 		const std::string Face = ToUtf8(Font.TypefaceFontName.ToString());
 		Description.reset(pango_font_description_new());
-		pango_font_description_set_family(
-			Description.get(), Face == "Mono" ? "Roboto Mono,DejaVu Sans Mono,monospace" : (ToUtf8(Font.GetFamilyName()) + ",Noto Sans,sans-serif").c_str());
+		pango_font_description_set_family(Description.get(),
+			Face == "Mono" ? "Roboto Mono,DejaVu Sans Mono,monospace" : (ToUtf8(Font.GetFamilyName()) + ",Noto Sans,sans-serif").c_str());
 		SetFace(*Description, Face);
 		pango_font_description_set_absolute_size(Description.get(), GetPangoSize(Font, Scale));
 	}

@@ -61,7 +61,8 @@ FPicture CopyPixels(cairo_surface_t* Surface)
 	const ptrdiff_t Stride = cairo_image_surface_get_stride(Surface);
 	for (int32 Row = 0; Row < Picture.Height; ++Row)
 	{
-		std::memcpy(Picture.Pixels.GetData() + static_cast<size_t>(Row) * Picture.Width, Rows + Row * Stride, static_cast<size_t>(Picture.Width) * 4);
+		std::memcpy(Picture.Pixels.GetData() + static_cast<size_t>(Row) * Picture.Width, Rows + Row * Stride,
+			static_cast<size_t>(Picture.Width) * 4);
 	}
 	for (FColor& Pixel : Picture.Pixels)
 	{
@@ -73,8 +74,8 @@ FPicture CopyPixels(cairo_surface_t* Surface)
 
 FPicture PaintWindows(FElementPainter& Painter, const FWindowShot& Shot)
 {
-	const FCairoSurface Surface(cairo_image_surface_create(
-		CAIRO_FORMAT_RGB24, static_cast<int>(std::lround(Shot.Size.X * Shot.Scale)), static_cast<int>(std::lround(Shot.Size.Y * Shot.Scale))));
+	const FCairoSurface Surface(cairo_image_surface_create(CAIRO_FORMAT_RGB24, static_cast<int>(std::lround(Shot.Size.X * Shot.Scale)),
+		static_cast<int>(std::lround(Shot.Size.Y * Shot.Scale))));
 	const FCairoContext Context(cairo_create(Surface.get()));
 	for (const TSharedRef<SWindow>& Window : Shot.Windows)
 	{

@@ -17,7 +17,8 @@ namespace
 {
 std::string Lowered(std::string Text)
 {
-	std::transform(Text.begin(), Text.end(), Text.begin(), [](unsigned char Character) { return static_cast<char>(std::tolower(Character)); });
+	std::transform(
+		Text.begin(), Text.end(), Text.begin(), [](unsigned char Character) { return static_cast<char>(std::tolower(Character)); });
 	return Text;
 }
 

@@ -3,6 +3,7 @@
 #include "Containers/Array.h"
 
 #include "StandIn/FatalHandler.h"
+#include "Support/DeathText.h"
 #include "Support/LogCapture.h"
 #include "Support/Printers.h"
 #include "Templates/UniquePtr.h"
@@ -281,7 +282,7 @@ TEST(TArrayDeathTest, AddingAnElementOfTheArrayItselfIsFatal)
 {
 	FNumbers Array{1, 2};
 	EXPECT_DEATH(Array.Add(Array[0]),
-		"Attempting to use a container element \\(0x[0-9a-f]+\\) which already comes from the container "
+		"Attempting to use a container element \\(0x" DEATH_HEX_NUMBER "\\) which already comes from the container "
 		"being modified");
 }
 

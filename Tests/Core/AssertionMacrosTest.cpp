@@ -3,6 +3,7 @@
 #include "Misc/AssertionMacros.h"
 
 #include "StandIn/FatalHandler.h"
+#include "Support/DeathText.h"
 #include "Support/LogCapture.h"
 #include "gtest/gtest.h"
 
@@ -59,7 +60,8 @@ void ReturnFromHandler(const TCHAR*) {}
 TEST(AssertionMacrosDeathTest, FailedCheckShowsExpressionFileLineAndAnEmptyText)
 {
 	const int32 Value = 3;
-	EXPECT_DEATH(check(Value == 4), "Assertion failed: Value == 4 \\[File:.*AssertionMacrosTest\\.cpp\\] \\[Line: [0-9]+\\] \n\n");
+	EXPECT_DEATH(
+		check(Value == 4), "Assertion failed: Value == 4 \\[File:.*AssertionMacrosTest\\.cpp\\] \\[Line: " DEATH_NUMBER "\\] \n\n");
 }
 
 TEST(AssertionMacrosDeathTest, FailedCheckfShowsItsTextOnTheNextLine)
@@ -131,7 +133,7 @@ TEST(AssertionMacrosDeathTest, UnimplementedIsFatal)
 
 TEST(AssertionMacrosDeathTest, LowLevelFatalErrorShowsFileLineAndText)
 {
-	EXPECT_DEATH(LowLevelFatalError(TEXT("broken %d"), 5), "Fatal error: \\[File:.*\\] \\[Line: [0-9]+\\] \nbroken 5\n");
+	EXPECT_DEATH(LowLevelFatalError(TEXT("broken %d"), 5), "Fatal error: \\[File:.*\\] \\[Line: " DEATH_NUMBER "\\] \nbroken 5\n");
 }
 
 TEST(AssertionMacros, EnsureYieldsTheConditionItself)

@@ -4,6 +4,7 @@
 
 #include "CoreGlobals.h"
 #include "StandIn/LogRecord.h"
+#include "Support/DeathText.h"
 #include "Support/LogCapture.h"
 #include "gtest/gtest.h"
 
@@ -129,7 +130,7 @@ TEST(LogMacros, RecordOfALineWithoutStatementHasNoPlace)
 TEST(LogMacrosDeathTest, FatalLineEndsTheProcessWithFileLineAndText)
 {
 	EXPECT_DEATH(UE_LOG(LogMacrosTest, Fatal, TEXT("no %s left"), TEXT("paint")),
-		"Fatal error: \\[File:.*LogMacrosTest\\.cpp\\] \\[Line: [0-9]+\\] \nno paint left");
+		"Fatal error: \\[File:.*LogMacrosTest\\.cpp\\] \\[Line: " DEATH_NUMBER "\\] \nno paint left");
 }
 
 TEST(LogMacrosDeathTest, FatalLineOfASuppressedCategoryEndsTheProcessToo)

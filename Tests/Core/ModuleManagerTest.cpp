@@ -5,6 +5,7 @@
 #include "HAL/PlatformProcess.h"
 #include "StandIn/ModuleHooks.h"
 #include "StandIn/Registrations.h"
+#include "Support/DeathText.h"
 #include "Support/LogCapture.h"
 #include "Support/TestFolder.h"
 #include "gtest/gtest.h"
@@ -260,12 +261,12 @@ TEST_F(ModuleManager, LoadedModulesAreListedAmongTheRegistrations)
 TEST(ModuleManagerDeathTest, CheckedLoadOfAMissingModuleIsFatalWithItsName)
 {
 	EXPECT_DEATH(FModuleManager::Get().LoadModuleChecked("NoSuchModule"),
-		"Assertion failed: Module \\[File:.*ModuleManager\\.cpp\\] \\[Line: [0-9]+\\] \nNoSuchModule");
+		"Assertion failed: Module \\[File:.*ModuleManager\\.cpp\\] \\[Line: " DEATH_NUMBER "\\] \nNoSuchModule");
 }
 
 TEST(ModuleManagerDeathTest, CheckedLookupOfAnUnloadedModuleIsFatalWithItsName)
 {
 	EXPECT_DEATH(FModuleManager::GetModuleChecked<IModuleInterface>("ModuleTestFirst"),
-		"Assertion failed: ModuleManager\\.IsModuleLoaded\\(ModuleName\\) \\[File:.*\\] \\[Line: [0-9]+\\] \n"
+		"Assertion failed: ModuleManager\\.IsModuleLoaded\\(ModuleName\\) \\[File:.*\\] \\[Line: " DEATH_NUMBER "\\] \n"
 		"Tried to get module interface for unloaded module: 'ModuleTestFirst'");
 }

@@ -39,6 +39,18 @@ TEST(HostOptions, ASizeIsWidthByHeight)
 	EXPECT_EQ(Options({"--size", "320x200"}).Height, 200);
 }
 
+TEST(HostOptions, TheWindowsSizeIsWidthByHeight)
+{
+	EXPECT_EQ(Options({"--window", "1600x900"}).WindowWidth, 1600);
+	EXPECT_EQ(Options({"--window", "1600x900"}).WindowHeight, 900);
+}
+
+TEST(HostOptions, AWrongWindowSizeMakesOneSentenceAboutTheWindow)
+{
+	EXPECT_NE(
+		Exit({"--window", "wide"}).Text.find("'wide' is not a size: give width and height of the window in pixels"), std::string::npos);
+}
+
 TEST(HostOptions, WithoutExecNoCommandsAreSet)
 {
 	EXPECT_FALSE(Options({}).Exec.has_value());

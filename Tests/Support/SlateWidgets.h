@@ -34,7 +34,12 @@ inline void PrintTo(const FSlateRect& Value, std::ostream* Out)
 class STestBox : public SLeafWidget
 {
 public:
-	SLATE_BEGIN_ARGS(STestBox) : _Size(FVector2D(0.0f, 0.0f)), _Focusable(false), _Handles(false), _Log(nullptr) {}
+	SLATE_BEGIN_ARGS(STestBox)
+		: _Size(FVector2D(0.0f, 0.0f))
+		, _Focusable(false)
+		, _Handles(false)
+		, _Log(nullptr)
+	{}
 	SLATE_ATTRIBUTE(FVector2D, Size)
 	SLATE_ARGUMENT(bool, Focusable)
 	SLATE_ARGUMENT(bool, Handles)

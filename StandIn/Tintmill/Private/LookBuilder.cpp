@@ -19,6 +19,7 @@ public:
 			Request.ImageDesc.Width, Request.ImageDesc.Height);
 		Last = MakeUnique<StandIn::FLookBuilderRequest>(Request);
 		Last->ImageDesc.Pixels = Last->Pixels.Num() > 0 ? Last->Pixels.GetData() : nullptr;
+		Last->BorrowedPixels = nullptr;
 	}
 
 	TUniquePtr<StandIn::FLookBuilderRequest> Last;

@@ -3,6 +3,7 @@
 #include "CoreMinimal.h"
 #include "Containers/StringConv.h"
 #include "LookFileCheck.h"
+#include "LookFileNew.h"
 #include "StandIn/AssetFiles.h"
 #include "StandIn/LookFiles.h"
 #include "TintmillObject.h"
@@ -23,6 +24,10 @@ public:
 			Type.Load = [](UObject* Asset, const FString& FileName) {
 				StandIn::LoadLookFile(static_cast<UTintmillObject*>(Asset), FileName);
 			};
+			if (Extension == LookFile::NewLookExtension)
+			{
+				Type.WriteNew = &LookFile::WriteNewLook;
+			}
 			StandIn::RegisterAssetFileType(Type);
 		}
 	}

@@ -23,6 +23,7 @@ void UTintmillObject::DisplayUserInterface(FTintmillAPI_ImageDesc& ImageDesc)
 	StandIn::FLookBuilderRequest Request;
 	Request.Asset = this;
 	Request.ImageDesc = ImageDesc;
+	Request.BorrowedPixels = ImageDesc.Pixels;
 	// A caller whose picture could not be read hands over a size and no pixels.
 	if (ImageDesc.Pixels != nullptr && ImageDesc.RowLength > 0 && ImageDesc.Height > 0)
 	{

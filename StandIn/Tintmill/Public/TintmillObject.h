@@ -8,8 +8,8 @@
 
 #include "TintmillObject.generated.h"
 
-// A look asset. Its look comes from the file that the asset was loaded from (StandIn/LookFiles.h); an asset without a file, such
-// as a new one, leaves every picture as it is. Nothing of the look is saved with the asset.
+// A look asset. Its look comes from the file that the asset was loaded from or made with (StandIn/LookFiles.h); an asset without
+// a file leaves every picture as it is. Nothing of the look is saved with the asset.
 
 struct FTintmillAPI_ImageDesc;
 struct FTintmillLook;

@@ -41,7 +41,8 @@ protected:
 	FResult Run(const std::string& Commands, const std::string& Options = "") const
 	{
 		const std::string Line = std::string(TINTMILL_EDITOR) + " --headless --size 16x16 --window 1000x560 " + Options + " --out '"
-			+ Folder.NativePath("out").string() + "' --project '" + Folder.NativePath("Project").string() + "' --exec '" + Commands + "' 2>&1";
+			+ Folder.NativePath("out").string() + "' --project '" + Folder.NativePath("Project").string() + "' --exec '" + Commands
+			+ "' 2>&1";
 		FResult Result;
 		std::FILE* const Pipe = popen(Line.c_str(), "r");
 		std::array<char, 4096> Buffer;
@@ -94,7 +95,8 @@ TEST_F(UiCommands, AnUnknownButtonMakesAComplaintWithTheButtonsThereAre)
 
 TEST_F(UiCommands, RestingOnTintmillOpensItsPanel)
 {
-	ExpectDone(Panel + "expect menus 2; expect visible Display Configuration; expect unchecked Enable Display; expect visible Select a TML Asset");
+	ExpectDone(
+		Panel + "expect menus 2; expect visible Display Configuration; expect unchecked Enable Display; expect visible Select a TML Asset");
 }
 
 TEST_F(UiCommands, RestingOnARowShowsItsToolTip)
@@ -159,7 +161,8 @@ TEST_F(UiCommands, EnterChoosesTheFirstLookFound)
 
 TEST_F(UiCommands, ArrowKeysWalkTheListAndChooseNothing)
 {
-	ExpectDone(Panel + "hover Select a TML Asset; press Down Down; expect visible 2 items (1 selected); expect 1.look none; press Enter; expect 1.look Red");
+	ExpectDone(Panel
+		+ "hover Select a TML Asset; press Down Down; expect visible 2 items (1 selected); expect 1.look none; press Enter; expect 1.look Red");
 }
 
 TEST_F(UiCommands, ClearEmptiesTheChoice)
@@ -255,6 +258,45 @@ TEST_F(UiCommands, ALookFarDownTheListIsScrolledTo)
 		WriteLook("Look" + std::to_string(100 + Number), "0 0 0\n1 0 0\n0 0 0\n1 0 0\n0 0 0\n1 0 0\n0 0 0\n1 0 0\n");
 	}
 	ExpectDone(Panel + "hover Select a TML Asset; click Look125; expect 1.look Look125");
+}
+
+TEST_F(UiCommands, EveryLookHasAThumbnailOfItsOwn)
+{
+	ExpectDone("click-pane 0; open 0 View; hover Tintmill; hover Select a TML Asset; hover Browse; shot list.png");
+	TintmillHost::FPicture Picture;
+	ASSERT_EQ(TintmillHost::ReadPng(Folder.NativePath("out/list.png"), Picture), "");
+	// The red look's thumbnail has no other color than red, the green look's none but green.
+	int RedPixels = 0;
+	int GreenPixels = 0;
+	for (const FColor& Pixel : Picture.Pixels)
+	{
+		RedPixels += Pixel.R > 100 && Pixel.G == 0 && Pixel.B == 0 ? 1 : 0;
+		GreenPixels += Pixel.G > 100 && Pixel.R == 0 && Pixel.B == 0 ? 1 : 0;
+	}
+	EXPECT_GT(RedPixels, 200);
+	EXPECT_GT(GreenPixels, 200);
+}
+
+TEST_F(UiCommands, ALookThatCannotBeUsedIsListedWithTheThumbnailOfItsClass)
+{
+	Folder.Write("Project/Content/Broken.cube", "LUT_3D_SIZE 2\n0 0 0\n");
+	ExpectDone(Panel + "hover Select a TML Asset; hover Browse; expect visible Broken; expect visible 3 items");
+}
+
+TEST_F(UiCommands, TheSameCommandsGiveTheSamePicture)
+{
+	const std::string Commands = Panel + "hover Select a TML Asset; shot ";
+	ExpectDone(Commands + "first.png");
+	ExpectDone(Commands + "second.png");
+	EXPECT_EQ(Folder.Read("out/first.png"), Folder.Read("out/second.png"));
+}
+
+TEST_F(UiCommands, AWindowOfAnotherSizeHasPanesOfAnotherSize)
+{
+	ExpectDone("window 1200 700; shot large.png; open 1 View; expect visible Tintmill");
+	TintmillHost::FPicture Picture;
+	ASSERT_EQ(TintmillHost::ReadPng(Folder.NativePath("out/large.png"), Picture), "");
+	EXPECT_EQ(Picture.Width, 1200);
 }
 
 TEST_F(UiCommands, AFolderThatCannotBeWrittenMakesOneSentence)

@@ -44,7 +44,8 @@ protected:
 		for (int Row = 0; Row < Picture.Height; ++Row)
 		{
 			std::memcpy(Picture.Pixels.GetData() + Row * Picture.Width,
-				cairo_image_surface_get_data(Surface.get()) + Row * cairo_image_surface_get_stride(Surface.get()), static_cast<size_t>(Picture.Width) * 4);
+				cairo_image_surface_get_data(Surface.get()) + Row * cairo_image_surface_get_stride(Surface.get()),
+				static_cast<size_t>(Picture.Width) * 4);
 		}
 		for (FColor& Pixel : Picture.Pixels)
 		{

@@ -127,7 +127,8 @@ TEST_F(TextLayouts, TheFootOfStraightLettersIsSharp)
 
 TEST_F(TextLayouts, BoldIsWiderThanRegular)
 {
-	EXPECT_GT(Layouts->MeasureWidth("Tintmill", FCoreStyle::GetDefaultFontStyle("Bold", 9), 1.0), Layouts->MeasureWidth("Tintmill", Font(), 1.0));
+	EXPECT_GT(
+		Layouts->MeasureWidth("Tintmill", FCoreStyle::GetDefaultFontStyle("Bold", 9), 1.0), Layouts->MeasureWidth("Tintmill", Font(), 1.0));
 }
 
 TEST_F(TextLayouts, ARightToLeftLineStartsAtItsLeftEnd)

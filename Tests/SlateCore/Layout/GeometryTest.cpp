@@ -62,34 +62,29 @@ TEST(EVisibility, LetsOnlyDrawnWidgetsThroughTheVisibleFilter)
 TEST(ComputePopupFitInRect, OpensBelowTheAnchorWhereThereIsRoom)
 {
 	EXPECT_EQ(FVector2D(10, 30),
-		ComputePopupFitInRect(
-			FSlateRect(10, 10, 60, 30), FSlateRect(10, 30, 110, 80), Orient_Vertical, FSlateRect(0, 0, 400, 300)));
+		ComputePopupFitInRect(FSlateRect(10, 10, 60, 30), FSlateRect(10, 30, 110, 80), Orient_Vertical, FSlateRect(0, 0, 400, 300)));
 }
 
 TEST(ComputePopupFitInRect, FlipsAboveAnAnchorAtTheLowerEdge)
 {
 	EXPECT_EQ(FVector2D(10, 200),
-		ComputePopupFitInRect(
-			FSlateRect(10, 250, 60, 270), FSlateRect(10, 270, 110, 320), Orient_Vertical, FSlateRect(0, 0, 400, 300)));
+		ComputePopupFitInRect(FSlateRect(10, 250, 60, 270), FSlateRect(10, 270, 110, 320), Orient_Vertical, FSlateRect(0, 0, 400, 300)));
 }
 
 TEST(ComputePopupFitInRect, PushesAPopupBackFromTheRightEdge)
 {
 	EXPECT_EQ(FVector2D(300, 30),
-		ComputePopupFitInRect(
-			FSlateRect(380, 10, 399, 30), FSlateRect(380, 30, 480, 80), Orient_Vertical, FSlateRect(0, 0, 400, 300)));
+		ComputePopupFitInRect(FSlateRect(380, 10, 399, 30), FSlateRect(380, 30, 480, 80), Orient_Vertical, FSlateRect(0, 0, 400, 300)));
 }
 
 TEST(ComputePopupFitInRect, FlipsASubmenuToTheLeftOfItsRow)
 {
 	EXPECT_EQ(FVector2D(150, 10),
-		ComputePopupFitInRect(
-			FSlateRect(250, 10, 380, 30), FSlateRect(380, 10, 480, 80), Orient_Horizontal, FSlateRect(0, 0, 400, 300)));
+		ComputePopupFitInRect(FSlateRect(250, 10, 380, 30), FSlateRect(380, 10, 480, 80), Orient_Horizontal, FSlateRect(0, 0, 400, 300)));
 }
 
 TEST(ComputePopupFitInRect, UsesTheLargerSideWhereNeitherHasRoom)
 {
 	EXPECT_EQ(FVector2D(0, 100),
-		ComputePopupFitInRect(
-			FSlateRect(0, 100, 10, 110), FSlateRect(0, 110, 50, 310), Orient_Vertical, FSlateRect(0, 0, 400, 300)));
+		ComputePopupFitInRect(FSlateRect(0, 100, 10, 110), FSlateRect(0, 110, 50, 310), Orient_Vertical, FSlateRect(0, 0, 400, 300)));
 }

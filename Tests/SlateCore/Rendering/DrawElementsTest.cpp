@@ -98,9 +98,8 @@ TEST(SWidget, CutsWhatItDrawsWhenItClipsToItsBounds)
 {
 	FHittestGrid Grid;
 	const TSharedRef<SVerticalBox> Box = SNew(SVerticalBox)
-		+ SVerticalBox::Slot()
-			  .AutoHeight()
-			  .HAlign(HAlign_Left)[SNew(STestBox).Name("cut").Size(FVector2D(30, 20)).Clipping(EWidgetClipping::ClipToBounds)];
+		+ SVerticalBox::Slot().AutoHeight().HAlign(
+			HAlign_Left)[SNew(STestBox).Name("cut").Size(FVector2D(30, 20)).Clipping(EWidgetClipping::ClipToBounds)];
 	const FSlateWindowElementList Elements = PaintAlone(Box, FVector2D(100, 100), Grid);
 	EXPECT_EQ(FSlateRect(0, 0, 30, 20), Elements.GetElements()[0].GetClipRect().GetValue());
 }
@@ -126,9 +125,9 @@ TEST(SPanel, DoesNotPaintChildrenOutsideTheCullingRectangle)
 TEST(SOverlay, PaintsLaterChildrenOnHigherLayers)
 {
 	FHittestGrid Grid;
-	const FSlateWindowElementList Elements = PaintAlone(SNew(SOverlay) + SOverlay::Slot()[SNew(STestBox).Name("low")]
-			+ SOverlay::Slot()[SNew(STestBox).Name("high")],
-		FVector2D(10, 10), Grid);
+	const FSlateWindowElementList Elements =
+		PaintAlone(SNew(SOverlay) + SOverlay::Slot()[SNew(STestBox).Name("low")] + SOverlay::Slot()[SNew(STestBox).Name("high")],
+			FVector2D(10, 10), Grid);
 	EXPECT_LT(Elements.GetElements()[0].GetLayer(), Elements.GetElements()[1].GetLayer());
 }
 
@@ -136,8 +135,8 @@ TEST(FHittestGrid, FindsTheTopmostWidgetWithItsParents)
 {
 	FHittestGrid Grid;
 	const TSharedRef<STestBox> Top = SNew(STestBox).Name("top").Size(FVector2D(10, 10));
-	const TSharedRef<SOverlay> Overlay = SNew(SOverlay) + SOverlay::Slot()[SNew(STestBox).Name("bottom")]
-		+ SOverlay::Slot().HAlign(HAlign_Left).VAlign(VAlign_Top)[Top];
+	const TSharedRef<SOverlay> Overlay =
+		SNew(SOverlay) + SOverlay::Slot()[SNew(STestBox).Name("bottom")] + SOverlay::Slot().HAlign(HAlign_Left).VAlign(VAlign_Top)[Top];
 	PaintAlone(Overlay, FVector2D(100, 100), Grid);
 	const TArray<FArrangedWidget> Path = Grid.GetBubblePath(FVector2D(5, 5), false);
 	ASSERT_EQ(2, Path.Num());

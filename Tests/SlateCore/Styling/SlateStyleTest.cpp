@@ -21,14 +21,23 @@ namespace
 class FRegisteredStyle : public FSlateStyleSet
 {
 public:
-	explicit FRegisteredStyle(const TCHAR* Name) : FSlateStyleSet(FName(Name)) { FSlateStyleRegistry::RegisterSlateStyle(*this); }
+	explicit FRegisteredStyle(const TCHAR* Name)
+		: FSlateStyleSet(FName(Name))
+	{
+		FSlateStyleRegistry::RegisterSlateStyle(*this);
+	}
 	~FRegisteredStyle() override { FSlateStyleRegistry::UnRegisterSlateStyle(*this); }
 };
 
 /** Counts how many of them live. */
 struct FCountedBrush : public FSlateColorBrush
 {
-	explicit FCountedBrush(int32& InCount) : FSlateColorBrush(FLinearColor::White), Count(InCount) { ++Count; }
+	explicit FCountedBrush(int32& InCount)
+		: FSlateColorBrush(FLinearColor::White)
+		, Count(InCount)
+	{
+		++Count;
+	}
 	~FCountedBrush() override { --Count; }
 	int32& Count;
 };

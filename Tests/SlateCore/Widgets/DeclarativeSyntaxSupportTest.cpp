@@ -10,11 +10,13 @@ namespace
 {
 DECLARE_DELEGATE_OneParam(FOnTestEvent, int32)
 
-/** Has every kind of argument. */
-class SArgumentTaker : public SCompoundWidget
+	/** Has every kind of argument. */
+	class SArgumentTaker : public SCompoundWidget
 {
 public:
-	SLATE_BEGIN_ARGS(SArgumentTaker) : _Number(7) {}
+	SLATE_BEGIN_ARGS(SArgumentTaker)
+		: _Number(7)
+	{}
 	SLATE_ARGUMENT(int32, Number)
 	SLATE_ATTRIBUTE(FText, Label)
 	SLATE_EVENT(FOnTestEvent, OnEvent)
@@ -43,7 +45,9 @@ public:
 class SOrderWatcher : public SCompoundWidget
 {
 public:
-	SLATE_BEGIN_ARGS(SOrderWatcher) : _Exposed(nullptr) {}
+	SLATE_BEGIN_ARGS(SOrderWatcher)
+		: _Exposed(nullptr)
+	{}
 	SLATE_ARGUMENT(TSharedPtr<SOrderWatcher>*, Exposed)
 	SLATE_END_ARGS()
 
@@ -184,7 +188,10 @@ TEST(SNew, PollsTheAttributesOfEveryWidget)
 }
 
 template <typename WidgetType>
-concept CanBeMadeWithNew = requires { new WidgetType(); };
+concept CanBeMadeWithNew = requires
+{
+	new WidgetType();
+};
 
 TEST(SWidget, CannotBeMadeWithPlainNew)
 {

@@ -14,8 +14,8 @@ TEST(SVerticalBox, WishesForTheSumOfHeightsAndTheGreatestWidth)
 
 TEST(SHorizontalBox, CountsStretchedChildrenInItsWish)
 {
-	const TSharedRef<SHorizontalBox> Box = SNew(SHorizontalBox) + SHorizontalBox::Slot()[MakeBox(30, 10)]
-		+ SHorizontalBox::Slot().AutoWidth()[MakeBox(20, 15)];
+	const TSharedRef<SHorizontalBox> Box =
+		SNew(SHorizontalBox) + SHorizontalBox::Slot()[MakeBox(30, 10)] + SHorizontalBox::Slot().AutoWidth()[MakeBox(20, 15)];
 	Box->SlatePrepass(1.0f);
 	EXPECT_EQ(FVector2D(50, 15), Box->GetDesiredSize());
 }
@@ -37,13 +37,12 @@ TEST(SHorizontalBox, StretchesAndFillsByDefault)
 
 TEST(SVerticalBox, PlacesAChildByItsAlignment)
 {
-	const TSharedRef<SVerticalBox> Box = SNew(SVerticalBox)
-		+ SVerticalBox::Slot().AutoHeight().HAlign(HAlign_Left)[MakeBox(20, 10)]
+	const TSharedRef<SVerticalBox> Box = SNew(SVerticalBox) + SVerticalBox::Slot().AutoHeight().HAlign(HAlign_Left)[MakeBox(20, 10)]
 		+ SVerticalBox::Slot().AutoHeight().HAlign(HAlign_Center)[MakeBox(20, 10)]
 		+ SVerticalBox::Slot().AutoHeight().HAlign(HAlign_Right)[MakeBox(20, 10)]
 		+ SVerticalBox::Slot().VAlign(VAlign_Bottom)[MakeBox(20, 10)];
-	EXPECT_EQ((std::vector<FSlateRect>{FSlateRect(0, 0, 20, 10), FSlateRect(40, 10, 60, 20), FSlateRect(80, 20, 100, 30),
-				  FSlateRect(0, 90, 100, 100)}),
+	EXPECT_EQ((std::vector<FSlateRect>{
+				  FSlateRect(0, 0, 20, 10), FSlateRect(40, 10, 60, 20), FSlateRect(80, 20, 100, 30), FSlateRect(0, 90, 100, 100)}),
 		Arrange(Box, FVector2D(100, 100)));
 }
 
@@ -72,8 +71,8 @@ TEST(SHorizontalBox, GivesCollapsedChildrenNoSpace)
 {
 	const TSharedRef<STestBox> Gone = MakeBox(30, 10);
 	Gone->SetVisibility(EVisibility::Collapsed);
-	const TSharedRef<SHorizontalBox> Box = SNew(SHorizontalBox) + SHorizontalBox::Slot().AutoWidth().Padding(5.0f)[Gone]
-		+ SHorizontalBox::Slot().AutoWidth()[MakeBox(20, 10)];
+	const TSharedRef<SHorizontalBox> Box =
+		SNew(SHorizontalBox) + SHorizontalBox::Slot().AutoWidth().Padding(5.0f)[Gone] + SHorizontalBox::Slot().AutoWidth()[MakeBox(20, 10)];
 	EXPECT_EQ((std::vector<FSlateRect>{FSlateRect(0, 0, 20, 10)}), Arrange(Box, FVector2D(100, 10)));
 	EXPECT_EQ(FVector2D(20, 10), Box->GetDesiredSize());
 }

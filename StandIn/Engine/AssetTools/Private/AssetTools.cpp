@@ -5,6 +5,7 @@
 #include "Editor.h"
 #include "Factories/Factory.h"
 #include "Misc/PackageName.h"
+#include "NewAssetFile.h"
 #include "Subsystems/AssetEditorSubsystem.h"
 #include "UObject/Package.h"
 #include "UObject/UObjectIterator.h"
@@ -143,6 +144,11 @@ UObject* FAssetTools::CreateAsset(
 	}
 
 	UClass* ClassToUse = AssetClass ? AssetClass : Factory->GetSupportedClass();
+	FNewAssetFile File;
+	if (!File.Write(PackageName, ClassToUse))
+	{
+		return nullptr;
+	}
 	UPackage* Package = CreatePackage(*PackageName);
 	const EObjectFlags Flags = RF_Public | RF_Standalone | RF_Transactional;
 	UObject* NewAsset = nullptr;
@@ -154,11 +160,14 @@ UObject* FAssetTools::CreateAsset(
 	{
 		NewAsset = NewObject<UObject>(Package, ClassToUse, FName(*AssetName), Flags);
 	}
-	if (NewAsset)
+	if (!NewAsset)
 	{
-		FAssetRegistryModule::AssetCreated(NewAsset);
-		Package->MarkPackageDirty();
+		File.Delete();
+		return nullptr;
 	}
+	File.GiveTo(NewAsset);
+	FAssetRegistryModule::AssetCreated(NewAsset);
+	Package->MarkPackageDirty();
 	return NewAsset;
 }
 

@@ -2,6 +2,7 @@
 
 #include "CoreGlobals.h"
 #include "StandIn/FatalHandler.h"
+#include "StandIn/PixelReads.h"
 #include "UnrealClient.h"
 
 namespace
@@ -28,6 +29,12 @@ void RefuseWhatASurfaceHasNot(const FReadSurfaceDataFlags& Flags)
 }
 }
 
+StandIn::FOnPixelsRead& StandIn::OnPixelsRead()
+{
+	static FOnPixelsRead Delegate;
+	return Delegate;
+}
+
 float FRenderTarget::GetDisplayGamma() const
 {
 	return 2.2f;
@@ -37,6 +44,7 @@ bool FRenderTarget::ReadPixels(TArray<FColor>& OutImageData, FReadSurfaceDataFla
 {
 	check(IsInGameThread());
 	RefuseWhatASurfaceHasNot(InFlags);
+	StandIn::OnPixelsRead().Broadcast(*this, InFlags, InRect);
 	OutImageData.Reset();
 
 	const StandIn::FRenderSurface* Surface = GetRenderSurface();

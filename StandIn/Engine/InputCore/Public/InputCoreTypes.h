@@ -14,13 +14,19 @@ struct INPUTCORE_API FKey
 	FKey() {}
 
 	/** Makes the key of the given name; NAME_None gives the invalid key. */
-	FKey(const FName InName) : KeyName(InName) {}
+	FKey(const FName InName)
+		: KeyName(InName)
+	{}
 
 	/** Makes the key of the given wide name. */
-	FKey(const TCHAR* InName) : KeyName(InName) {}
+	FKey(const TCHAR* InName)
+		: KeyName(InName)
+	{}
 
 	/** Makes the key of the given narrow name. */
-	FKey(const ANSICHAR* InName) : KeyName(InName) {}
+	FKey(const ANSICHAR* InName)
+		: KeyName(InName)
+	{}
 
 	/** Says whether the key has a name. */
 	bool IsValid() const { return KeyName != NAME_None; }

@@ -9,6 +9,7 @@
 #include "Misc/FileHelper.h"
 #include "Misc/Paths.h"
 #include "Modules/ModuleManager.h"
+#include "StandIn/EnginePlugins.h"
 #include "StandIn/ModuleHooks.h"
 #include "StandIn/Notices.h"
 
@@ -18,6 +19,13 @@ namespace
 {
 /** Folders nest no deeper than this below a Plugins folder; links that lead round in circles end here. */
 const int32 MaxPluginDepth = 12;
+
+/** Where the engine's plug-ins are looked for; empty for the engine's own folder. */
+FString& OtherEnginePluginsDir()
+{
+	static FString Directory;
+	return Directory;
+}
 
 /** Finds descriptor files; a folder with one is not searched any further. */
 void FindDescriptorFiles(const FString& Directory, int32 Depth, TArray<FString>& OutFiles)
@@ -129,6 +137,11 @@ EPluginLoadedFrom FPlugin::GetLoadedFrom() const
 	return Type == EPluginType::Engine ? EPluginLoadedFrom::Engine : EPluginLoadedFrom::Project;
 }
 
+void StandIn::SetEnginePluginsDir(const FString& Directory)
+{
+	OtherEnginePluginsDir() = Directory;
+}
+
 IPluginManager& IPluginManager::Get()
 {
 	static FPluginManager* const Manager = new FPluginManager();
@@ -148,7 +161,8 @@ void FPluginManager::RefreshPluginsList()
 	{
 		FindPluginsIn(FPaths::ProjectPluginsDir(), EPluginType::Project, Found);
 	}
-	FindPluginsIn(FPaths::EnginePluginsDir(), EPluginType::Engine, Found);
+	const FString EnginePluginsDir = OtherEnginePluginsDir().IsEmpty() ? FPaths::EnginePluginsDir() : OtherEnginePluginsDir();
+	FindPluginsIn(EnginePluginsDir, EPluginType::Engine, Found);
 	for (const FString& Directory : ExtraSearchPaths)
 	{
 		FindPluginsIn(Directory, EPluginType::External, Found);

@@ -4,9 +4,15 @@
 #include "Widgets/SNullWidget.h"
 #include "Widgets/SWidget.h"
 
-FSlotBase::FSlotBase() : RawParentPtr(nullptr), Widget(SNullWidget::NullWidget) {}
+FSlotBase::FSlotBase()
+	: RawParentPtr(nullptr)
+	, Widget(SNullWidget::NullWidget)
+{}
 
-FSlotBase::FSlotBase(const TSharedRef<SWidget>& InWidget) : RawParentPtr(nullptr), Widget(InWidget) {}
+FSlotBase::FSlotBase(const TSharedRef<SWidget>& InWidget)
+	: RawParentPtr(nullptr)
+	, Widget(InWidget)
+{}
 
 FSlotBase::~FSlotBase()
 {

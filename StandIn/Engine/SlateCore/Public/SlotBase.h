@@ -56,10 +56,14 @@ class TSlotBase : public FSlotBase
 {
 public:
 	/** Makes an empty slot. */
-	TSlotBase() : FSlotBase() {}
+	TSlotBase()
+		: FSlotBase()
+	{}
 
 	/** Makes a slot with a child. */
-	TSlotBase(const TSharedRef<SWidget>& InWidget) : FSlotBase(InWidget) {}
+	TSlotBase(const TSharedRef<SWidget>& InWidget)
+		: FSlotBase(InWidget)
+	{}
 
 	/** Puts a widget into the slot. */
 	SlotType& operator[](const TSharedRef<SWidget>& InChildWidget)

@@ -23,6 +23,9 @@ struct FLookBuilderRequest
 
 	/** A copy of the pixels: red, green, blue, alpha of each, 4 * RowLength * Height bytes; empty when the caller had none. */
 	TArray<uint8> Pixels;
+
+	/** The caller's own pixels, which last until Open returns; null when the caller had none. */
+	const uint8* BorrowedPixels = nullptr;
 };
 
 /** Who shows the look-editing interface. */

@@ -24,8 +24,8 @@ protected:
 		FPopupTransitionEffect Effect = FPopupTransitionEffect(), bool bCollapsedByParent = true)
 	{
 		const TSharedRef<STestBox> Content = SNew(STestBox).Size(FVector2D(50, 40)).Focusable(true);
-		const TSharedPtr<IMenu> Menu = App().PushMenu(For, FWidgetPath(), Content, At, Effect, bFocus, FVector2D(0, 0),
-			TOptional<EPopupMethod>(), bCollapsedByParent);
+		const TSharedPtr<IMenu> Menu =
+			App().PushMenu(For, FWidgetPath(), Content, At, Effect, bFocus, FVector2D(0, 0), TOptional<EPopupMethod>(), bCollapsedByParent);
 		StandIn::AdvanceTime(0.0f);
 		return Menu;
 	}
@@ -262,8 +262,8 @@ TEST_F(FMenus, OpenBesideTheirRowAsSubmenus)
 TEST_F(FMenus, FindTheirPlaceAgainWhenTheyGrow)
 {
 	FVector2D Size(50, 40);
-	const TSharedPtr<IMenu> Menu = App().PushMenu(Owner.ToSharedRef(), FWidgetPath(), SNew(STestBox).Size_Lambda([&Size]() { return Size; }),
-		FVector2D(10, 250), FPopupTransitionEffect());
+	const TSharedPtr<IMenu> Menu = App().PushMenu(Owner.ToSharedRef(), FWidgetPath(),
+		SNew(STestBox).Size_Lambda([&Size]() { return Size; }), FVector2D(10, 250), FPopupTransitionEffect());
 	StandIn::AdvanceTime(0.0f);
 	EXPECT_EQ(FVector2D(10, 250), Menu->GetOwnedWindow()->GetPositionInScreen());
 	Size = FVector2D(50, 100);
@@ -296,13 +296,15 @@ protected:
 	void SetUp() override
 	{
 		FSlateFixture::SetUp();
-		Show(SNew(SVerticalBox) + SVerticalBox::Slot().AutoHeight().HAlign(HAlign_Left)
-				[SAssignNew(Anchor, SMenuAnchor)
-					 .OnGetMenuContent_Lambda([this]() -> TSharedRef<SWidget> {
-						 Notes.push_back("asked");
-						 return MakeBox(50, 40);
-					 })
-					 .OnMenuOpenChanged_Lambda([this](bool bOpen) { Notes.push_back(bOpen ? "open" : "closed"); })[MakeBox(80, 20)]]);
+		Show(SNew(SVerticalBox)
+			+ SVerticalBox::Slot().AutoHeight().HAlign(HAlign_Left)[SAssignNew(Anchor, SMenuAnchor)
+																		.OnGetMenuContent_Lambda([this]() -> TSharedRef<SWidget> {
+																			Notes.push_back("asked");
+																			return MakeBox(50, 40);
+																		})
+																		.OnMenuOpenChanged_Lambda([this](bool bOpen) {
+																			Notes.push_back(bOpen ? "open" : "closed");
+																		})[MakeBox(80, 20)]]);
 	}
 
 	TSharedPtr<SMenuAnchor> Anchor;

@@ -9,10 +9,12 @@
 #include "StandIn/AtomicFilePlatform.h"
 
 #include <algorithm>
+#include <chrono>
 #include <mutex>
 #include <set>
 #include <string>
 #include <system_error>
+#include <thread>
 #include <vector>
 
 namespace StandIn
@@ -127,9 +129,21 @@ public:
 		return FPlatform::Close(Handle, OutReason);
 	}
 
-	bool Replace(const std::filesystem::path& Target, std::string& OutReason)
+	bool Replace(const FString& FileName, const std::filesystem::path& Target, std::string& OutReason)
 	{
-		bReplaced = FPlatform::Replace(Path, Target, OutReason);
+		// Virus scanners and indexers hold a file for moments: wait for those, and for nothing else.
+		const int32 Pauses[] = {5, 20, 50, 110};
+		const size_t NumPauses = sizeof(Pauses) / sizeof(Pauses[0]);
+		for (size_t Try = 0; RunHook(EAtomicFileStep::Replace, FileName, OutReason); ++Try)
+		{
+			const FPlatform::EReplace Result = FPlatform::Replace(Path, Target, OutReason);
+			bReplaced = Result == FPlatform::EReplace::Replaced;
+			if (Result != FPlatform::EReplace::Held || Try == NumPauses)
+			{
+				break;
+			}
+			std::this_thread::sleep_for(std::chrono::milliseconds(Pauses[Try]));
+		}
 		return bReplaced;
 	}
 
@@ -166,7 +180,7 @@ bool SaveWhole(const FString& FileName, const char* Bytes, int64 NumBytes, std::
 		|| !FPlatform::Write(Temporary.Handle, Bytes, Half, OutReason) || !RunHook(EAtomicFileStep::Write, FileName, OutReason)
 		|| !FPlatform::Write(Temporary.Handle, Bytes + Half, NumBytes - Half, OutReason)
 		|| !RunHook(EAtomicFileStep::FlushFile, FileName, OutReason) || !FPlatform::FlushFile(Temporary.Handle, OutReason)
-		|| !Temporary.Close(OutReason) || !RunHook(EAtomicFileStep::Replace, FileName, OutReason) || !Temporary.Replace(Target, OutReason))
+		|| !Temporary.Close(OutReason) || !Temporary.Replace(FileName, Target, OutReason))
 	{
 		return false;
 	}

@@ -30,8 +30,16 @@ struct FAtomicFilePlatform
 	static bool Write(FHandle Handle, const char* Bytes, int64 NumBytes, std::string& OutReason);
 	static bool FlushFile(FHandle Handle, std::string& OutReason);
 	static bool Close(FHandle Handle, std::string& OutReason);
-	/** Puts a file in another's place in one step. */
-	static bool Replace(const std::filesystem::path& Temporary, const std::filesystem::path& Target, std::string& OutReason);
+	enum class EReplace
+	{
+		Replaced,
+		/** Another program holds the file; it may let go in a moment. */
+		Held,
+		Failed
+	};
+
+	/** Puts a file in another's place in one step, or leaves both as they are. */
+	static EReplace Replace(const std::filesystem::path& Temporary, const std::filesystem::path& Target, std::string& OutReason);
 	/** Makes the folder's entries last. */
 	static bool FlushFolder(const std::filesystem::path& Folder, std::string& OutReason);
 };

@@ -19,6 +19,7 @@ enum class EAtomicFileStep : uint8
 	/** Half of the bytes are written before a hook sees this step, half after it. */
 	Write,
 	FlushFile,
+	/** Seen again before each further try while another program holds the file. */
 	Replace,
 	FlushFolder
 };

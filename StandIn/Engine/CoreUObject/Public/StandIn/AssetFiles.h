@@ -25,6 +25,8 @@ struct FAssetFileType
 	FName ClassName;
 	/** Fills a new asset from its file; may be unset. */
 	TFunction<void(UObject* Asset, const FString& FileName)> Load;
+	/** Writes the file that a new asset starts with, whole or not at all; false with a few words why. Unset for none. */
+	TFunction<bool(const FString& FileName, FString& OutReason)> WriteNew;
 };
 
 /** A folder whose files are assets. */

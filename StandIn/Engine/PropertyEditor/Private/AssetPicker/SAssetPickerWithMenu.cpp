@@ -118,7 +118,7 @@ TSharedRef<SWidget> SAssetPickerWithMenu::MakeBrowser()
 			]
 			+ SVerticalBox::Slot()
 			.AutoHeight()
-			.Padding(FMargin(8.0f, 2.0f))
+			.Padding(FMargin(8.0f, 6.0f, 8.0f, 2.0f))
 			[
 				SNew(STextBlock)
 				.Visibility(EVisibility::HitTestInvisible)

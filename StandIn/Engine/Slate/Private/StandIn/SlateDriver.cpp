@@ -14,8 +14,8 @@ const float TickLength = 1.0f / 60.0f;
 FPointerEvent MakePointerEvent(const FVector2D& Position, const FKey& Button, float Wheel)
 {
 	FSlateApplication& Application = FSlateApplication::Get();
-	return FPointerEvent(0, Position, Application.GetCursorPos(), Application.GetPressedMouseButtons(), Button, Wheel,
-		Application.GetModifierKeys());
+	return FPointerEvent(
+		0, Position, Application.GetCursorPos(), Application.GetPressedMouseButtons(), Button, Wheel, Application.GetModifierKeys());
 }
 
 /** Visits shown widgets from the root down in the order of the tree until the visitor says true. */

@@ -54,7 +54,12 @@ void BreakParagraph(const FString& Text, int32 Start, int32 End, const FSlateFon
 			// One word wider than the line.
 			Break = Fit;
 		}
-		OutLines.Add(Text.Mid(Start, Break - Start));
+		int32 LineEnd = Break;
+		while (LineEnd > Start && IsSpace((*Text)[LineEnd - 1]))
+		{
+			--LineEnd;
+		}
+		OutLines.Add(Text.Mid(Start, LineEnd - Start));
 		Start = Break;
 		while (Start < End && IsSpace((*Text)[Start]))
 		{

@@ -22,8 +22,7 @@ void SToolTip::Construct(const FArguments& InArgs)
 		SetContentWidget(InArgs._Content.Widget);
 		return;
 	}
-	const TSharedRef<STextBlock> TextBlock =
-		SNew(STextBlock).Text(TextContent).Font(InArgs._Font).WrapTextAt(ToolTipWrapWidth);
+	const TSharedRef<STextBlock> TextBlock = SNew(STextBlock).Text(TextContent).Font(InArgs._Font).WrapTextAt(ToolTipWrapWidth);
 	if (InArgs._ColorAndOpacity.IsSet())
 	{
 		TextBlock->SetColorAndOpacity(InArgs._ColorAndOpacity);

@@ -21,8 +21,7 @@ public:
 		, _TextMargin(FMargin(8.0f))
 		, _BorderImage(FCoreStyle::Get().GetBrush("ToolTip.Background"))
 		, _IsInteractive(false)
-	{
-	}
+	{}
 	SLATE_ATTRIBUTE(FText, Text)
 	SLATE_DEFAULT_SLOT(FArguments, Content)
 	SLATE_ATTRIBUTE(FSlateFontInfo, Font)
@@ -39,7 +38,10 @@ public:
 	const FText& GetTextTooltip() const { return TextContent.Get(); }
 
 	TSharedRef<SWidget> AsWidget() override { return AsShared(); }
-	TSharedRef<SWidget> GetContentWidget() override { return ToolTipContent.IsValid() ? ToolTipContent.ToSharedRef() : ChildSlot.GetWidget(); }
+	TSharedRef<SWidget> GetContentWidget() override
+	{
+		return ToolTipContent.IsValid() ? ToolTipContent.ToSharedRef() : ChildSlot.GetWidget();
+	}
 	void SetContentWidget(const TSharedRef<SWidget>& InContentWidget) override;
 	bool IsEmpty() const override;
 	bool IsInteractive() const override { return bIsInteractive.Get(); }

@@ -19,8 +19,7 @@ public:
 		, _EnableBlending(false)
 		, _IgnoreTextureAlpha(true)
 		, _ViewportSize(FVector2D(320.0f, 240.0f))
-	{
-	}
+	{}
 	SLATE_DEFAULT_SLOT(FArguments, Content)
 	SLATE_ATTRIBUTE(bool, ShowEffectWhenDisabled)
 	SLATE_ARGUMENT(bool, EnableGammaCorrection)

@@ -4,7 +4,9 @@
 
 TSharedPtr<FSlateApplicationBase> FSlateApplicationBase::CurrentBaseApplication;
 
-FSlateApplicationBase::FSlateApplicationBase() : Renderer(MakeShareable(new FSlateRenderer())) {}
+FSlateApplicationBase::FSlateApplicationBase()
+	: Renderer(MakeShareable(new FSlateRenderer()))
+{}
 
 FSlateApplicationBase& FSlateApplicationBase::Get()
 {

@@ -2,20 +2,20 @@
 
 #include "Fonts/SlateFontInfo.h"
 
-FSlateFontInfo::FSlateFontInfo() : Size(0) {}
+FSlateFontInfo::FSlateFontInfo()
+	: Size(0)
+{}
 
 FSlateFontInfo::FSlateFontInfo(TSharedPtr<const FCompositeFont> InCompositeFont, const int32 InSize, const FName& InTypefaceFontName)
 	: CompositeFont(InCompositeFont)
 	, TypefaceFontName(InTypefaceFontName)
 	, Size(InSize)
-{
-}
+{}
 
 FSlateFontInfo::FSlateFontInfo(const FString& InFontName, uint16 InSize)
 	: CompositeFont(MakeShareable(new FCompositeFont(InFontName)))
 	, Size(static_cast<int32>(InSize))
-{
-}
+{}
 
 FString FSlateFontInfo::GetFamilyName() const
 {

@@ -3,7 +3,9 @@
 #include "Layout/ArrangedChildren.h"
 #include "Widgets/SWidget.h"
 
-FArrangedChildren::FArrangedChildren(EVisibility InVisibilityFilter, bool /*bInAllow3DWidgets*/) : VisibilityFilter(InVisibilityFilter) {}
+FArrangedChildren::FArrangedChildren(EVisibility InVisibilityFilter, bool /*bInAllow3DWidgets*/)
+	: VisibilityFilter(InVisibilityFilter)
+{}
 
 void FArrangedChildren::AddWidget(const FArrangedWidget& InWidgetGeometry)
 {

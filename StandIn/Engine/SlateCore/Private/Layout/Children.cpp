@@ -4,7 +4,9 @@
 #include "Widgets/SNullWidget.h"
 #include "Widgets/SWidget.h"
 
-FChildren::FChildren(SWidget* InOwner) : Owner(InOwner) {}
+FChildren::FChildren(SWidget* InOwner)
+	: Owner(InOwner)
+{}
 
 void FChildren::AssignParent(SWidget& Child) const
 {
@@ -18,9 +20,13 @@ void FChildren::DetachParent(SWidget& Child) const
 
 FNoChildren FNoChildren::NoChildrenInstance;
 
-FNoChildren::FNoChildren() : FChildren(nullptr) {}
+FNoChildren::FNoChildren()
+	: FChildren(nullptr)
+{}
 
-FNoChildren::FNoChildren(SWidget* InOwner) : FChildren(InOwner) {}
+FNoChildren::FNoChildren(SWidget* InOwner)
+	: FChildren(InOwner)
+{}
 
 TSharedRef<SWidget> FNoChildren::GetChildAt(int32 /*Index*/)
 {

@@ -4,15 +4,19 @@
 #include "Layout/ArrangedWidget.h"
 #include "Widgets/SWidget.h"
 
-FGeometry::FGeometry() : Size(0.0f, 0.0f), Scale(1.0f), AbsolutePosition(0.0f, 0.0f), Position(0.0f, 0.0f) {}
+FGeometry::FGeometry()
+	: Size(0.0f, 0.0f)
+	, Scale(1.0f)
+	, AbsolutePosition(0.0f, 0.0f)
+	, Position(0.0f, 0.0f)
+{}
 
 FGeometry::FGeometry(const FGeometry& RHS)
 	: Size(RHS.Size)
 	, Scale(RHS.Scale)
 	, AbsolutePosition(RHS.AbsolutePosition)
 	, Position(RHS.Position)
-{
-}
+{}
 
 FGeometry& FGeometry::operator=(const FGeometry& RHS)
 {
@@ -25,21 +29,20 @@ FGeometry& FGeometry::operator=(const FGeometry& RHS)
 	return *this;
 }
 
-FGeometry::FGeometry(const FVector2D& OffsetFromParent, const FVector2D& ParentAbsolutePosition, const FVector2D& InLocalSize, float InScale)
+FGeometry::FGeometry(
+	const FVector2D& OffsetFromParent, const FVector2D& ParentAbsolutePosition, const FVector2D& InLocalSize, float InScale)
 	: Size(InLocalSize)
 	, Scale(InScale)
 	, AbsolutePosition(ParentAbsolutePosition + OffsetFromParent * InScale)
 	, Position(OffsetFromParent)
-{
-}
+{}
 
 FGeometry::FGeometry(const FVector2D& InLocalSize, const FVector2D& InPosition, const FSlateLayoutTransform& Accumulated)
 	: Size(InLocalSize)
 	, Scale(Accumulated.GetScale())
 	, AbsolutePosition(Accumulated.GetTranslation())
 	, Position(InPosition)
-{
-}
+{}
 
 bool FGeometry::operator==(const FGeometry& Other) const
 {
@@ -126,6 +129,6 @@ FVector2D FGeometry::GetAbsolutePositionAtCoordinates(const FVector2D& NormalCoo
 
 FString FGeometry::ToString() const
 {
-	return FString::Printf(TEXT("[Abs=%g,%g, Scale=%g, Size=%g,%g]"), static_cast<double>(AbsolutePosition.X), static_cast<double>(AbsolutePosition.Y),
-		static_cast<double>(Scale), static_cast<double>(Size.X), static_cast<double>(Size.Y));
+	return FString::Printf(TEXT("[Abs=%g,%g, Scale=%g, Size=%g,%g]"), static_cast<double>(AbsolutePosition.X),
+		static_cast<double>(AbsolutePosition.Y), static_cast<double>(Scale), static_cast<double>(Size.X), static_cast<double>(Size.Y));
 }

@@ -3,13 +3,14 @@
 #include "Layout/WidgetPath.h"
 #include "Widgets/SWindow.h"
 
-FWidgetPath::FWidgetPath() : Widgets(EVisibility::Visible) {}
+FWidgetPath::FWidgetPath()
+	: Widgets(EVisibility::Visible)
+{}
 
 FWidgetPath::FWidgetPath(TSharedPtr<SWindow> InTopLevelWindow, const FArrangedChildren& InWidgetPath)
 	: Widgets(InWidgetPath)
 	, TopLevelWindow(InTopLevelWindow)
-{
-}
+{}
 
 FWidgetPath FWidgetPath::GetPathDownTo(TSharedRef<const SWidget> MarkerWidget) const
 {
@@ -77,7 +78,8 @@ FString FWidgetPath::ToString() const
 	return Text;
 }
 
-FWeakWidgetPath::FWeakWidgetPath(const FWidgetPath& InWidgetPath) : Window(InWidgetPath.TopLevelWindow)
+FWeakWidgetPath::FWeakWidgetPath(const FWidgetPath& InWidgetPath)
+	: Window(InWidgetPath.TopLevelWindow)
 {
 	for (int32 Index = 0; Index < InWidgetPath.Widgets.Num(); ++Index)
 	{

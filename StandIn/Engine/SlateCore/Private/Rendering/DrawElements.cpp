@@ -62,7 +62,9 @@ void FSlateDrawElement::MakeViewport(FSlateWindowElementList& ElementList, uint3
 	Add(ElementList, EElementType::ET_Viewport, InLayer, PaintGeometry, InDrawEffects, InTint).Viewport = Viewport;
 }
 
-FSlateWindowElementList::FSlateWindowElementList(const TSharedPtr<SWindow>& InPaintWindow) : PaintWindow(InPaintWindow) {}
+FSlateWindowElementList::FSlateWindowElementList(const TSharedPtr<SWindow>& InPaintWindow)
+	: PaintWindow(InPaintWindow)
+{}
 
 void FSlateWindowElementList::PushClip(const FSlateClippingZone& InClipZone)
 {

@@ -2,6 +2,8 @@
 
 #include "Rendering/SlateRenderer.h"
 
-FSlateRenderer::FSlateRenderer() : FontMeasure(MakeShareable(new FSlateFontMeasure())) {}
+FSlateRenderer::FSlateRenderer()
+	: FontMeasure(MakeShareable(new FSlateFontMeasure()))
+{}
 
 void FSlateRenderer::LoadStyleResources(const ISlateStyle& /*Style*/) {}

@@ -11,10 +11,9 @@ const TCHAR ShapePrefix[] = TEXT("Shape:");
 
 FShapeBrush::FShapeBrush(EBrushShape Shape, const FVector2D& InImageSize, const FSlateColor& InTint, float CornerRadius)
 	: FSlateBrush(ESlateBrushDrawType::Image,
-		  FName(*FString::Printf(TEXT("%s%d:%d"), ShapePrefix, static_cast<int32>(Shape), static_cast<int32>(CornerRadius))), FMargin(0.0f),
-		  ESlateBrushTileType::NoTile, ESlateBrushImageType::FullColor, InImageSize, InTint)
-{
-}
+		FName(*FString::Printf(TEXT("%s%d:%d"), ShapePrefix, static_cast<int32>(Shape), static_cast<int32>(CornerRadius))), FMargin(0.0f),
+		ESlateBrushTileType::NoTile, ESlateBrushImageType::FullColor, InImageSize, InTint)
+{}
 
 EBrushShape GetBrushShape(const FSlateBrush& Brush, float* OutCornerRadius)
 {

@@ -70,8 +70,9 @@ void AddMenus(FSlateStyleSet& Style)
 	// Tool bars that float over a viewport.
 	const FLinearColor Glass = MakeColor(0x202020, 0.7f);
 	const FShapeBrush ToolBarButton(EBrushShape::RoundedBox, FVector2D(16, 16), Glass, 4.0f);
+	const FShapeBrush HoveredToolBarButton(EBrushShape::RoundedBox, FVector2D(16, 16), MakeColor(0x5A5A5A, 0.85f), 4.0f);
 	Style.Set("ViewportToolBar.Button",
-		FButtonStyle().SetNormal(ToolBarButton).SetHovered(Selected).SetPressed(Pressed).SetDisabled(ToolBarButton));
+		FButtonStyle().SetNormal(ToolBarButton).SetHovered(HoveredToolBarButton).SetPressed(Pressed).SetDisabled(ToolBarButton));
 	Style.Set("ViewportToolBar.Text",
 		FTextBlockStyle(NormalText)
 			.SetColorAndOpacity(FSlateColor(GetForeground()))

@@ -4,9 +4,8 @@
 
 FSlateBrush::FSlateBrush()
 	: FSlateBrush(ESlateBrushDrawType::Image, FName(NAME_None), FMargin(0.0f), ESlateBrushTileType::NoTile, ESlateBrushImageType::NoImage,
-		  FVector2D(32.0f, 32.0f))
-{
-}
+		FVector2D(32.0f, 32.0f))
+{}
 
 FSlateBrush::FSlateBrush(ESlateBrushDrawType::Type InDrawType, const FName InResourceName, const FMargin& InMargin,
 	ESlateBrushTileType::Type InTiling, ESlateBrushImageType::Type InImageType, const FVector2D& InImageSize, const FSlateColor& InTint,
@@ -20,8 +19,7 @@ FSlateBrush::FSlateBrush(ESlateBrushDrawType::Type InDrawType, const FName InRes
 	, ImageType(InImageType)
 	, ResourceName(InResourceName)
 	, ResourceObject(InObjectResource)
-{
-}
+{}
 
 void FSlateBrush::SetResourceObject(UObject* InResourceObject)
 {

@@ -3,16 +3,21 @@
 #include "Styling/SlateColor.h"
 #include "Styling/WidgetStyle.h"
 
-FSlateColor::FSlateColor() : SpecifiedColor(1.0f, 0.0f, 1.0f, 1.0f), ColorUseRule(EColorRule::Specified) {}
+FSlateColor::FSlateColor()
+	: SpecifiedColor(1.0f, 0.0f, 1.0f, 1.0f)
+	, ColorUseRule(EColorRule::Specified)
+{}
 
-FSlateColor::FSlateColor(const FLinearColor& InColor) : SpecifiedColor(InColor), ColorUseRule(EColorRule::Specified) {}
+FSlateColor::FSlateColor(const FLinearColor& InColor)
+	: SpecifiedColor(InColor)
+	, ColorUseRule(EColorRule::Specified)
+{}
 
 FSlateColor::FSlateColor(const TSharedRef<FLinearColor>& InColor)
 	: SpecifiedColor(*InColor)
 	, ColorUseRule(EColorRule::Linked)
 	, LinkedColor(InColor)
-{
-}
+{}
 
 const FLinearColor& FSlateColor::GetColor(const FWidgetStyle& InWidgetStyle) const
 {

@@ -6,10 +6,9 @@
 
 FSlateStyleSet::FSlateStyleSet(const FName& InStyleSetName)
 	: StyleSetName(InStyleSetName)
-	, DefaultBrush(
-		  new StandIn::FShapeBrush(StandIn::EBrushShape::Checkerboard, FVector2D(16.0f, 16.0f), FSlateColor(FLinearColor(1.0f, 1.0f, 1.0f, 1.0f))))
-{
-}
+	, DefaultBrush(new StandIn::FShapeBrush(
+		  StandIn::EBrushShape::Checkerboard, FVector2D(16.0f, 16.0f), FSlateColor(FLinearColor(1.0f, 1.0f, 1.0f, 1.0f))))
+{}
 
 FSlateStyleSet::~FSlateStyleSet()
 {

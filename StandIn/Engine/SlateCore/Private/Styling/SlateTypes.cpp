@@ -3,12 +3,12 @@
 #include "Styling/SlateTypes.h"
 
 // Every style type has its name and a default instance.
-#define STANDIN_STYLE_BASICS(StyleType)                                                                                                              \
-	const FName StyleType::TypeName(TEXT(#StyleType));                                                                                               \
-	const StyleType& StyleType::GetDefault()                                                                                                         \
-	{                                                                                                                                                \
-		static const StyleType Default;                                                                                                              \
-		return Default;                                                                                                                              \
+#define STANDIN_STYLE_BASICS(StyleType) \
+	const FName StyleType::TypeName(TEXT(#StyleType)); \
+	const StyleType& StyleType::GetDefault() \
+	{ \
+		static const StyleType Default; \
+		return Default; \
 	}
 
 STANDIN_STYLE_BASICS(FTextBlockStyle)
@@ -30,8 +30,7 @@ FTextBlockStyle::FTextBlockStyle()
 	, ShadowOffset(0.0f, 0.0f)
 	, ShadowColorAndOpacity(0.0f, 0.0f, 0.0f, 1.0f)
 	, HighlightColor(0.0f, 0.0f, 0.0f, 1.0f)
-{
-}
+{}
 
 void FTextBlockStyle::GetResources(TArray<const FSlateBrush*>& OutBrushes) const
 {
@@ -53,8 +52,7 @@ FCheckBoxStyle::FCheckBoxStyle()
 	, Padding(FMargin(2.0f, 0.0f, 0.0f, 0.0f))
 	, ForegroundColor(FSlateColor::UseForeground())
 	, BorderBackgroundColor(FLinearColor(1.0f, 1.0f, 1.0f, 1.0f))
-{
-}
+{}
 
 void FCheckBoxStyle::GetResources(TArray<const FSlateBrush*>& OutBrushes) const
 {
@@ -69,7 +67,9 @@ void FCheckBoxStyle::GetResources(TArray<const FSlateBrush*>& OutBrushes) const
 	OutBrushes.Add(&UndeterminedPressedImage);
 }
 
-FEditableTextStyle::FEditableTextStyle() : ColorAndOpacity(FSlateColor::UseForeground()) {}
+FEditableTextStyle::FEditableTextStyle()
+	: ColorAndOpacity(FSlateColor::UseForeground())
+{}
 
 void FEditableTextStyle::GetResources(TArray<const FSlateBrush*>& OutBrushes) const
 {
@@ -77,7 +77,9 @@ void FEditableTextStyle::GetResources(TArray<const FSlateBrush*>& OutBrushes) co
 	OutBrushes.Add(&CaretImage);
 }
 
-FScrollBarStyle::FScrollBarStyle() : Thickness(10.0f) {}
+FScrollBarStyle::FScrollBarStyle()
+	: Thickness(10.0f)
+{}
 
 void FScrollBarStyle::GetResources(TArray<const FSlateBrush*>& OutBrushes) const
 {
@@ -93,8 +95,7 @@ FEditableTextBoxStyle::FEditableTextBoxStyle()
 	, ForegroundColor(FSlateColor::UseForeground())
 	, BackgroundColor(FLinearColor(1.0f, 1.0f, 1.0f, 1.0f))
 	, ReadOnlyForegroundColor(FSlateColor::UseForeground())
-{
-}
+{}
 
 void FEditableTextBoxStyle::GetResources(TArray<const FSlateBrush*>& OutBrushes) const
 {
@@ -122,7 +123,9 @@ void FProgressBarStyle::GetResources(TArray<const FSlateBrush*>& OutBrushes) con
 	OutBrushes.Add(&MarqueeImage);
 }
 
-FSliderStyle::FSliderStyle() : BarThickness(2.0f) {}
+FSliderStyle::FSliderStyle()
+	: BarThickness(2.0f)
+{}
 
 void FSliderStyle::GetResources(TArray<const FSlateBrush*>& OutBrushes) const
 {
@@ -139,7 +142,10 @@ void FSplitterStyle::GetResources(TArray<const FSlateBrush*>& OutBrushes) const
 	OutBrushes.Add(&HandleHighlightBrush);
 }
 
-FTableRowStyle::FTableRowStyle() : TextColor(FSlateColor::UseForeground()), SelectedTextColor(FSlateColor::UseForeground()) {}
+FTableRowStyle::FTableRowStyle()
+	: TextColor(FSlateColor::UseForeground())
+	, SelectedTextColor(FSlateColor::UseForeground())
+{}
 
 void FTableRowStyle::GetResources(TArray<const FSlateBrush*>& OutBrushes) const
 {
@@ -154,7 +160,9 @@ void FTableRowStyle::GetResources(TArray<const FSlateBrush*>& OutBrushes) const
 	OutBrushes.Add(&OddRowBackgroundBrush);
 }
 
-FComboButtonStyle::FComboButtonStyle() : MenuBorderPadding(FMargin(0.0f)) {}
+FComboButtonStyle::FComboButtonStyle()
+	: MenuBorderPadding(FMargin(0.0f))
+{}
 
 void FComboButtonStyle::GetResources(TArray<const FSlateBrush*>& OutBrushes) const
 {

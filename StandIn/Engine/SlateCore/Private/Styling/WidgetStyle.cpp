@@ -8,8 +8,7 @@ FWidgetStyle::FWidgetStyle()
 	: ColorAndOpacityTint(1.0f, 1.0f, 1.0f, 1.0f)
 	, ForegroundColor(0.72f, 0.72f, 0.72f, 1.0f)
 	, SubduedForeground(0.72f, 0.72f, 0.72f, SubdueAmount)
-{
-}
+{}
 
 FWidgetStyle& FWidgetStyle::BlendColorAndOpacityTint(const FLinearColor& InTint)
 {

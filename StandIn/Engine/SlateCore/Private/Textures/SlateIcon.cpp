@@ -4,23 +4,23 @@
 #include "Styling/ISlateStyle.h"
 #include "Styling/SlateStyleRegistry.h"
 
-FSlateIcon::FSlateIcon() : bIsSet(false) {}
+FSlateIcon::FSlateIcon()
+	: bIsSet(false)
+{}
 
 FSlateIcon::FSlateIcon(const FName& InStyleSetName, const FName& InStyleName)
 	: StyleSetName(InStyleSetName)
 	, StyleName(InStyleName)
 	, SmallStyleName(ISlateStyle::Join(InStyleName, ".Small"))
 	, bIsSet(true)
-{
-}
+{}
 
 FSlateIcon::FSlateIcon(const FName& InStyleSetName, const FName& InStyleName, const FName& InSmallStyleName)
 	: StyleSetName(InStyleSetName)
 	, StyleName(InStyleName)
 	, SmallStyleName(InSmallStyleName)
 	, bIsSet(true)
-{
-}
+{}
 
 const FSlateBrush* FSlateIcon::GetSmallIcon() const
 {

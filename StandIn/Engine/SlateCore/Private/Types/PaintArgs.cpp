@@ -9,8 +9,7 @@ FPaintArgs::FPaintArgs(const SWidget* InPaintParent, FHittestGrid& InRootHittest
 	, DeltaTime(InDeltaTime)
 	, HittestParentIndex(INDEX_NONE)
 	, bInheritedHittestability(true)
-{
-}
+{}
 
 FPaintArgs FPaintArgs::WithNewParent(const SWidget* InParent) const
 {

@@ -5,7 +5,10 @@
 #include "Layout/LayoutUtils.h"
 #include "Widgets/SNullWidget.h"
 
-SBoxPanel::SBoxPanel(EOrientation InOrientation) : Children(this), Orientation(InOrientation) {}
+SBoxPanel::SBoxPanel(EOrientation InOrientation)
+	: Children(this)
+	, Orientation(InOrientation)
+{}
 
 int32 SBoxPanel::RemoveSlot(const TSharedRef<SWidget>& SlotWidget)
 {
@@ -85,9 +88,9 @@ void SBoxPanel::OnArrangeChildren(const FGeometry& AllottedGeometry, FArrangedCh
 		const FVector2D SlotSize = bHorizontal ? FVector2D(SlotLength, AllottedSize.Y) : FVector2D(AllottedSize.X, SlotLength);
 		const AlignmentArrangeResult X = AlignChild<Orient_Horizontal>(SlotSize.X, CurChild, Margin);
 		const AlignmentArrangeResult Y = AlignChild<Orient_Vertical>(SlotSize.Y, CurChild, Margin);
-		const FVector2D Offset = bHorizontal ? FVector2D(PositionSoFar + X.Offset, Y.Offset) : FVector2D(X.Offset, PositionSoFar + Y.Offset);
-		ArrangedChildren.AddWidget(
-			ChildVisibility, AllottedGeometry.MakeChild(CurChild.GetWidget(), Offset, FVector2D(X.Size, Y.Size)));
+		const FVector2D Offset =
+			bHorizontal ? FVector2D(PositionSoFar + X.Offset, Y.Offset) : FVector2D(X.Offset, PositionSoFar + Y.Offset);
+		ArrangedChildren.AddWidget(ChildVisibility, AllottedGeometry.MakeChild(CurChild.GetWidget(), Offset, FVector2D(X.Size, Y.Size)));
 		PositionSoFar += SlotLength;
 	}
 }
@@ -109,8 +112,8 @@ FVector2D SBoxPanel::ComputeDesiredSize(float /*LayoutScaleMultiplier*/) const
 		const float MaxSize = CurChild.MaxSize.Get();
 		const float Length = bHorizontal ? Desired.X : Desired.Y;
 		Along += (MaxSize > 0.0f ? FMath::Min(MaxSize, Length) : Length) + Margin.GetTotalSpaceAlong(Orientation);
-		Across = FMath::Max(Across,
-			(bHorizontal ? Desired.Y : Desired.X) + Margin.GetTotalSpaceAlong(bHorizontal ? Orient_Vertical : Orient_Horizontal));
+		Across = FMath::Max(
+			Across, (bHorizontal ? Desired.Y : Desired.X) + Margin.GetTotalSpaceAlong(bHorizontal ? Orient_Vertical : Orient_Horizontal));
 	}
 	return bHorizontal ? FVector2D(Along, Across) : FVector2D(Across, Along);
 }

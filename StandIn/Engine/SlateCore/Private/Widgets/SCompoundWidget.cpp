@@ -9,8 +9,7 @@ SCompoundWidget::SCompoundWidget()
 	, ContentScale(FVector2D(1.0f, 1.0f))
 	, ColorAndOpacity(FLinearColor(1.0f, 1.0f, 1.0f, 1.0f))
 	, ForegroundColor(FSlateColor::UseForeground())
-{
-}
+{}
 
 FChildren* SCompoundWidget::GetChildren()
 {

@@ -4,7 +4,8 @@
 #include "Layout/ArrangedChildren.h"
 #include "Layout/LayoutUtils.h"
 
-SOverlay::SOverlay() : Children(this)
+SOverlay::SOverlay()
+	: Children(this)
 {
 	SetCanTick(false);
 }

@@ -25,8 +25,8 @@ int32 SPanel::PaintArrangedChildren(const FPaintArgs& Args, const FArrangedChild
 		const FArrangedWidget& CurWidget = ArrangedChildren[ChildIndex];
 		if (!IsChildWidgetCulled(MyCullingRect, CurWidget))
 		{
-			const int32 CurWidgetsMaxLayerId = CurWidget.Widget->Paint(
-				Args, CurWidget.Geometry, MyCullingRect, OutDrawElements, LayerId, InWidgetStyle, bShouldBeEnabled);
+			const int32 CurWidgetsMaxLayerId =
+				CurWidget.Widget->Paint(Args, CurWidget.Geometry, MyCullingRect, OutDrawElements, LayerId, InWidgetStyle, bShouldBeEnabled);
 			MaxLayerId = FMath::Max(MaxLayerId, CurWidgetsMaxLayerId);
 		}
 	}

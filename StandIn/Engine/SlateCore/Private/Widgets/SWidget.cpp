@@ -22,8 +22,7 @@ SWidget::SWidget()
 	, bIsHovered(false)
 	, bCanTick(true)
 	, bHasCustomPrepass(false)
-{
-}
+{}
 
 SWidget::~SWidget() {}
 
@@ -88,7 +87,8 @@ int32 SWidget::Paint(const FPaintArgs& Args, const FGeometry& AllottedGeometry, 
 
 	FWidgetStyle ContentWidgetStyle(InWidgetStyle);
 	ContentWidgetStyle.BlendOpacity(RenderOpacity);
-	const int32 NewLayerId = OnPaint(UpdatedArgs, AllottedGeometry, CullingBounds, OutDrawElements, LayerId, ContentWidgetStyle, bParentEnabled);
+	const int32 NewLayerId =
+		OnPaint(UpdatedArgs, AllottedGeometry, CullingBounds, OutDrawElements, LayerId, ContentWidgetStyle, bParentEnabled);
 
 	if (bClip)
 	{
@@ -108,8 +108,7 @@ void SWidget::OnFocusLost(const FFocusEvent& /*InFocusEvent*/) {}
 
 void SWidget::OnFocusChanging(
 	const FWeakWidgetPath& /*PreviousFocusPath*/, const FWidgetPath& /*NewWidgetPath*/, const FFocusEvent& /*InFocusEvent*/)
-{
-}
+{}
 
 FReply SWidget::OnKeyChar(const FGeometry& /*MyGeometry*/, const FCharacterEvent& /*InCharacterEvent*/)
 {

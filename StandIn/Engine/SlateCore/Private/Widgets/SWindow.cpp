@@ -14,8 +14,7 @@ SWindow::SWindow()
 	, bFocusWhenFirstShown(true)
 	, bIsShown(false)
 	, bIsDestroyed(false)
-{
-}
+{}
 
 SWindow::~SWindow() {}
 
@@ -184,11 +183,11 @@ int32 SWindow::OnPaint(const FPaintArgs& Args, const FGeometry& AllottedGeometry
 	OutDrawElements.PushClip(FSlateClippingZone(AllottedGeometry));
 	if (IsRegularWindow())
 	{
-		FSlateDrawElement::MakeBox(OutDrawElements, static_cast<uint32>(LayerId), AllottedGeometry.ToPaintGeometry(), &Style->BackgroundBrush,
-			ESlateDrawEffect::None, Style->BackgroundBrush.GetTint(InWidgetStyle));
+		FSlateDrawElement::MakeBox(OutDrawElements, static_cast<uint32>(LayerId), AllottedGeometry.ToPaintGeometry(),
+			&Style->BackgroundBrush, ESlateDrawEffect::None, Style->BackgroundBrush.GetTint(InWidgetStyle));
 	}
-	const int32 MaxLayerId = SCompoundWidget::OnPaint(
-		Args, AllottedGeometry, MyCullingRect, OutDrawElements, LayerId, InWidgetStyle, bParentEnabled);
+	const int32 MaxLayerId =
+		SCompoundWidget::OnPaint(Args, AllottedGeometry, MyCullingRect, OutDrawElements, LayerId, InWidgetStyle, bParentEnabled);
 	OutDrawElements.PopClip();
 	return MaxLayerId;
 }

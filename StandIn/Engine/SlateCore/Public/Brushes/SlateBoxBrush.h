@@ -14,31 +14,28 @@ struct SLATECORE_API FSlateBoxBrush : public FSlateBrush
 	FORCENOINLINE FSlateBoxBrush(const FName& InImageName, const FMargin& InMargin,
 		const FSlateColor& InColorAndOpacity = FSlateColor(FLinearColor(1, 1, 1, 1)),
 		ESlateBrushImageType::Type InImageType = ESlateBrushImageType::FullColor)
-		: FSlateBrush(ESlateBrushDrawType::Box, InImageName, InMargin, ESlateBrushTileType::NoTile, InImageType, FVector2D(16, 16), InColorAndOpacity)
-	{
-	}
+		: FSlateBrush(
+			ESlateBrushDrawType::Box, InImageName, InMargin, ESlateBrushTileType::NoTile, InImageType, FVector2D(16, 16), InColorAndOpacity)
+	{}
 
 	/** Makes a brush of an image by path. */
 	FORCENOINLINE FSlateBoxBrush(const FString& InImageName, const FMargin& InMargin,
 		const FSlateColor& InColorAndOpacity = FSlateColor(FLinearColor(1, 1, 1, 1)),
 		ESlateBrushImageType::Type InImageType = ESlateBrushImageType::FullColor)
 		: FSlateBoxBrush(FName(*InImageName), InMargin, InColorAndOpacity, InImageType)
-	{
-	}
+	{}
 
 	/** Makes a brush of an image by narrow path. */
 	FORCENOINLINE FSlateBoxBrush(const ANSICHAR* InImageName, const FMargin& InMargin,
 		const FSlateColor& InColorAndOpacity = FSlateColor(FLinearColor(1, 1, 1, 1)),
 		ESlateBrushImageType::Type InImageType = ESlateBrushImageType::FullColor)
 		: FSlateBoxBrush(FName(InImageName), InMargin, InColorAndOpacity, InImageType)
-	{
-	}
+	{}
 
 	/** Makes a brush of an image by wide path. */
 	FORCENOINLINE FSlateBoxBrush(const TCHAR* InImageName, const FMargin& InMargin,
 		const FSlateColor& InColorAndOpacity = FSlateColor(FLinearColor(1, 1, 1, 1)),
 		ESlateBrushImageType::Type InImageType = ESlateBrushImageType::FullColor)
 		: FSlateBoxBrush(FName(InImageName), InMargin, InColorAndOpacity, InImageType)
-	{
-	}
+	{}
 };

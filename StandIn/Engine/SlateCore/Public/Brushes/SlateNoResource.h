@@ -13,7 +13,6 @@ struct SLATECORE_API FSlateNoResource : public FSlateBrush
 	/** Makes a brush of a size. */
 	FORCENOINLINE FSlateNoResource(const FVector2D& InImageSize = FVector2D(16, 16))
 		: FSlateBrush(ESlateBrushDrawType::NoDrawType, FName(NAME_None), FMargin(0), ESlateBrushTileType::NoTile,
-			  ESlateBrushImageType::NoImage, InImageSize)
-	{
-	}
+			ESlateBrushImageType::NoImage, InImageSize)
+	{}
 };

@@ -21,11 +21,12 @@ public:
 	FVector2D Measure(const TCHAR* Text, const FSlateFontInfo& InFontInfo, float FontScale = 1.0f) const;
 
 	/** Measures the characters from StartIndex up to, not including, EndIndex. */
-	FVector2D Measure(const FString& Text, int32 StartIndex, int32 EndIndex, const FSlateFontInfo& InFontInfo, bool bIncludeKerningWithPrecedingChar = true,
-		float FontScale = 1.0f) const;
+	FVector2D Measure(const FString& Text, int32 StartIndex, int32 EndIndex, const FSlateFontInfo& InFontInfo,
+		bool bIncludeKerningWithPrecedingChar = true, float FontScale = 1.0f) const;
 
 	/** Returns the index of the character at a horizontal offset; the text's length behind its end. */
-	int32 FindCharacterIndexAtOffset(const FString& Text, const FSlateFontInfo& InFontInfo, const int32 HorizontalOffset, float FontScale = 1.0f) const;
+	int32 FindCharacterIndexAtOffset(
+		const FString& Text, const FSlateFontInfo& InFontInfo, const int32 HorizontalOffset, float FontScale = 1.0f) const;
 
 	/** Returns the index of the last whole character before a horizontal offset, INDEX_NONE if none fits. */
 	int32 FindLastWholeCharacterIndexBeforeOffset(

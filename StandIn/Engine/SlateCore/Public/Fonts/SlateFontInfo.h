@@ -13,7 +13,9 @@ class UObject;
 struct FCompositeFont
 {
 	/** Makes a family. */
-	FCompositeFont(const FString& InFamilyName = FString(TEXT("Roboto"))) : FamilyName(InFamilyName) {}
+	FCompositeFont(const FString& InFamilyName = FString(TEXT("Roboto")))
+		: FamilyName(InFamilyName)
+	{}
 
 	/** The family's name as a font system knows it. */
 	FString FamilyName;

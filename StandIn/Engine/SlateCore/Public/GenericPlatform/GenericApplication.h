@@ -23,11 +23,12 @@ public:
 		, bIsLeftCommandDown(bInIsLeftCommandDown)
 		, bIsRightCommandDown(bInIsRightCommandDown)
 		, bAreCapsLocked(bInAreCapsLocked)
-	{
-	}
+	{}
 
 	/** Makes the state of no key held. */
-	FModifierKeysState() : FModifierKeysState(false, false, false, false, false, false, false, false, false) {}
+	FModifierKeysState()
+		: FModifierKeysState(false, false, false, false, false, false, false, false, false)
+	{}
 
 	/** Says whether either Shift key is held. */
 	bool IsShiftDown() const { return bIsLeftShiftDown || bIsRightShiftDown; }

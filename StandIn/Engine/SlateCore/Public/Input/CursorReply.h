@@ -22,9 +22,15 @@ public:
 	EMouseCursor::Type GetCursorType() const { return MouseCursor; }
 
 private:
-	FCursorReply() : FReplyBase(false), MouseCursor(EMouseCursor::Default) {}
+	FCursorReply()
+		: FReplyBase(false)
+		, MouseCursor(EMouseCursor::Default)
+	{}
 
-	FCursorReply(EMouseCursor::Type InCursorType) : FReplyBase(true), MouseCursor(InCursorType) {}
+	FCursorReply(EMouseCursor::Type InCursorType)
+		: FReplyBase(true)
+		, MouseCursor(InCursorType)
+	{}
 
 	EMouseCursor::Type MouseCursor;
 };

@@ -27,10 +27,16 @@ enum class EFocusCause : uint8
 struct FFocusEvent
 {
 	/** Makes the event of a direct change. */
-	FFocusEvent() : Cause(EFocusCause::SetDirectly), UserIndex(0) {}
+	FFocusEvent()
+		: Cause(EFocusCause::SetDirectly)
+		, UserIndex(0)
+	{}
 
 	/** Makes an event of a cause and a user. */
-	FFocusEvent(const EFocusCause InCause, uint32 InUserIndex) : Cause(InCause), UserIndex(InUserIndex) {}
+	FFocusEvent(const EFocusCause InCause, uint32 InUserIndex)
+		: Cause(InCause)
+		, UserIndex(InUserIndex)
+	{}
 
 	/** Returns why the focus changed. */
 	EFocusCause GetCause() const { return Cause; }
@@ -47,7 +53,10 @@ private:
 struct FCaptureLostEvent
 {
 	/** Makes an event of a user and a pointer. */
-	FCaptureLostEvent(int32 InUserIndex, int32 InPointerIndex) : UserIndex(InUserIndex), PointerIndex(InPointerIndex) {}
+	FCaptureLostEvent(int32 InUserIndex, int32 InPointerIndex)
+		: UserIndex(InUserIndex)
+		, PointerIndex(InPointerIndex)
+	{}
 
 	/** The user. */
 	int32 UserIndex;
@@ -60,15 +69,17 @@ struct FCaptureLostEvent
 struct FInputEvent
 {
 	/** Makes an event of no keys. */
-	FInputEvent() : UserIndex(0), bIsRepeat(false) {}
+	FInputEvent()
+		: UserIndex(0)
+		, bIsRepeat(false)
+	{}
 
 	/** Makes an event of the state of the modifier keys. */
 	FInputEvent(const FModifierKeysState& InModifierKeys, const int32 InUserIndex, const bool bInIsRepeat)
 		: ModifierKeys(InModifierKeys)
 		, UserIndex(static_cast<uint32>(InUserIndex))
 		, bIsRepeat(bInIsRepeat)
-	{
-	}
+	{}
 
 	/** Destroys the event. */
 	virtual ~FInputEvent() {}
@@ -104,7 +115,10 @@ protected:
 struct FKeyEvent : public FInputEvent
 {
 	/** Makes the event of no key. */
-	FKeyEvent() : CharacterCode(0), KeyCode(0) {}
+	FKeyEvent()
+		: CharacterCode(0)
+		, KeyCode(0)
+	{}
 
 	/** Makes an event of a key. */
 	FKeyEvent(const FKey InKey, const FModifierKeysState& InModifierKeys, const uint32 InUserIndex, const bool bInIsRepeat,
@@ -113,8 +127,7 @@ struct FKeyEvent : public FInputEvent
 		, Key(InKey)
 		, CharacterCode(InCharacterCode)
 		, KeyCode(InKeyCode)
-	{
-	}
+	{}
 
 	/** Returns the key. */
 	FKey GetKey() const { return Key; }
@@ -138,8 +151,7 @@ struct FCharacterEvent : public FInputEvent
 	FCharacterEvent(const TCHAR InCharacter, const FModifierKeysState& InModifierKeys, const uint32 InUserIndex, const bool bInIsRepeat)
 		: FInputEvent(InModifierKeys, static_cast<int32>(InUserIndex), bInIsRepeat)
 		, Character(InCharacter)
-	{
-	}
+	{}
 
 	/** Returns the character. */
 	TCHAR GetCharacter() const { return Character; }
@@ -152,7 +164,10 @@ private:
 struct FPointerEvent : public FInputEvent
 {
 	/** Makes an event of no pointer. */
-	FPointerEvent() : PointerIndex(0), WheelDelta(0.0f) {}
+	FPointerEvent()
+		: PointerIndex(0)
+		, WheelDelta(0.0f)
+	{}
 
 	/** Makes an event of the mouse. */
 	FPointerEvent(uint32 InPointerIndex, const FVector2D& InScreenSpacePosition, const FVector2D& InLastScreenSpacePosition,
@@ -164,8 +179,7 @@ struct FPointerEvent : public FInputEvent
 		, EffectingButton(InEffectingButton)
 		, PointerIndex(InPointerIndex)
 		, WheelDelta(InWheelDelta)
-	{
-	}
+	{}
 
 	/** Returns where the mouse is. */
 	const FVector2D& GetScreenSpacePosition() const { return ScreenSpacePosition; }
@@ -218,8 +232,7 @@ struct FWindowActivateEvent
 	FWindowActivateEvent(EActivationType InActivationType, TSharedRef<SWindow> InAffectedWindow)
 		: ActivationType(InActivationType)
 		, AffectedWindow(InAffectedWindow)
-	{
-	}
+	{}
 
 	/** Returns what happened. */
 	EActivationType GetActivationType() const { return ActivationType; }

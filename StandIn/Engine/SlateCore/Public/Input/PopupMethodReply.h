@@ -28,7 +28,10 @@ public:
 	EPopupMethod GetPopupMethod() const { return PopupMethod; }
 
 private:
-	FPopupMethodReply(bool bInIsHandled, EPopupMethod InMethod) : FReplyBase(bInIsHandled), PopupMethod(InMethod) {}
+	FPopupMethodReply(bool bInIsHandled, EPopupMethod InMethod)
+		: FReplyBase(bInIsHandled)
+		, PopupMethod(InMethod)
+	{}
 
 	EPopupMethod PopupMethod;
 };

@@ -110,7 +110,9 @@ public:
 	}
 
 private:
-	explicit FReply(bool bInIsHandled) : FReplyBase(bInIsHandled) {}
+	explicit FReply(bool bInIsHandled)
+		: FReplyBase(bInIsHandled)
+	{}
 
 	FReply& Me() { return *this; }
 

@@ -20,7 +20,9 @@ public:
 
 protected:
 	/** Makes an answer. */
-	FReplyBase(bool InIsHandled) : bIsHandled(InIsHandled) {}
+	FReplyBase(bool InIsHandled)
+		: bIsHandled(InIsHandled)
+	{}
 
 	/** Whether the event was handled. */
 	bool bIsHandled;

@@ -20,7 +20,10 @@ public:
 	TSharedRef<SWidget> Widget;
 
 	/** Pairs a widget with its geometry. */
-	FArrangedWidget(TSharedRef<SWidget> InWidget, const FGeometry& InGeometry) : Geometry(InGeometry), Widget(InWidget) {}
+	FArrangedWidget(TSharedRef<SWidget> InWidget, const FGeometry& InGeometry)
+		: Geometry(InGeometry)
+		, Widget(InWidget)
+	{}
 
 	/** Returns the null widget with no geometry. */
 	static const FArrangedWidget& GetNullWidget();

@@ -81,7 +81,12 @@ class TSupportsOneChildMixin : public FChildren, public TSlotBase<MixedIntoType>
 {
 public:
 	/** Makes the one child of a widget. */
-	TSupportsOneChildMixin(SWidget* InOwner) : FChildren(InOwner), TSlotBase<MixedIntoType>() { this->AttachWidgetParent(InOwner); }
+	TSupportsOneChildMixin(SWidget* InOwner)
+		: FChildren(InOwner)
+		, TSlotBase<MixedIntoType>()
+	{
+		this->AttachWidgetParent(InOwner);
+	}
 
 	int32 Num() const override { return 1; }
 
@@ -107,8 +112,7 @@ public:
 	TSupportsContentAlignmentMixin(const EHorizontalAlignment InHAlign, const EVerticalAlignment InVAlign)
 		: HAlignment(InHAlign)
 		, VAlignment(InVAlign)
-	{
-	}
+	{}
 
 	/** Sets the horizontal alignment. */
 	MixedIntoType& HAlign(EHorizontalAlignment InHAlignment)
@@ -178,8 +182,7 @@ public:
 	FSimpleSlot(SWidget* InParent)
 		: TSupportsOneChildMixin<FSimpleSlot>(InParent)
 		, TSupportsContentAlignmentMixin<FSimpleSlot>(HAlign_Fill, VAlign_Fill)
-	{
-	}
+	{}
 };
 
 /** Children that lie in slots of one type, which the list owns. */
@@ -188,7 +191,9 @@ class TPanelChildren : public FChildren
 {
 public:
 	/** Makes the children of a widget. */
-	TPanelChildren(SWidget* InOwner) : FChildren(InOwner) {}
+	TPanelChildren(SWidget* InOwner)
+		: FChildren(InOwner)
+	{}
 
 	/** Destroys the slots. */
 	~TPanelChildren() override { Empty(); }
@@ -252,7 +257,10 @@ class TSlotlessChildren : public FChildren
 {
 public:
 	/** Makes the children of a widget; with bInChangesParent the owner becomes their parent. */
-	TSlotlessChildren(SWidget* InOwner, bool bInChangesParent = true) : FChildren(InOwner), bChangesParent(bInChangesParent) {}
+	TSlotlessChildren(SWidget* InOwner, bool bInChangesParent = true)
+		: FChildren(InOwner)
+		, bChangesParent(bInChangesParent)
+	{}
 
 	int32 Num() const override { return Children.Num(); }
 	TSharedRef<SWidget> GetChildAt(int32 Index) override { return Children[Index]; }

@@ -23,16 +23,19 @@ class FSlateClippingZone
 {
 public:
 	/** Makes a zone of a rectangle. */
-	explicit FSlateClippingZone(const FSlateRect& AxisAlignedRect) : Rect(AxisAlignedRect) {}
+	explicit FSlateClippingZone(const FSlateRect& AxisAlignedRect)
+		: Rect(AxisAlignedRect)
+	{}
 
 	/** Makes a zone of a widget's geometry. */
-	explicit FSlateClippingZone(const FGeometry& BoundingGeometry) : Rect(BoundingGeometry.GetLayoutBoundingRect()) {}
+	explicit FSlateClippingZone(const FGeometry& BoundingGeometry)
+		: Rect(BoundingGeometry.GetLayoutBoundingRect())
+	{}
 
 	/** Makes a zone of a draw geometry. */
 	explicit FSlateClippingZone(const FPaintGeometry& PaintingGeometry)
 		: Rect(FSlateRect::FromPointAndExtent(PaintingGeometry.DrawPosition, PaintingGeometry.GetDrawSize()))
-	{
-	}
+	{}
 
 	/** Says whether zones pushed inside it are cut to it. */
 	bool GetShouldIntersectParent() const { return bIntersect; }

@@ -15,7 +15,10 @@
 struct AlignmentArrangeResult
 {
 	/** Makes a result. */
-	AlignmentArrangeResult(float InOffset, float InSize) : Offset(InOffset), Size(InSize) {}
+	AlignmentArrangeResult(float InOffset, float InSize)
+		: Offset(InOffset)
+		, Size(InSize)
+	{}
 
 	/** Offset from the start of the slot. */
 	float Offset;
@@ -47,15 +50,15 @@ inline AlignmentArrangeResult AlignChildAlong(
 
 /** Places a slot's child along one axis by the slot's alignment; sizes are in the panel's space. */
 template <EOrientation Orientation, typename SlotType>
-AlignmentArrangeResult AlignChild(
-	float AllottedSize, const SlotType& ChildToArrange, const FMargin& SlotPadding, const float& ContentScale = 1.0f, bool bClampToParent = true)
+AlignmentArrangeResult AlignChild(float AllottedSize, const SlotType& ChildToArrange, const FMargin& SlotPadding,
+	const float& ContentScale = 1.0f, bool bClampToParent = true)
 {
 	const FMargin Margin = SlotPadding;
 	const FVector2D ChildDesiredSize = ChildToArrange.GetWidget()->GetDesiredSize() * ContentScale;
-	return Orientation == Orient_Horizontal ? AlignChildAlong(static_cast<int32>(ChildToArrange.HAlignment), AllottedSize,
-												  ChildDesiredSize.X, Margin.Left, Margin.Right, bClampToParent)
+	return Orientation == Orient_Horizontal ? AlignChildAlong(
+			   static_cast<int32>(ChildToArrange.HAlignment), AllottedSize, ChildDesiredSize.X, Margin.Left, Margin.Right, bClampToParent)
 											: AlignChildAlong(static_cast<int32>(ChildToArrange.VAlignment), AllottedSize,
-												  ChildDesiredSize.Y, Margin.Top, Margin.Bottom, bClampToParent);
+												ChildDesiredSize.Y, Margin.Top, Margin.Bottom, bClampToParent);
 }
 
 /** Places a pop-up of a size beside an anchor so that it stays in a work area; flips to the anchor's other side where it does not fit. */

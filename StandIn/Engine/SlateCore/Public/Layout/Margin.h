@@ -23,16 +23,36 @@ struct FMargin
 	float Bottom;
 
 	/** Makes a margin without space. */
-	FMargin() : Left(0.0f), Top(0.0f), Right(0.0f), Bottom(0.0f) {}
+	FMargin()
+		: Left(0.0f)
+		, Top(0.0f)
+		, Right(0.0f)
+		, Bottom(0.0f)
+	{}
 
 	/** Makes a margin of the same space on all sides. */
-	FMargin(float UniformMargin) : Left(UniformMargin), Top(UniformMargin), Right(UniformMargin), Bottom(UniformMargin) {}
+	FMargin(float UniformMargin)
+		: Left(UniformMargin)
+		, Top(UniformMargin)
+		, Right(UniformMargin)
+		, Bottom(UniformMargin)
+	{}
 
 	/** Makes a margin of one space left and right, another above and below. */
-	FMargin(float Horizontal, float Vertical) : Left(Horizontal), Top(Vertical), Right(Horizontal), Bottom(Vertical) {}
+	FMargin(float Horizontal, float Vertical)
+		: Left(Horizontal)
+		, Top(Vertical)
+		, Right(Horizontal)
+		, Bottom(Vertical)
+	{}
 
 	/** Makes a margin of four spaces. */
-	FMargin(float InLeft, float InTop, float InRight, float InBottom) : Left(InLeft), Top(InTop), Right(InRight), Bottom(InBottom) {}
+	FMargin(float InLeft, float InTop, float InRight, float InBottom)
+		: Left(InLeft)
+		, Top(InTop)
+		, Right(InRight)
+		, Bottom(InBottom)
+	{}
 
 	/** Scales all sides. */
 	FMargin operator*(float Scale) const { return FMargin(Left * Scale, Top * Scale, Right * Scale, Bottom * Scale); }

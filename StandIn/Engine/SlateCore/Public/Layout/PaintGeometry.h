@@ -17,23 +17,25 @@ struct FPaintGeometry
 	float DrawScale;
 
 	/** Makes a geometry of no size at the origin. */
-	FPaintGeometry() : DrawPosition(0.0f, 0.0f), DrawScale(1.0f), LocalSize(0.0f, 0.0f) {}
+	FPaintGeometry()
+		: DrawPosition(0.0f, 0.0f)
+		, DrawScale(1.0f)
+		, LocalSize(0.0f, 0.0f)
+	{}
 
 	/** Makes a geometry of a position, a local size and a scale. */
 	FPaintGeometry(const FSlateLayoutTransform& InAccumulatedLayoutTransform, const FVector2D& InLocalSize)
 		: DrawPosition(InAccumulatedLayoutTransform.GetTranslation())
 		, DrawScale(InAccumulatedLayoutTransform.GetScale())
 		, LocalSize(InLocalSize)
-	{
-	}
+	{}
 
 	/** Makes a geometry of a position and a size, both in window space, and the scale in force there. */
 	FPaintGeometry(FVector2D InDrawPosition, FVector2D InDrawSize, float InDrawScale)
 		: DrawPosition(InDrawPosition)
 		, DrawScale(InDrawScale)
 		, LocalSize(InDrawSize / InDrawScale)
-	{
-	}
+	{}
 
 	/** Returns the size in Slate units. */
 	const FVector2D& GetLocalSize() const { return LocalSize; }

@@ -24,10 +24,20 @@ public:
 	float Bottom;
 
 	/** Makes the invalid rectangle, all edges at -1. */
-	FSlateRect() : Left(-1.0f), Top(-1.0f), Right(-1.0f), Bottom(-1.0f) {}
+	FSlateRect()
+		: Left(-1.0f)
+		, Top(-1.0f)
+		, Right(-1.0f)
+		, Bottom(-1.0f)
+	{}
 
 	/** Makes a rectangle of four edges. */
-	FSlateRect(float InLeft, float InTop, float InRight, float InBottom) : Left(InLeft), Top(InTop), Right(InRight), Bottom(InBottom) {}
+	FSlateRect(float InLeft, float InTop, float InRight, float InBottom)
+		: Left(InLeft)
+		, Top(InTop)
+		, Right(InRight)
+		, Bottom(InBottom)
+	{}
 
 	/** Makes a rectangle of two corners. */
 	FSlateRect(const FVector2D& InStartPos, const FVector2D& InEndPos)
@@ -35,8 +45,7 @@ public:
 		, Top(static_cast<float>(InStartPos.Y))
 		, Right(static_cast<float>(InEndPos.X))
 		, Bottom(static_cast<float>(InEndPos.Y))
-	{
-	}
+	{}
 
 	/** Makes a rectangle of a corner and an extent. */
 	static FSlateRect FromPointAndExtent(const FVector2D& TopLeft, const FVector2D& Size) { return FSlateRect(TopLeft, TopLeft + Size); }
@@ -83,16 +92,16 @@ public:
 	/** Returns what both rectangles cover; without overlap a rectangle of no extent at the origin. */
 	FSlateRect IntersectionWith(const FSlateRect& Other) const
 	{
-		const FSlateRect Intersected(FMath::Max(Left, Other.Left), FMath::Max(Top, Other.Top), FMath::Min(Right, Other.Right),
-			FMath::Min(Bottom, Other.Bottom));
+		const FSlateRect Intersected(
+			FMath::Max(Left, Other.Left), FMath::Max(Top, Other.Top), FMath::Min(Right, Other.Right), FMath::Min(Bottom, Other.Bottom));
 		return Intersected.Right < Intersected.Left || Intersected.Bottom < Intersected.Top ? FSlateRect(0, 0, 0, 0) : Intersected;
 	}
 
 	/** Returns the smallest rectangle that covers both. */
 	FSlateRect Expand(const FSlateRect& Other) const
 	{
-		return FSlateRect(FMath::Min(Left, Other.Left), FMath::Min(Top, Other.Top), FMath::Max(Right, Other.Right),
-			FMath::Max(Bottom, Other.Bottom));
+		return FSlateRect(
+			FMath::Min(Left, Other.Left), FMath::Min(Top, Other.Top), FMath::Max(Right, Other.Right), FMath::Max(Bottom, Other.Bottom));
 	}
 
 	/** Says whether the point lies inside, the left and upper edge included, the right and lower edge as well. */

@@ -28,7 +28,9 @@ struct SLATECORE_API EVisibility
 	static const EVisibility All;
 
 	/** Makes Visible. */
-	constexpr EVisibility() : Value(VIS_Visible) {}
+	constexpr EVisibility()
+		: Value(VIS_Visible)
+	{}
 
 	/** Compares two values. */
 	bool operator==(const EVisibility& Other) const { return Value == Other.Value; }
@@ -71,7 +73,9 @@ private:
 			| VISPRIVATE_ChildrenHitTestVisible
 	};
 
-	constexpr EVisibility(Private InValue) : Value(InValue) {}
+	constexpr EVisibility(Private InValue)
+		: Value(InValue)
+	{}
 
 	Private Value;
 };

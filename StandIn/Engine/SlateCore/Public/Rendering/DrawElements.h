@@ -31,7 +31,8 @@ class SLATECORE_API FSlateDrawElement
 public:
 	/** Draws a brush over an area; a brush that paints nothing adds nothing. */
 	static void MakeBox(class FSlateWindowElementList& ElementList, uint32 InLayer, const FPaintGeometry& PaintGeometry,
-		const FSlateBrush* InBrush, ESlateDrawEffect InDrawEffects = ESlateDrawEffect::None, const FLinearColor& InTint = FLinearColor::White);
+		const FSlateBrush* InBrush, ESlateDrawEffect InDrawEffects = ESlateDrawEffect::None,
+		const FLinearColor& InTint = FLinearColor::White);
 
 	/** Draws one line of text from the upper left corner of an area; an empty text adds nothing. */
 	static void MakeText(FSlateWindowElementList& ElementList, uint32 InLayer, const FPaintGeometry& PaintGeometry, const FString& InText,
@@ -98,8 +99,8 @@ public:
 private:
 	friend class FSlateWindowElementList;
 
-	static FSlateDrawElement& Add(FSlateWindowElementList& ElementList, EElementType InType, uint32 InLayer, const FPaintGeometry& PaintGeometry,
-		ESlateDrawEffect InDrawEffects, const FLinearColor& InTint);
+	static FSlateDrawElement& Add(FSlateWindowElementList& ElementList, EElementType InType, uint32 InLayer,
+		const FPaintGeometry& PaintGeometry, ESlateDrawEffect InDrawEffects, const FLinearColor& InTint);
 
 	EElementType ElementType = EElementType::ET_Box;
 	int32 LayerId = 0;

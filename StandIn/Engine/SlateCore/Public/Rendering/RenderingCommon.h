@@ -47,9 +47,9 @@ public:
 
 	/** Is told that the widget is painted now. */
 	virtual void OnDrawViewport(const FGeometry& /*AllottedGeometry*/, const FSlateRect& /*MyCullingRect*/,
-		class FSlateWindowElementList& /*OutDrawElements*/, int32 /*LayerId*/, const class FWidgetStyle& /*InWidgetStyle*/, bool /*bParentEnabled*/)
-	{
-	}
+		class FSlateWindowElementList& /*OutDrawElements*/, int32 /*LayerId*/, const class FWidgetStyle& /*InWidgetStyle*/,
+		bool /*bParentEnabled*/)
+	{}
 
 	/** Returns the size of the picture, in pixels. */
 	virtual FIntPoint GetSize() const = 0;
@@ -64,7 +64,10 @@ public:
 	virtual void Tick(const FGeometry& /*AllottedGeometry*/, double /*InCurrentTime*/, float /*DeltaTime*/) {}
 
 	/** Is asked for the cursor. */
-	virtual FCursorReply OnCursorQuery(const FGeometry& /*MyGeometry*/, const FPointerEvent& /*CursorEvent*/) { return FCursorReply::Unhandled(); }
+	virtual FCursorReply OnCursorQuery(const FGeometry& /*MyGeometry*/, const FPointerEvent& /*CursorEvent*/)
+	{
+		return FCursorReply::Unhandled();
+	}
 
 	/** Is told of a pressed button. */
 	virtual FReply OnMouseButtonDown(const FGeometry& /*MyGeometry*/, const FPointerEvent& /*MouseEvent*/) { return FReply::Unhandled(); }
@@ -73,7 +76,10 @@ public:
 	virtual FReply OnMouseButtonUp(const FGeometry& /*MyGeometry*/, const FPointerEvent& /*MouseEvent*/) { return FReply::Unhandled(); }
 
 	/** Is told of a double click. */
-	virtual FReply OnMouseButtonDoubleClick(const FGeometry& /*InMyGeometry*/, const FPointerEvent& /*InMouseEvent*/) { return FReply::Unhandled(); }
+	virtual FReply OnMouseButtonDoubleClick(const FGeometry& /*InMyGeometry*/, const FPointerEvent& /*InMouseEvent*/)
+	{
+		return FReply::Unhandled();
+	}
 
 	/** Is told that the mouse came in. */
 	virtual void OnMouseEnter(const FGeometry& /*MyGeometry*/, const FPointerEvent& /*MouseEvent*/) {}

@@ -14,11 +14,13 @@ public:
 	explicit FSlateLayoutTransform(float InScale = 1.0f, const FVector2D& InTranslation = FVector2D(0.0f, 0.0f))
 		: Scale(InScale)
 		, Translation(InTranslation)
-	{
-	}
+	{}
 
 	/** Makes a transform that only moves. */
-	explicit FSlateLayoutTransform(const FVector2D& InTranslation) : Scale(1.0f), Translation(InTranslation) {}
+	explicit FSlateLayoutTransform(const FVector2D& InTranslation)
+		: Scale(1.0f)
+		, Translation(InTranslation)
+	{}
 
 	/** Returns the translation. */
 	const FVector2D& GetTranslation() const { return Translation; }

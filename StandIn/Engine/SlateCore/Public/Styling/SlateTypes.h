@@ -30,19 +30,22 @@ enum Type
 };
 }
 
-#define STANDIN_STYLE_FIELD(Type, Name)                                                                                                              \
-	Type Name;                                                                                                                                       \
-	ThisStyle& Set##Name(const Type& In##Name)                                                                                                       \
-	{                                                                                                                                                \
-		Name = In##Name;                                                                                                                             \
-		return *this;                                                                                                                                \
+#define STANDIN_STYLE_FIELD(Type, Name) \
+	Type Name; \
+	ThisStyle& Set##Name(const Type& In##Name) \
+	{ \
+		Name = In##Name; \
+		return *this; \
 	}
 
-#define STANDIN_STYLE_TYPE(StyleType)                                                                                                                \
-	typedef StyleType ThisStyle;                                                                                                                     \
-	static const FName TypeName;                                                                                                                     \
-	static const StyleType& GetDefault();                                                                                                            \
-	const FName GetTypeName() const override { return TypeName; }                                                                                    \
+#define STANDIN_STYLE_TYPE(StyleType) \
+	typedef StyleType ThisStyle; \
+	static const FName TypeName; \
+	static const StyleType& GetDefault(); \
+	const FName GetTypeName() const override \
+	{ \
+		return TypeName; \
+	} \
 	void GetResources(TArray<const FSlateBrush*>& OutBrushes) const override;
 
 /** The style of a text. */

@@ -24,7 +24,8 @@ struct SLATECORE_API FSlateIcon
 	/** Compares the names. */
 	friend bool operator==(const FSlateIcon& A, const FSlateIcon& B)
 	{
-		return A.bIsSet == B.bIsSet && A.StyleSetName == B.StyleSetName && A.StyleName == B.StyleName && A.SmallStyleName == B.SmallStyleName;
+		return A.bIsSet == B.bIsSet && A.StyleSetName == B.StyleSetName && A.StyleName == B.StyleName
+			&& A.SmallStyleName == B.SmallStyleName;
 	}
 
 	/** Compares the names. */

@@ -6,13 +6,16 @@
 
 // Data attached to widgets, found again by type name.
 
-#define SLATE_METADATA_TYPE(TYPE, BASE)                                                                                                              \
-	static const FName& GetTypeId()                                                                                                                  \
-	{                                                                                                                                                \
-		static FName Type(TEXT(#TYPE));                                                                                                              \
-		return Type;                                                                                                                                 \
-	}                                                                                                                                                \
-	virtual bool IsOfTypeImpl(const FName& Type) const override { return GetTypeId() == Type || BASE::IsOfTypeImpl(Type); }
+#define SLATE_METADATA_TYPE(TYPE, BASE) \
+	static const FName& GetTypeId() \
+	{ \
+		static FName Type(TEXT(#TYPE)); \
+		return Type; \
+	} \
+	virtual bool IsOfTypeImpl(const FName& Type) const override \
+	{ \
+		return GetTypeId() == Type || BASE::IsOfTypeImpl(Type); \
+	}
 
 /** A piece of data attached to a widget. */
 class ISlateMetaData
@@ -40,7 +43,9 @@ public:
 	SLATE_METADATA_TYPE(FTagMetaData, ISlateMetaData)
 
 	/** Makes the data of the given name. */
-	FTagMetaData(FName InTag) : Tag(InTag) {}
+	FTagMetaData(FName InTag)
+		: Tag(InTag)
+	{}
 
 	/** The name. */
 	FName Tag;

@@ -11,10 +11,14 @@
 struct FOptionalSize
 {
 	/** Makes an open size. */
-	FOptionalSize() : Size(-1.0f) {}
+	FOptionalSize()
+		: Size(-1.0f)
+	{}
 
 	/** Makes a set size, in Slate units. */
-	FOptionalSize(const float SpecifiedSize) : Size(SpecifiedSize) {}
+	FOptionalSize(const float SpecifiedSize)
+		: Size(SpecifiedSize)
+	{}
 
 	/** Says whether the size is set. */
 	bool IsSet() const { return Size >= 0.0f; }
@@ -43,22 +47,31 @@ struct FSizeParam
 	TAttribute<float> Value;
 
 protected:
-	FSizeParam(ESizeRule InTypeOfSize, const TAttribute<float>& InValue) : SizeRule(InTypeOfSize), Value(InValue) {}
+	FSizeParam(ESizeRule InTypeOfSize, const TAttribute<float>& InValue)
+		: SizeRule(InTypeOfSize)
+		, Value(InValue)
+	{}
 };
 
 /** A slot that takes a share of the space left, by weight. */
 struct FStretch : public FSizeParam
 {
 	/** Makes a share of the given weight. */
-	FStretch(const TAttribute<float>& StretchAmount) : FSizeParam(SizeRule_Stretch, StretchAmount) {}
+	FStretch(const TAttribute<float>& StretchAmount)
+		: FSizeParam(SizeRule_Stretch, StretchAmount)
+	{}
 
 	/** Makes a share of weight one. */
-	FStretch() : FSizeParam(SizeRule_Stretch, 1.0f) {}
+	FStretch()
+		: FSizeParam(SizeRule_Stretch, 1.0f)
+	{}
 };
 
 /** A slot as large as its content wishes. */
 struct FAuto : public FSizeParam
 {
 	/** Makes the rule. */
-	FAuto() : FSizeParam(SizeRule_Auto, 0.0f) {}
+	FAuto()
+		: FSizeParam(SizeRule_Auto, 0.0f)
+	{}
 };

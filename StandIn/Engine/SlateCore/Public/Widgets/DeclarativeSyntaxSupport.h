@@ -18,29 +18,30 @@ class IToolTip;
 // arguments of every widget.
 
 /** Makes a widget: SNew(SFoo, required arguments)…; gives a TSharedRef. */
-#define SNew(WidgetType, ...)                                                                                                                        \
-	MakeTDecl<WidgetType>(#WidgetType, __FILE__, __LINE__, RequiredArgs::MakeRequiredArgs(__VA_ARGS__)) <<= typename WidgetType::FArguments()
+#define SNew(WidgetType, ...) \
+	MakeTDecl<WidgetType>(#WidgetType, __FILE__, __LINE__, RequiredArgs::MakeRequiredArgs(__VA_ARGS__)) <<= \
+		typename WidgetType::FArguments()
 
 /** Makes a widget and assigns it to a pointer before it is constructed. */
-#define SAssignNew(ExposeAs, WidgetType, ...)                                                                                                        \
-	MakeTDecl<WidgetType>(#WidgetType, __FILE__, __LINE__, RequiredArgs::MakeRequiredArgs(__VA_ARGS__)).Expose(ExposeAs) <<=                         \
+#define SAssignNew(ExposeAs, WidgetType, ...) \
+	MakeTDecl<WidgetType>(#WidgetType, __FILE__, __LINE__, RequiredArgs::MakeRequiredArgs(__VA_ARGS__)).Expose(ExposeAs) <<= \
 		typename WidgetType::FArguments()
 
 /** Makes a widget of arguments that were put together before. */
-#define SArgumentNew(InArgs, WidgetType, ...)                                                                                                        \
+#define SArgumentNew(InArgs, WidgetType, ...) \
 	MakeTDecl<WidgetType>(#WidgetType, __FILE__, __LINE__, RequiredArgs::MakeRequiredArgs(__VA_ARGS__)) <<= InArgs
 
 /** Opens a widget's arguments; initialisers and {} follow. */
-#define SLATE_BEGIN_ARGS(WidgetType)                                                                                                                 \
-public:                                                                                                                                              \
-	struct FArguments : public TSlateBaseNamedArgs<WidgetType>                                                                                       \
-	{                                                                                                                                                \
-		typedef FArguments WidgetArgsType;                                                                                                           \
+#define SLATE_BEGIN_ARGS(WidgetType) \
+public: \
+	struct FArguments : public TSlateBaseNamedArgs<WidgetType> \
+	{ \
+		typedef FArguments WidgetArgsType; \
 		FORCENOINLINE FArguments()
 
 /** Closes a widget's arguments. */
-#define SLATE_END_ARGS()                                                                                                                             \
-	}                                                                                                                                                \
+#define SLATE_END_ARGS() \
+	} \
 	;
 
 /** Opens the arguments of a slot that others give. */
@@ -48,160 +49,165 @@ public:                                                                         
 
 #define SLATE_PRIVATE_ARGUMENT_VARIABLE(ArgType, ArgName) ArgType _##ArgName
 
-#define SLATE_PRIVATE_ARGUMENT_FUNCTION(ArgType, ArgName)                                                                                            \
-	WidgetArgsType& ArgName(ArgType InArg)                                                                                                           \
-	{                                                                                                                                                \
-		_##ArgName = InArg;                                                                                                                          \
-		return this->Me();                                                                                                                           \
+#define SLATE_PRIVATE_ARGUMENT_FUNCTION(ArgType, ArgName) \
+	WidgetArgsType& ArgName(ArgType InArg) \
+	{ \
+		_##ArgName = InArg; \
+		return this->Me(); \
 	}
 
 /** Declares an argument: a value taken once. */
-#define SLATE_ARGUMENT(ArgType, ArgName)                                                                                                             \
-	SLATE_PRIVATE_ARGUMENT_VARIABLE(ArgType, ArgName);                                                                                               \
+#define SLATE_ARGUMENT(ArgType, ArgName) \
+	SLATE_PRIVATE_ARGUMENT_VARIABLE(ArgType, ArgName); \
 	SLATE_PRIVATE_ARGUMENT_FUNCTION(ArgType, ArgName)
 
 /** Declares an argument that is a pointer to a widget style. */
-#define SLATE_STYLE_ARGUMENT(ArgType, ArgName)                                                                                                       \
-	const ArgType* _##ArgName;                                                                                                                       \
-	WidgetArgsType& ArgName(const ArgType* InArg)                                                                                                    \
-	{                                                                                                                                                \
-		_##ArgName = InArg;                                                                                                                          \
-		return this->Me();                                                                                                                           \
-	}                                                                                                                                                \
-	WidgetArgsType& ArgName(const class ISlateStyle* InSlateStyle, const FName& StyleName, const ANSICHAR* Specifier = nullptr)                      \
-	{                                                                                                                                                \
-		check(InSlateStyle != nullptr);                                                                                                              \
-		_##ArgName = &InSlateStyle->GetWidgetStyle<ArgType>(StyleName, Specifier);                                                                   \
-		return this->Me();                                                                                                                           \
-	}                                                                                                                                                \
-	WidgetArgsType& ArgName(const class ISlateStyle& InSlateStyle, const FName& StyleName, const ANSICHAR* Specifier = nullptr)                      \
-	{                                                                                                                                                \
-		_##ArgName = &InSlateStyle.GetWidgetStyle<ArgType>(StyleName, Specifier);                                                                    \
-		return this->Me();                                                                                                                           \
+#define SLATE_STYLE_ARGUMENT(ArgType, ArgName) \
+	const ArgType* _##ArgName; \
+	WidgetArgsType& ArgName(const ArgType* InArg) \
+	{ \
+		_##ArgName = InArg; \
+		return this->Me(); \
+	} \
+	WidgetArgsType& ArgName(const class ISlateStyle* InSlateStyle, const FName& StyleName, const ANSICHAR* Specifier = nullptr) \
+	{ \
+		check(InSlateStyle != nullptr); \
+		_##ArgName = &InSlateStyle->GetWidgetStyle<ArgType>(StyleName, Specifier); \
+		return this->Me(); \
+	} \
+	WidgetArgsType& ArgName(const class ISlateStyle& InSlateStyle, const FName& StyleName, const ANSICHAR* Specifier = nullptr) \
+	{ \
+		_##ArgName = &InSlateStyle.GetWidgetStyle<ArgType>(StyleName, Specifier); \
+		return this->Me(); \
 	}
 
 #define SLATE_PRIVATE_ATTRIBUTE_VARIABLE(AttrType, AttrName) TAttribute<AttrType> _##AttrName
 
-#define SLATE_PRIVATE_ATTRIBUTE_FUNCTION(AttrType, AttrName)                                                                                         \
-	WidgetArgsType& AttrName(TAttribute<AttrType> InAttribute)                                                                                       \
-	{                                                                                                                                                \
-		_##AttrName = InAttribute;                                                                                                                   \
-		return this->Me();                                                                                                                           \
-	}                                                                                                                                                \
-	template <typename FunctionType, typename... VarTypes>                                                                                           \
-	WidgetArgsType& AttrName##_Static(FunctionType InFunc, VarTypes... Vars)                                                                         \
-	{                                                                                                                                                \
-		_##AttrName = TAttribute<AttrType>::Create(TAttribute<AttrType>::FGetter::CreateStatic(InFunc, Vars...));                                    \
-		return this->Me();                                                                                                                           \
-	}                                                                                                                                                \
-	WidgetArgsType& AttrName##_Lambda(TFunction<AttrType(void)> InFunctor)                                                                           \
-	{                                                                                                                                                \
-		_##AttrName = TAttribute<AttrType>::Create(TAttribute<AttrType>::FGetter::CreateLambda(MoveTemp(InFunctor)));                                \
-		return this->Me();                                                                                                                           \
-	}                                                                                                                                                \
-	template <class UserClass, typename FunctionType, typename... VarTypes>                                                                          \
-	WidgetArgsType& AttrName##_Raw(UserClass* InUserObject, FunctionType InFunc, VarTypes... Vars)                                                   \
-	{                                                                                                                                                \
-		_##AttrName = TAttribute<AttrType>::Create(TAttribute<AttrType>::FGetter::CreateRaw(InUserObject, InFunc, Vars...));                         \
-		return this->Me();                                                                                                                           \
-	}                                                                                                                                                \
-	template <class UserClass, typename FunctionType, typename... VarTypes>                                                                          \
-	WidgetArgsType& AttrName(TSharedRef<UserClass> InUserObjectRef, FunctionType InFunc, VarTypes... Vars)                                           \
-	{                                                                                                                                                \
-		_##AttrName = TAttribute<AttrType>::Create(TAttribute<AttrType>::FGetter::CreateSP(InUserObjectRef, InFunc, Vars...));                       \
-		return this->Me();                                                                                                                           \
-	}                                                                                                                                                \
-	template <class UserClass, typename FunctionType, typename... VarTypes>                                                                          \
-	WidgetArgsType& AttrName(UserClass* InUserObject, FunctionType InFunc, VarTypes... Vars)                                                         \
-	{                                                                                                                                                \
-		_##AttrName = TAttribute<AttrType>::Create(TAttribute<AttrType>::FGetter::CreateSP(InUserObject, InFunc, Vars...));                          \
-		return this->Me();                                                                                                                           \
-	}                                                                                                                                                \
-	template <class UserClass, typename FunctionType, typename... VarTypes>                                                                          \
-	WidgetArgsType& AttrName##_UObject(UserClass* InUserObject, FunctionType InFunc, VarTypes... Vars)                                               \
-	{                                                                                                                                                \
-		_##AttrName = TAttribute<AttrType>::Create(TAttribute<AttrType>::FGetter::CreateUObject(InUserObject, InFunc, Vars...));                     \
-		return this->Me();                                                                                                                           \
+#define SLATE_PRIVATE_ATTRIBUTE_FUNCTION(AttrType, AttrName) \
+	WidgetArgsType& AttrName(TAttribute<AttrType> InAttribute) \
+	{ \
+		_##AttrName = InAttribute; \
+		return this->Me(); \
+	} \
+	template <typename FunctionType, typename... VarTypes> \
+	WidgetArgsType& AttrName##_Static(FunctionType InFunc, VarTypes... Vars) \
+	{ \
+		_##AttrName = TAttribute<AttrType>::Create(TAttribute<AttrType>::FGetter::CreateStatic(InFunc, Vars...)); \
+		return this->Me(); \
+	} \
+	WidgetArgsType& AttrName##_Lambda(TFunction<AttrType(void)> InFunctor) \
+	{ \
+		_##AttrName = TAttribute<AttrType>::Create(TAttribute<AttrType>::FGetter::CreateLambda(MoveTemp(InFunctor))); \
+		return this->Me(); \
+	} \
+	template <class UserClass, typename FunctionType, typename... VarTypes> \
+	WidgetArgsType& AttrName##_Raw(UserClass* InUserObject, FunctionType InFunc, VarTypes... Vars) \
+	{ \
+		_##AttrName = TAttribute<AttrType>::Create(TAttribute<AttrType>::FGetter::CreateRaw(InUserObject, InFunc, Vars...)); \
+		return this->Me(); \
+	} \
+	template <class UserClass, typename FunctionType, typename... VarTypes> \
+	WidgetArgsType& AttrName(TSharedRef<UserClass> InUserObjectRef, FunctionType InFunc, VarTypes... Vars) \
+	{ \
+		_##AttrName = TAttribute<AttrType>::Create(TAttribute<AttrType>::FGetter::CreateSP(InUserObjectRef, InFunc, Vars...)); \
+		return this->Me(); \
+	} \
+	template <class UserClass, typename FunctionType, typename... VarTypes> \
+	WidgetArgsType& AttrName(UserClass* InUserObject, FunctionType InFunc, VarTypes... Vars) \
+	{ \
+		_##AttrName = TAttribute<AttrType>::Create(TAttribute<AttrType>::FGetter::CreateSP(InUserObject, InFunc, Vars...)); \
+		return this->Me(); \
+	} \
+	template <class UserClass, typename FunctionType, typename... VarTypes> \
+	WidgetArgsType& AttrName##_UObject(UserClass* InUserObject, FunctionType InFunc, VarTypes... Vars) \
+	{ \
+		_##AttrName = TAttribute<AttrType>::Create(TAttribute<AttrType>::FGetter::CreateUObject(InUserObject, InFunc, Vars...)); \
+		return this->Me(); \
 	}
 
 /** Declares an attribute: a value or something polled for it. */
-#define SLATE_ATTRIBUTE(AttrType, AttrName)                                                                                                          \
-	SLATE_PRIVATE_ATTRIBUTE_VARIABLE(AttrType, AttrName);                                                                                            \
+#define SLATE_ATTRIBUTE(AttrType, AttrName) \
+	SLATE_PRIVATE_ATTRIBUTE_VARIABLE(AttrType, AttrName); \
 	SLATE_PRIVATE_ATTRIBUTE_FUNCTION(AttrType, AttrName)
 
 /** Declares an event: a delegate that the widget calls. */
-#define SLATE_EVENT(DelegateName, EventName)                                                                                                         \
-	DelegateName _##EventName;                                                                                                                       \
-	WidgetArgsType& EventName(const DelegateName& InDelegate)                                                                                        \
-	{                                                                                                                                                \
-		_##EventName = InDelegate;                                                                                                                   \
-		return this->Me();                                                                                                                           \
-	}                                                                                                                                                \
-	template <typename FunctionType, typename... VarTypes>                                                                                           \
-	WidgetArgsType& EventName##_Static(FunctionType InFunc, VarTypes... Vars)                                                                        \
-	{                                                                                                                                                \
-		_##EventName = DelegateName::CreateStatic(InFunc, Vars...);                                                                                  \
-		return this->Me();                                                                                                                           \
-	}                                                                                                                                                \
-	template <typename FunctorType, typename... VarTypes>                                                                                            \
-	WidgetArgsType& EventName##_Lambda(FunctorType&& InFunctor, VarTypes... Vars)                                                                    \
-	{                                                                                                                                                \
-		_##EventName = DelegateName::CreateLambda(Forward<FunctorType>(InFunctor), Vars...);                                                         \
-		return this->Me();                                                                                                                           \
-	}                                                                                                                                                \
-	template <class UserClass, typename FunctionType, typename... VarTypes>                                                                          \
-	WidgetArgsType& EventName##_Raw(UserClass* InUserObject, FunctionType InFunc, VarTypes... Vars)                                                  \
-	{                                                                                                                                                \
-		_##EventName = DelegateName::CreateRaw(InUserObject, InFunc, Vars...);                                                                       \
-		return this->Me();                                                                                                                           \
-	}                                                                                                                                                \
-	template <class UserClass, typename FunctionType, typename... VarTypes>                                                                          \
-	WidgetArgsType& EventName(TSharedRef<UserClass> InUserObjectRef, FunctionType InFunc, VarTypes... Vars)                                          \
-	{                                                                                                                                                \
-		_##EventName = DelegateName::CreateSP(InUserObjectRef, InFunc, Vars...);                                                                     \
-		return this->Me();                                                                                                                           \
-	}                                                                                                                                                \
-	template <class UserClass, typename FunctionType, typename... VarTypes>                                                                          \
-	WidgetArgsType& EventName(UserClass* InUserObject, FunctionType InFunc, VarTypes... Vars)                                                        \
-	{                                                                                                                                                \
-		_##EventName = DelegateName::CreateSP(InUserObject, InFunc, Vars...);                                                                        \
-		return this->Me();                                                                                                                           \
-	}                                                                                                                                                \
-	template <class UserClass, typename FunctionType, typename... VarTypes>                                                                          \
-	WidgetArgsType& EventName##_UObject(UserClass* InUserObject, FunctionType InFunc, VarTypes... Vars)                                              \
-	{                                                                                                                                                \
-		_##EventName = DelegateName::CreateUObject(InUserObject, InFunc, Vars...);                                                                   \
-		return this->Me();                                                                                                                           \
+#define SLATE_EVENT(DelegateName, EventName) \
+	DelegateName _##EventName; \
+	WidgetArgsType& EventName(const DelegateName& InDelegate) \
+	{ \
+		_##EventName = InDelegate; \
+		return this->Me(); \
+	} \
+	template <typename FunctionType, typename... VarTypes> \
+	WidgetArgsType& EventName##_Static(FunctionType InFunc, VarTypes... Vars) \
+	{ \
+		_##EventName = DelegateName::CreateStatic(InFunc, Vars...); \
+		return this->Me(); \
+	} \
+	template <typename FunctorType, typename... VarTypes> \
+	WidgetArgsType& EventName##_Lambda(FunctorType&& InFunctor, VarTypes... Vars) \
+	{ \
+		_##EventName = DelegateName::CreateLambda(Forward<FunctorType>(InFunctor), Vars...); \
+		return this->Me(); \
+	} \
+	template <class UserClass, typename FunctionType, typename... VarTypes> \
+	WidgetArgsType& EventName##_Raw(UserClass* InUserObject, FunctionType InFunc, VarTypes... Vars) \
+	{ \
+		_##EventName = DelegateName::CreateRaw(InUserObject, InFunc, Vars...); \
+		return this->Me(); \
+	} \
+	template <class UserClass, typename FunctionType, typename... VarTypes> \
+	WidgetArgsType& EventName(TSharedRef<UserClass> InUserObjectRef, FunctionType InFunc, VarTypes... Vars) \
+	{ \
+		_##EventName = DelegateName::CreateSP(InUserObjectRef, InFunc, Vars...); \
+		return this->Me(); \
+	} \
+	template <class UserClass, typename FunctionType, typename... VarTypes> \
+	WidgetArgsType& EventName(UserClass* InUserObject, FunctionType InFunc, VarTypes... Vars) \
+	{ \
+		_##EventName = DelegateName::CreateSP(InUserObject, InFunc, Vars...); \
+		return this->Me(); \
+	} \
+	template <class UserClass, typename FunctionType, typename... VarTypes> \
+	WidgetArgsType& EventName##_UObject(UserClass* InUserObject, FunctionType InFunc, VarTypes... Vars) \
+	{ \
+		_##EventName = DelegateName::CreateUObject(InUserObject, InFunc, Vars...); \
+		return this->Me(); \
 	}
 
 /** Declares that the widget takes slots with operator+. */
-#define SLATE_SUPPORTS_SLOT(SlotType)                                                                                                                \
-	TArray<SlotType*> Slots;                                                                                                                         \
-	WidgetArgsType& operator+(SlotType& SlotToAdd)                                                                                                   \
-	{                                                                                                                                                \
-		Slots.Add(&SlotToAdd);                                                                                                                       \
-		return this->Me();                                                                                                                           \
+#define SLATE_SUPPORTS_SLOT(SlotType) \
+	TArray<SlotType*> Slots; \
+	WidgetArgsType& operator+(SlotType& SlotToAdd) \
+	{ \
+		Slots.Add(&SlotToAdd); \
+		return this->Me(); \
 	}
 
 /** Declares a place for one widget, given as Name()[ … ]. */
-#define SLATE_NAMED_SLOT(DeclarationType, SlotName)                                                                                                  \
-	TAlwaysValidWidget _##SlotName;                                                                                                                  \
-	NamedSlotProperty<DeclarationType> SlotName() { return NamedSlotProperty<DeclarationType>(this->Me(), _##SlotName); }
+#define SLATE_NAMED_SLOT(DeclarationType, SlotName) \
+	TAlwaysValidWidget _##SlotName; \
+	NamedSlotProperty<DeclarationType> SlotName() \
+	{ \
+		return NamedSlotProperty<DeclarationType>(this->Me(), _##SlotName); \
+	}
 
 /** Declares the place for one widget that is given as [ … ]. */
-#define SLATE_DEFAULT_SLOT(DeclarationType, SlotName)                                                                                                \
-	SLATE_NAMED_SLOT(DeclarationType, SlotName)                                                                                                      \
-	DeclarationType& operator[](const TSharedRef<SWidget>& InChild)                                                                                  \
-	{                                                                                                                                                \
-		_##SlotName.Widget = InChild;                                                                                                                \
-		return this->Me();                                                                                                                           \
+#define SLATE_DEFAULT_SLOT(DeclarationType, SlotName) \
+	SLATE_NAMED_SLOT(DeclarationType, SlotName) \
+	DeclarationType& operator[](const TSharedRef<SWidget>& InChild) \
+	{ \
+		_##SlotName.Widget = InChild; \
+		return this->Me(); \
 	}
 
 /** A place for a widget that holds the null widget at first. */
 struct TAlwaysValidWidget
 {
 	/** Makes a place of the null widget. */
-	TAlwaysValidWidget() : Widget(SNullWidget::NullWidget) {}
+	TAlwaysValidWidget()
+		: Widget(SNullWidget::NullWidget)
+	{}
 
 	/** The widget. */
 	TSharedRef<SWidget> Widget;
@@ -215,8 +221,7 @@ struct NamedSlotProperty
 	NamedSlotProperty(DeclarationType& InOwnerDeclaration, TAlwaysValidWidget& ContentToSet)
 		: OwnerDeclaration(InOwnerDeclaration)
 		, SlotContent(ContentToSet)
-	{
-	}
+	{}
 
 	/** Puts a widget into the place and returns the block. */
 	DeclarationType& operator[](const TSharedRef<SWidget>& InChild)
@@ -241,8 +246,7 @@ struct FSlateBaseNamedArgs
 		, _Visibility(EVisibility::Visible)
 		, _RenderOpacity(1.0f)
 		, _Clipping(EWidgetClipping::Inherit)
-	{
-	}
+	{}
 
 	TAttribute<FText> _ToolTipText;
 	TSharedPtr<IToolTip> _ToolTip;
@@ -289,7 +293,9 @@ template <typename... ArgTypes>
 struct TRequiredArgs
 {
 	/** Holds references to the arguments, which outlive the expression that makes the widget. */
-	TRequiredArgs(ArgTypes&&... InArgs) : Args(std::forward<ArgTypes>(InArgs)...) {}
+	TRequiredArgs(ArgTypes&&... InArgs)
+		: Args(std::forward<ArgTypes>(InArgs)...)
+	{}
 
 	/** Calls Construct with the block and the arguments. */
 	template <class WidgetType>

@@ -30,8 +30,7 @@ public:
 			, TSupportsContentAlignmentMixin<FSlot>(HAlign_Fill, VAlign_Fill)
 			, SizeParam(FStretch(1.0f))
 			, MaxSize(0.0f)
-		{
-		}
+		{}
 	};
 
 	/** Removes the slot of a widget and returns its index, INDEX_NONE if there was none. */
@@ -69,46 +68,46 @@ private:
 };
 
 // Declares the calls that both kinds of slots share, returning the kind's own type.
-#define STANDIN_BOX_SLOT_CALLS()                                                                                                                     \
-	FSlot& Padding(float Uniform)                                                                                                                    \
-	{                                                                                                                                                \
-		SlotPadding = FMargin(Uniform);                                                                                                              \
-		return *this;                                                                                                                                \
-	}                                                                                                                                                \
-	FSlot& Padding(float Horizontal, float Vertical)                                                                                                 \
-	{                                                                                                                                                \
-		SlotPadding = FMargin(Horizontal, Vertical);                                                                                                 \
-		return *this;                                                                                                                                \
-	}                                                                                                                                                \
-	FSlot& Padding(float Left, float Top, float Right, float Bottom)                                                                                 \
-	{                                                                                                                                                \
-		SlotPadding = FMargin(Left, Top, Right, Bottom);                                                                                             \
-		return *this;                                                                                                                                \
-	}                                                                                                                                                \
-	FSlot& Padding(const TAttribute<FMargin>& InPadding)                                                                                             \
-	{                                                                                                                                                \
-		SlotPadding = InPadding;                                                                                                                     \
-		return *this;                                                                                                                                \
-	}                                                                                                                                                \
-	FSlot& HAlign(EHorizontalAlignment InHAlignment)                                                                                                 \
-	{                                                                                                                                                \
-		HAlignment = InHAlignment;                                                                                                                   \
-		return *this;                                                                                                                                \
-	}                                                                                                                                                \
-	FSlot& VAlign(EVerticalAlignment InVAlignment)                                                                                                   \
-	{                                                                                                                                                \
-		VAlignment = InVAlignment;                                                                                                                   \
-		return *this;                                                                                                                                \
-	}                                                                                                                                                \
-	FSlot& operator[](const TSharedRef<SWidget>& InWidget)                                                                                           \
-	{                                                                                                                                                \
-		SBoxPanel::FSlot::operator[](InWidget);                                                                                                      \
-		return *this;                                                                                                                                \
-	}                                                                                                                                                \
-	FSlot& Expose(FSlot*& OutVarToInit)                                                                                                              \
-	{                                                                                                                                                \
-		OutVarToInit = this;                                                                                                                         \
-		return *this;                                                                                                                                \
+#define STANDIN_BOX_SLOT_CALLS() \
+	FSlot& Padding(float Uniform) \
+	{ \
+		SlotPadding = FMargin(Uniform); \
+		return *this; \
+	} \
+	FSlot& Padding(float Horizontal, float Vertical) \
+	{ \
+		SlotPadding = FMargin(Horizontal, Vertical); \
+		return *this; \
+	} \
+	FSlot& Padding(float Left, float Top, float Right, float Bottom) \
+	{ \
+		SlotPadding = FMargin(Left, Top, Right, Bottom); \
+		return *this; \
+	} \
+	FSlot& Padding(const TAttribute<FMargin>& InPadding) \
+	{ \
+		SlotPadding = InPadding; \
+		return *this; \
+	} \
+	FSlot& HAlign(EHorizontalAlignment InHAlignment) \
+	{ \
+		HAlignment = InHAlignment; \
+		return *this; \
+	} \
+	FSlot& VAlign(EVerticalAlignment InVAlignment) \
+	{ \
+		VAlignment = InVAlignment; \
+		return *this; \
+	} \
+	FSlot& operator[](const TSharedRef<SWidget>& InWidget) \
+	{ \
+		SBoxPanel::FSlot::operator[](InWidget); \
+		return *this; \
+	} \
+	FSlot& Expose(FSlot*& OutVarToInit) \
+	{ \
+		OutVarToInit = this; \
+		return *this; \
 	}
 
 /** Children side by side. */
@@ -120,7 +119,9 @@ public:
 	{
 	public:
 		/** Makes a slot. */
-		FSlot() : SBoxPanel::FSlot() {}
+		FSlot()
+			: SBoxPanel::FSlot()
+		{}
 
 		/** Makes the slot as wide as its content wishes. */
 		FSlot& AutoWidth()
@@ -146,15 +147,16 @@ public:
 		STANDIN_BOX_SLOT_CALLS()
 	};
 
-	SLATE_BEGIN_ARGS(SHorizontalBox)
-	{
-		_Visibility = EVisibility::SelfHitTestInvisible;
-	}
+	SLATE_BEGIN_ARGS(SHorizontalBox) { _Visibility = EVisibility::SelfHitTestInvisible; }
 	SLATE_SUPPORTS_SLOT(SHorizontalBox::FSlot)
 	SLATE_END_ARGS()
 
 	/** Makes the row. */
-	SHorizontalBox() : SBoxPanel(Orient_Horizontal) { SetCanTick(false); }
+	SHorizontalBox()
+		: SBoxPanel(Orient_Horizontal)
+	{
+		SetCanTick(false);
+	}
 
 	/** Makes a slot for SNew(SHorizontalBox) + Slot(). */
 	static FSlot& Slot() { return *(new FSlot()); }
@@ -178,7 +180,9 @@ public:
 	{
 	public:
 		/** Makes a slot. */
-		FSlot() : SBoxPanel::FSlot() {}
+		FSlot()
+			: SBoxPanel::FSlot()
+		{}
 
 		/** Makes the slot as high as its content wishes. */
 		FSlot& AutoHeight()
@@ -204,15 +208,16 @@ public:
 		STANDIN_BOX_SLOT_CALLS()
 	};
 
-	SLATE_BEGIN_ARGS(SVerticalBox)
-	{
-		_Visibility = EVisibility::SelfHitTestInvisible;
-	}
+	SLATE_BEGIN_ARGS(SVerticalBox) { _Visibility = EVisibility::SelfHitTestInvisible; }
 	SLATE_SUPPORTS_SLOT(SVerticalBox::FSlot)
 	SLATE_END_ARGS()
 
 	/** Makes the column. */
-	SVerticalBox() : SBoxPanel(Orient_Vertical) { SetCanTick(false); }
+	SVerticalBox()
+		: SBoxPanel(Orient_Vertical)
+	{
+		SetCanTick(false);
+	}
 
 	/** Makes a slot for SNew(SVerticalBox) + Slot(). */
 	static FSlot& Slot() { return *(new FSlot()); }

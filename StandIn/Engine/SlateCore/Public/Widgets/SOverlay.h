@@ -19,16 +19,17 @@ public:
 	{
 	public:
 		/** Makes a slot. */
-		FOverlaySlot() : TSlotBase<FOverlaySlot>(), TSupportsContentAlignmentMixin<FOverlaySlot>(HAlign_Fill, VAlign_Fill), ZOrder(0) {}
+		FOverlaySlot()
+			: TSlotBase<FOverlaySlot>()
+			, TSupportsContentAlignmentMixin<FOverlaySlot>(HAlign_Fill, VAlign_Fill)
+			, ZOrder(0)
+		{}
 
 		/** The slot's order; higher ones lie above. */
 		int32 ZOrder;
 	};
 
-	SLATE_BEGIN_ARGS(SOverlay)
-	{
-		_Visibility = EVisibility::SelfHitTestInvisible;
-	}
+	SLATE_BEGIN_ARGS(SOverlay) { _Visibility = EVisibility::SelfHitTestInvisible; }
 	SLATE_SUPPORTS_SLOT(SOverlay::FOverlaySlot)
 	SLATE_END_ARGS()
 

@@ -85,7 +85,8 @@ public:
 	virtual void OnFocusLost(const FFocusEvent& InFocusEvent);
 
 	/** Is told on both paths that the focus moves from one to the other. */
-	virtual void OnFocusChanging(const FWeakWidgetPath& PreviousFocusPath, const FWidgetPath& NewWidgetPath, const FFocusEvent& InFocusEvent);
+	virtual void OnFocusChanging(
+		const FWeakWidgetPath& PreviousFocusPath, const FWidgetPath& NewWidgetPath, const FFocusEvent& InFocusEvent);
 
 	/** Is told of a typed character; bubbles from the focused widget. */
 	virtual FReply OnKeyChar(const FGeometry& MyGeometry, const FCharacterEvent& InCharacterEvent);

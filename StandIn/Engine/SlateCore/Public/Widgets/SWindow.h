@@ -61,8 +61,7 @@ public:
 		, _SupportsMinimize(true)
 		, _HasCloseButton(true)
 		, _CreateTitleBar(true)
-	{
-	}
+	{}
 	SLATE_ARGUMENT(EWindowType, Type)
 	SLATE_STYLE_ARGUMENT(FWindowStyle, Style)
 	SLATE_ATTRIBUTE(FText, Title)

@@ -70,9 +70,16 @@ bool FAtomicFilePlatform::Close(FHandle Handle, std::string& OutReason)
 	return close(int(Handle)) == 0 || errno == EINTR || FailWithErrno(OutReason);
 }
 
-bool FAtomicFilePlatform::Replace(const std::filesystem::path& Temporary, const std::filesystem::path& Target, std::string& OutReason)
+FAtomicFilePlatform::EReplace FAtomicFilePlatform::Replace(
+	const std::filesystem::path& Temporary, const std::filesystem::path& Target, std::string& OutReason)
 {
-	return std::rename(Temporary.c_str(), Target.c_str()) == 0 || FailWithErrno(OutReason);
+	// Whoever has the old file open keeps it; nobody holds up a rename.
+	if (std::rename(Temporary.c_str(), Target.c_str()) == 0)
+	{
+		return EReplace::Replaced;
+	}
+	FailWithErrno(OutReason);
+	return EReplace::Failed;
 }
 
 bool FAtomicFilePlatform::FlushFolder(const std::filesystem::path& Folder, std::string& OutReason)

@@ -16,9 +16,8 @@ namespace StandInPrivate
 {
 namespace
 {
-bool FailWithLastError(std::string& OutReason)
+bool FailWithLastError(DWORD Error, std::string& OutReason)
 {
-	const DWORD Error = GetLastError();
 	wchar_t Text[512] = {};
 	DWORD Length = FormatMessageW(FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS, nullptr, Error, 0, Text, 511, nullptr);
 	while (Length > 0 && (Text[Length - 1] == L'\r' || Text[Length - 1] == L'\n' || Text[Length - 1] == L'.'))
@@ -42,9 +41,9 @@ FAtomicFilePlatform::ECreate FAtomicFilePlatform::Create(
 	HANDLE File = CreateFileW(Temporary.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW, FILE_ATTRIBUTE_NORMAL, nullptr);
 	if (File == INVALID_HANDLE_VALUE)
 	{
-		const bool bExists = GetLastError() == ERROR_FILE_EXISTS;
-		FailWithLastError(OutReason);
-		return bExists ? ECreate::Exists : ECreate::Failed;
+		const DWORD Error = GetLastError();
+		FailWithLastError(Error, OutReason);
+		return Error == ERROR_FILE_EXISTS ? ECreate::Exists : ECreate::Failed;
 	}
 	OutHandle = reinterpret_cast<FHandle>(File);
 	return ECreate::Created;
@@ -58,7 +57,7 @@ bool FAtomicFilePlatform::Write(FHandle Handle, const char* Bytes, int64 NumByte
 		DWORD Written = 0;
 		if (!WriteFile(ToHandle(Handle), Bytes, Piece, &Written, nullptr))
 		{
-			return FailWithLastError(OutReason);
+			return FailWithLastError(GetLastError(), OutReason);
 		}
 		Bytes += Written;
 		NumBytes -= Written;
@@ -68,32 +67,24 @@ bool FAtomicFilePlatform::Write(FHandle Handle, const char* Bytes, int64 NumByte
 
 bool FAtomicFilePlatform::FlushFile(FHandle Handle, std::string& OutReason)
 {
-	return FlushFileBuffers(ToHandle(Handle)) || FailWithLastError(OutReason);
+	return FlushFileBuffers(ToHandle(Handle)) || FailWithLastError(GetLastError(), OutReason);
 }
 
 bool FAtomicFilePlatform::Close(FHandle Handle, std::string& OutReason)
 {
-	return CloseHandle(ToHandle(Handle)) || FailWithLastError(OutReason);
+	return CloseHandle(ToHandle(Handle)) || FailWithLastError(GetLastError(), OutReason);
 }
 
-bool FAtomicFilePlatform::Replace(const std::filesystem::path& Temporary, const std::filesystem::path& Target, std::string& OutReason)
+FAtomicFilePlatform::EReplace FAtomicFilePlatform::Replace(
+	const std::filesystem::path& Temporary, const std::filesystem::path& Target, std::string& OutReason)
 {
-	// Virus scanners and indexers hold a fresh file for moments: wait for those, and for nothing else.
-	const DWORD Pauses[] = {5, 20, 50, 110};
-	for (size_t Try = 0;; ++Try)
+	if (MoveFileExW(Temporary.c_str(), Target.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH))
 	{
-		if (MoveFileExW(Temporary.c_str(), Target.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH))
-		{
-			return true;
-		}
-		const DWORD Error = GetLastError();
-		const bool bMayPass = Error == ERROR_ACCESS_DENIED || Error == ERROR_SHARING_VIOLATION;
-		if (!bMayPass || Try >= sizeof(Pauses) / sizeof(Pauses[0]))
-		{
-			return FailWithLastError(OutReason);
-		}
-		Sleep(Pauses[Try]);
+		return EReplace::Replaced;
 	}
+	const DWORD Error = GetLastError();
+	FailWithLastError(Error, OutReason);
+	return Error == ERROR_ACCESS_DENIED || Error == ERROR_SHARING_VIOLATION ? EReplace::Held : EReplace::Failed;
 }
 
 bool FAtomicFilePlatform::FlushFolder(const std::filesystem::path& Folder, std::string& OutReason)

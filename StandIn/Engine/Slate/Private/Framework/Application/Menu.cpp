@@ -11,8 +11,7 @@ FMenuBase::FMenuBase(const TSharedRef<SWidget>& InContent, const TSharedRef<SWin
 	, Anchor(InAnchor)
 	, Orientation(InOrientation)
 	, bIsCollapsedByParent(bInIsCollapsedByParent)
-{
-}
+{}
 
 void FMenuBase::Dismiss()
 {
@@ -25,8 +24,8 @@ void FMenuBase::Dismiss()
 void FMenuBase::Place()
 {
 	Window->LayoutWindow();
-	Window->MoveWindowTo(FSlateApplication::Get().CalculatePopupWindowPosition(
-		Anchor, Window->GetSizeInScreen(), true, FVector2D(0.0f, 0.0f), Orientation));
+	Window->MoveWindowTo(
+		FSlateApplication::Get().CalculatePopupWindowPosition(Anchor, Window->GetSizeInScreen(), true, FVector2D(0.0f, 0.0f), Orientation));
 }
 
 void FMenuBase::NotifyDismissed()

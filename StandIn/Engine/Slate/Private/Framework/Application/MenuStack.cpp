@@ -4,9 +4,9 @@
 #include "Framework/Application/Menu.h"
 #include "Framework/Application/SlateApplication.h"
 
-TSharedRef<IMenu> FMenuStack::Push(const FWidgetPath& InOwnerPath, const TSharedRef<SWidget>& InContent,
-	const FVector2D& SummonLocation, const FPopupTransitionEffect& TransitionEffect, const bool bFocusImmediately,
-	const FVector2D& SummonLocationSize, TOptional<EPopupMethod> /*InMethod*/, const bool bIsCollapsedByParent)
+TSharedRef<IMenu> FMenuStack::Push(const FWidgetPath& InOwnerPath, const TSharedRef<SWidget>& InContent, const FVector2D& SummonLocation,
+	const FPopupTransitionEffect& TransitionEffect, const bool bFocusImmediately, const FVector2D& SummonLocationSize,
+	TOptional<EPopupMethod> /*InMethod*/, const bool bIsCollapsedByParent)
 {
 	check(InOwnerPath.IsValid());
 	return PushInternal(FindMenuInWidgetPath(InOwnerPath), InOwnerPath.GetDeepestWindow(), InContent,
@@ -229,7 +229,8 @@ void FMenuStack::RemoveMenusFrom(int32 FirstIndex, bool bRestoreFocus)
 	}
 	if (bHadFocus && bRestoreFocus)
 	{
-		const TSharedPtr<SWidget> NextFocus = Stack.Num() > 0 ? TSharedPtr<SWidget>(Stack.Last()->GetOwnedWindow()->GetContent()) : OldFocus;
+		const TSharedPtr<SWidget> NextFocus =
+			Stack.Num() > 0 ? TSharedPtr<SWidget>(Stack.Last()->GetOwnedWindow()->GetContent()) : OldFocus;
 		if (!NextFocus.IsValid() || !Application.SetKeyboardFocus(NextFocus))
 		{
 			Application.ClearKeyboardFocus();

@@ -20,8 +20,7 @@ FSlateApplication::FSlateApplication()
 	, bAllowToolTips(true)
 	, bToolTipSuppressed(false)
 	, bToolTipFollowsHover(false)
-{
-}
+{}
 
 FSlateApplication::~FSlateApplication() {}
 

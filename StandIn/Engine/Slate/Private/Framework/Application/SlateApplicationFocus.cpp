@@ -31,8 +31,8 @@ float GetDistance(const FSlateRect& From, const FSlateRect& To, EUINavigation Di
 {
 	const FVector2D Delta = To.GetCenter() - From.GetCenter();
 	const float Along = Direction == EUINavigation::Left ? -Delta.X
-		: Direction == EUINavigation::Right				 ? Delta.X
-		: Direction == EUINavigation::Up				 ? -Delta.Y
+		: Direction == EUINavigation::Right              ? Delta.X
+		: Direction == EUINavigation::Up                 ? -Delta.Y
 														 : Delta.Y;
 	const bool bHorizontal = Direction == EUINavigation::Left || Direction == EUINavigation::Right;
 	const float Across = FMath::Abs(bHorizontal ? Delta.Y : Delta.X);
@@ -63,8 +63,7 @@ bool FSlateApplication::SetKeyboardFocus(const TSharedPtr<SWidget>& OptionalWidg
 		return false;
 	}
 	FWidgetPath Path;
-	if (!OptionalWidgetToFocus->SupportsKeyboardFocus()
-		|| !GeneratePathToWidgetUnchecked(OptionalWidgetToFocus.ToSharedRef(), Path))
+	if (!OptionalWidgetToFocus->SupportsKeyboardFocus() || !GeneratePathToWidgetUnchecked(OptionalWidgetToFocus.ToSharedRef(), Path))
 	{
 		return false;
 	}
@@ -173,7 +172,7 @@ TSharedPtr<SWidget> FSlateApplication::GetKeyboardFocusedWidget() const
 TOptional<EFocusCause> FSlateApplication::HasAnyUserFocus(const TSharedPtr<const SWidget> Widget) const
 {
 	return Widget.IsValid() && GetKeyboardFocusedWidget().Get() == Widget.Get() ? TOptional<EFocusCause>(FocusCause)
-																				 : TOptional<EFocusCause>();
+																				: TOptional<EFocusCause>();
 }
 
 bool FSlateApplication::HasFocusedDescendants(const TSharedRef<const SWidget>& Widget) const

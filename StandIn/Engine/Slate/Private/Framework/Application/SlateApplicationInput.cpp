@@ -178,9 +178,8 @@ FReply FSlateApplication::RoutePointerDown(const FWidgetPath& Path, const FPoint
 	}
 	if (!Reply.IsEventHandled())
 	{
-		Reply = Bubble(Path, [&MouseEvent](const FArrangedWidget& Arranged) {
-			return Arranged.Widget->OnMouseButtonDown(Arranged.Geometry, MouseEvent);
-		});
+		Reply = Bubble(Path,
+			[&MouseEvent](const FArrangedWidget& Arranged) { return Arranged.Widget->OnMouseButtonDown(Arranged.Geometry, MouseEvent); });
 	}
 	return Reply;
 }
@@ -244,9 +243,8 @@ bool FSlateApplication::ProcessMouseButtonUpEvent(const FPointerEvent& MouseEven
 {
 	NotePointer(MouseEvent);
 	PressedMouseButtons.Remove(MouseEvent.GetEffectingButton());
-	const auto Handler = [&MouseEvent](const FArrangedWidget& Arranged) {
-		return Arranged.Widget->OnMouseButtonUp(Arranged.Geometry, MouseEvent);
-	};
+	const auto Handler = [&MouseEvent](
+							 const FArrangedWidget& Arranged) { return Arranged.Widget->OnMouseButtonUp(Arranged.Geometry, MouseEvent); };
 	const FWidgetPath CaptorPath = GetPathToCaptor();
 	const FWidgetPath Path = CaptorPath.IsValid() ? CaptorPath : GetPathUnderPointer(CursorPos, false);
 	const FReply Reply = CaptorPath.IsValid() ? Leafmost(Path, Handler) : Bubble(Path, Handler);
@@ -263,9 +261,8 @@ bool FSlateApplication::ProcessMouseWheelOrGestureEvent(const FPointerEvent& InW
 {
 	NotePointer(InWheelEvent);
 	const FWidgetPath Path = GetPathUnderPointer(CursorPos, false);
-	const FReply Reply = Bubble(Path, [&InWheelEvent](const FArrangedWidget& Arranged) {
-		return Arranged.Widget->OnMouseWheel(Arranged.Geometry, InWheelEvent);
-	});
+	const FReply Reply = Bubble(
+		Path, [&InWheelEvent](const FArrangedWidget& Arranged) { return Arranged.Widget->OnMouseWheel(Arranged.Geometry, InWheelEvent); });
 	ProcessReply(Path, Reply);
 	return Reply.IsEventHandled();
 }
@@ -274,14 +271,12 @@ bool FSlateApplication::ProcessKeyDownEvent(const FKeyEvent& InKeyEvent)
 {
 	ModifierKeys = InKeyEvent.GetModifierKeys();
 	const FWidgetPath Path = FocusPath.ToWidgetPath();
-	FReply Reply = Tunnel(Path, [&InKeyEvent](const FArrangedWidget& Arranged) {
-		return Arranged.Widget->OnPreviewKeyDown(Arranged.Geometry, InKeyEvent);
-	});
+	FReply Reply = Tunnel(
+		Path, [&InKeyEvent](const FArrangedWidget& Arranged) { return Arranged.Widget->OnPreviewKeyDown(Arranged.Geometry, InKeyEvent); });
 	if (!Reply.IsEventHandled())
 	{
-		Reply = Bubble(Path, [&InKeyEvent](const FArrangedWidget& Arranged) {
-			return Arranged.Widget->OnKeyDown(Arranged.Geometry, InKeyEvent);
-		});
+		Reply = Bubble(
+			Path, [&InKeyEvent](const FArrangedWidget& Arranged) { return Arranged.Widget->OnKeyDown(Arranged.Geometry, InKeyEvent); });
 	}
 	ProcessReply(Path, Reply);
 	if (Reply.IsEventHandled())
@@ -300,10 +295,10 @@ bool FSlateApplication::ProcessKeyDownEvent(const FKeyEvent& InKeyEvent)
 		return false;
 	}
 	const EUINavigation Direction = Key == EKeys::Tab ? (InKeyEvent.IsShiftDown() ? EUINavigation::Previous : EUINavigation::Next)
-		: Key == EKeys::Left						  ? EUINavigation::Left
-		: Key == EKeys::Right						  ? EUINavigation::Right
-		: Key == EKeys::Up							  ? EUINavigation::Up
-		: Key == EKeys::Down						  ? EUINavigation::Down
+		: Key == EKeys::Left                          ? EUINavigation::Left
+		: Key == EKeys::Right                         ? EUINavigation::Right
+		: Key == EKeys::Up                            ? EUINavigation::Up
+		: Key == EKeys::Down                          ? EUINavigation::Down
 													  : EUINavigation::Invalid;
 	return Direction != EUINavigation::Invalid && NavigateFocus(Direction);
 }
@@ -312,8 +307,8 @@ bool FSlateApplication::ProcessKeyUpEvent(const FKeyEvent& InKeyEvent)
 {
 	ModifierKeys = InKeyEvent.GetModifierKeys();
 	const FWidgetPath Path = FocusPath.ToWidgetPath();
-	const FReply Reply = Bubble(
-		Path, [&InKeyEvent](const FArrangedWidget& Arranged) { return Arranged.Widget->OnKeyUp(Arranged.Geometry, InKeyEvent); });
+	const FReply Reply =
+		Bubble(Path, [&InKeyEvent](const FArrangedWidget& Arranged) { return Arranged.Widget->OnKeyUp(Arranged.Geometry, InKeyEvent); });
 	ProcessReply(Path, Reply);
 	return Reply.IsEventHandled();
 }
@@ -321,9 +316,8 @@ bool FSlateApplication::ProcessKeyUpEvent(const FKeyEvent& InKeyEvent)
 bool FSlateApplication::ProcessKeyCharEvent(const FCharacterEvent& InCharacterEvent)
 {
 	const FWidgetPath Path = FocusPath.ToWidgetPath();
-	const FReply Reply = Bubble(Path, [&InCharacterEvent](const FArrangedWidget& Arranged) {
-		return Arranged.Widget->OnKeyChar(Arranged.Geometry, InCharacterEvent);
-	});
+	const FReply Reply = Bubble(Path,
+		[&InCharacterEvent](const FArrangedWidget& Arranged) { return Arranged.Widget->OnKeyChar(Arranged.Geometry, InCharacterEvent); });
 	ProcessReply(Path, Reply);
 	return Reply.IsEventHandled();
 }

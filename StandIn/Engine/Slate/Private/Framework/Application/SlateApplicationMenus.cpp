@@ -14,8 +14,8 @@ TSharedPtr<IMenu> FSlateApplication::PushMenu(const TSharedRef<SWidget>& InParen
 		return TSharedPtr<IMenu>();
 	}
 	CloseToolTip();
-	return MenuStack.Push(OwnerPath, InContent, SummonLocation, TransitionEffect, bFocusImmediately, SummonLocationSize, Method,
-		bIsCollapsedByParent);
+	return MenuStack.Push(
+		OwnerPath, InContent, SummonLocation, TransitionEffect, bFocusImmediately, SummonLocationSize, Method, bIsCollapsedByParent);
 }
 
 TSharedPtr<IMenu> FSlateApplication::PushMenu(const TSharedPtr<IMenu>& InParentMenu, const TSharedRef<SWidget>& InContent,
@@ -55,7 +55,7 @@ FVector2D FSlateApplication::CalculatePopupWindowPosition(const FSlateRect& InAn
 	bool /*bAutoAdjustForDPIScale*/, const FVector2D& InProposedPlacement, const EOrientation Orientation) const
 {
 	const FVector2D Wanted = InProposedPlacement != FVector2D(0.0f, 0.0f) ? InProposedPlacement
-		: Orientation == Orient_Vertical								  ? InAnchor.GetBottomLeft()
+		: Orientation == Orient_Vertical                                  ? InAnchor.GetBottomLeft()
 																		  : InAnchor.GetTopRight();
 	return ComputePopupFitInRect(InAnchor, FSlateRect::FromPointAndExtent(Wanted, InSize), Orientation, GetWorkArea(InAnchor));
 }

@@ -10,8 +10,7 @@ SButton::SButton()
 	, PressMethod(EButtonPressMethod::DownAndUp)
 	, bIsFocusable(true)
 	, bIsPressed(false)
-{
-}
+{}
 
 void SButton::Construct(const FArguments& InArgs)
 {

@@ -5,7 +5,12 @@
 #include "Widgets/Layout/SBorder.h"
 #include "Widgets/SBoxPanel.h"
 
-SCheckBox::SCheckBox() : Style(nullptr), ClickMethod(EButtonClickMethod::DownAndUp), bIsFocusable(true), bIsPressed(false) {}
+SCheckBox::SCheckBox()
+	: Style(nullptr)
+	, ClickMethod(EButtonClickMethod::DownAndUp)
+	, bIsFocusable(true)
+	, bIsPressed(false)
+{}
 
 void SCheckBox::Construct(const FArguments& InArgs)
 {

@@ -6,7 +6,10 @@
 #include "Widgets/SBoxPanel.h"
 #include "Widgets/SNullWidget.h"
 
-SComboButton::SComboButton() : Style(nullptr), bIsFocusable(true) {}
+SComboButton::SComboButton()
+	: Style(nullptr)
+	, bIsFocusable(true)
+{}
 
 void SComboButton::Construct(const FArguments& InArgs)
 {
@@ -25,16 +28,18 @@ void SComboButton::Construct(const FArguments& InArgs)
 	{
 		Row->AddSlot().AutoWidth().HAlign(HAlign_Center).VAlign(VAlign_Center).Padding(2.0f)[SNew(SImage).Image(&Style->DownArrowImage)];
 	}
-	SMenuAnchor::Construct(SMenuAnchor::FArguments()
-							   .Placement(InArgs._MenuPlacement)
-							   .OnMenuOpenChanged(InArgs._OnMenuOpenChanged)[SNew(SButton)
-																				 .ButtonStyle(InArgs._ButtonStyle != nullptr ? InArgs._ButtonStyle : &Style->ButtonStyle)
-																				 .ClickMethod(EButtonClickMethod::MouseDown)
-																				 .OnClicked(this, &SComboButton::OnButtonClicked)
-																				 .ContentPadding(FMargin(0.0f))
-																				 .ForegroundColor(InArgs._ForegroundColor)
-																				 .ButtonColorAndOpacity(InArgs._ButtonColorAndOpacity)
-																				 .IsFocusable(InArgs._IsFocusable)[Row]]);
+	SMenuAnchor::Construct(
+		SMenuAnchor::FArguments()
+			.Placement(InArgs._MenuPlacement)
+			.OnMenuOpenChanged(
+				InArgs._OnMenuOpenChanged)[SNew(SButton)
+											   .ButtonStyle(InArgs._ButtonStyle != nullptr ? InArgs._ButtonStyle : &Style->ButtonStyle)
+											   .ClickMethod(EButtonClickMethod::MouseDown)
+											   .OnClicked(this, &SComboButton::OnButtonClicked)
+											   .ContentPadding(FMargin(0.0f))
+											   .ForegroundColor(InArgs._ForegroundColor)
+											   .ButtonColorAndOpacity(InArgs._ButtonColorAndOpacity)
+											   .IsFocusable(InArgs._IsFocusable)[Row]]);
 	if (InArgs._MenuContent.Widget != SNullWidget::NullWidget)
 	{
 		SetMenuContent(InArgs._MenuContent.Widget);

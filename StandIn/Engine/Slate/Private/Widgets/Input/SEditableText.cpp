@@ -11,8 +11,7 @@ SEditableText::SEditableText()
 	, SelectionStart(0)
 	, ScrollOffset(0.0f)
 	, bKeepSelectionOfPress(false)
-{
-}
+{}
 
 void SEditableText::Construct(const FArguments& InArgs)
 {
@@ -306,7 +305,7 @@ void SEditableText::DeleteText(bool bForward, bool bWord)
 	}
 	if (!AnyTextSelected())
 	{
-		MoveCaret(bWord ? FindWord(CaretPosition, bForward ? 1 : -1)
+		MoveCaret(bWord    ? FindWord(CaretPosition, bForward ? 1 : -1)
 				: bForward ? StandIn::NextBreak(EditedText, CaretPosition)
 						   : StandIn::PreviousBreak(EditedText, CaretPosition),
 			true);
@@ -366,13 +365,14 @@ int32 SEditableText::OnPaint(const FPaintArgs& /*Args*/, const FGeometry& Allott
 		FLinearColor HintTint = Tint;
 		HintTint.A *= 0.5f;
 		FSlateDrawElement::MakeText(OutDrawElements, static_cast<uint32>(LayerId + 1),
-			AllottedGeometry.ToPaintGeometry(FVector2D(HintX, Top), FVector2D(Size.X, LineHeight)), HintText.Get(), FontInfo, Effect, HintTint);
+			AllottedGeometry.ToPaintGeometry(FVector2D(HintX, Top), FVector2D(Size.X, LineHeight)), HintText.Get(), FontInfo, Effect,
+			HintTint);
 	}
 	if (bFocused && !IsReadOnly.Get())
 	{
 		FSlateDrawElement::MakeBox(OutDrawElements, static_cast<uint32>(LayerId + 2),
-			AllottedGeometry.ToPaintGeometry(FVector2D(CaretX - ScrollOffset, Top), FVector2D(1.0f, LineHeight)), &Style->CaretImage, Effect,
-			Style->CaretImage.GetTint(InWidgetStyle) * InWidgetStyle.GetColorAndOpacityTint());
+			AllottedGeometry.ToPaintGeometry(FVector2D(CaretX - ScrollOffset, Top), FVector2D(1.0f, LineHeight)), &Style->CaretImage,
+			Effect, Style->CaretImage.GetTint(InWidgetStyle) * InWidgetStyle.GetColorAndOpacityTint());
 	}
 	return LayerId + 2;
 }

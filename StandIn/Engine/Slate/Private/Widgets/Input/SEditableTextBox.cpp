@@ -3,7 +3,9 @@
 #include "Widgets/Input/SEditableTextBox.h"
 #include "Widgets/SBoxPanel.h"
 
-SEditableTextBox::SEditableTextBox() : Style(nullptr) {}
+SEditableTextBox::SEditableTextBox()
+	: Style(nullptr)
+{}
 
 void SEditableTextBox::Construct(const FArguments& InArgs)
 {
@@ -22,12 +24,13 @@ void SEditableTextBox::Construct(const FArguments& InArgs)
 		.MinDesiredWidth(InArgs._MinDesiredWidth)
 		.SelectAllTextOnCommit(InArgs._SelectAllTextOnCommit)
 		.OnKeyDownHandler(InArgs._OnKeyDownHandler);
-	SBorder::Construct(SBorder::FArguments()
-						   .BorderImage(this, &SEditableTextBox::GetBackground)
-						   .BorderBackgroundColor(Style->BackgroundColor)
-						   .ForegroundColor(this, &SEditableTextBox::DetermineForegroundColor)
-						   .Padding(InArgs._Padding.IsSet() ? InArgs._Padding : TAttribute<FMargin>(Style->Padding))
-							   [SAssignNew(Box, SHorizontalBox) + SHorizontalBox::Slot().VAlign(VAlign_Center)[EditableText.ToSharedRef()]]);
+	SBorder::Construct(
+		SBorder::FArguments()
+			.BorderImage(this, &SEditableTextBox::GetBackground)
+			.BorderBackgroundColor(Style->BackgroundColor)
+			.ForegroundColor(this, &SEditableTextBox::DetermineForegroundColor)
+			.Padding(InArgs._Padding.IsSet() ? InArgs._Padding : TAttribute<FMargin>(Style->Padding))[SAssignNew(Box, SHorizontalBox)
+				+ SHorizontalBox::Slot().VAlign(VAlign_Center)[EditableText.ToSharedRef()]]);
 }
 
 bool SEditableTextBox::HasKeyboardFocus() const

@@ -5,7 +5,11 @@
 #include "Layout/ArrangedChildren.h"
 #include "Layout/LayoutUtils.h"
 
-SMenuAnchor::SMenuAnchor() : Child(this), bIsCollapsedByParent(false), bDismissedThisTick(false) {}
+SMenuAnchor::SMenuAnchor()
+	: Child(this)
+	, bIsCollapsedByParent(false)
+	, bDismissedThisTick(false)
+{}
 
 SMenuAnchor::~SMenuAnchor()
 {
@@ -77,8 +81,8 @@ void SMenuAnchor::SetIsOpen(bool InIsOpen, const bool bFocusMenu, const int32 /*
 		SummonLocation.X += MenuPlacement == MenuPlacement_BelowRightAnchor ? Spare : Spare / 2.0f;
 	}
 	const FPopupTransitionEffect Effect(bBeside ? FPopupTransitionEffect::SubMenu : FPopupTransitionEffect::ComboButton);
-	const TSharedPtr<IMenu> Menu = Application.PushMenu(AsShared(), MyPath, MenuContent.ToSharedRef(), SummonLocation, Effect, bFocusMenu,
-		Size, Method, bIsCollapsedByParent);
+	const TSharedPtr<IMenu> Menu = Application.PushMenu(
+		AsShared(), MyPath, MenuContent.ToSharedRef(), SummonLocation, Effect, bFocusMenu, Size, Method, bIsCollapsedByParent);
 	if (ensure(Menu.IsValid()))
 	{
 		PopupMenuPtr = Menu;
@@ -132,8 +136,8 @@ void SMenuAnchor::OnArrangeChildren(const FGeometry& AllottedGeometry, FArranged
 		const FVector2D Size = AllottedGeometry.GetLocalSize();
 		const AlignmentArrangeResult X = AlignChild<Orient_Horizontal>(Size.X, Child, Padding);
 		const AlignmentArrangeResult Y = AlignChild<Orient_Vertical>(Size.Y, Child, Padding);
-		ArrangedChildren.AddWidget(ChildVisibility,
-			AllottedGeometry.MakeChild(Child.GetWidget(), FVector2D(X.Offset, Y.Offset), FVector2D(X.Size, Y.Size)));
+		ArrangedChildren.AddWidget(
+			ChildVisibility, AllottedGeometry.MakeChild(Child.GetWidget(), FVector2D(X.Offset, Y.Offset), FVector2D(X.Size, Y.Size)));
 	}
 }
 

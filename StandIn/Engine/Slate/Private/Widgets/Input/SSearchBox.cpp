@@ -21,17 +21,15 @@ void SSearchBox::Construct(const FArguments& InArgs)
 									.OnTextCommitted(this, &SSearchBox::HandleTextCommitted)
 									.MinDesiredWidth(InArgs._MinDesiredWidth)
 									.OnKeyDownHandler(InArgs._OnKeyDownHandler));
-	Box->AddSlot()
-		.AutoWidth()
-		.VAlign(VAlign_Center)[SNew(SButton)
-								   .Visibility(this, &SSearchBox::GetXVisibility)
-								   .ButtonStyle(&FCoreStyle::Get(), "NoBorder")
-								   .ContentPadding(FMargin(0.0f))
-								   .IsFocusable(false)
-								   .OnClicked(this, &SSearchBox::OnClearSearch)[SNew(SImage).Image(&InArgs._Style->ClearImage)]];
-	Box->AddSlot()
-		.AutoWidth()
-		.VAlign(VAlign_Center)[SNew(SImage).Visibility(this, &SSearchBox::GetSearchGlassVisibility).Image(&InArgs._Style->GlassImage)];
+	Box->AddSlot().AutoWidth().VAlign(
+		VAlign_Center)[SNew(SButton)
+						   .Visibility(this, &SSearchBox::GetXVisibility)
+						   .ButtonStyle(&FCoreStyle::Get(), "NoBorder")
+						   .ContentPadding(FMargin(0.0f))
+						   .IsFocusable(false)
+						   .OnClicked(this, &SSearchBox::OnClearSearch)[SNew(SImage).Image(&InArgs._Style->ClearImage)]];
+	Box->AddSlot().AutoWidth().VAlign(
+		VAlign_Center)[SNew(SImage).Visibility(this, &SSearchBox::GetSearchGlassVisibility).Image(&InArgs._Style->GlassImage)];
 }
 
 FReply SSearchBox::OnClearSearch()

@@ -6,10 +6,15 @@
 namespace
 {
 /** The thumb's size. */
-const float ThumbSize = 12.0f;
+const float SliderThumbSize = 12.0f;
 }
 
-SSlider::SSlider() : Style(nullptr), MinValue(0.0f), MaxValue(1.0f), bIsFocusable(true) {}
+SSlider::SSlider()
+	: Style(nullptr)
+	, MinValue(0.0f)
+	, MaxValue(1.0f)
+	, bIsFocusable(true)
+{}
 
 void SSlider::Construct(const FArguments& InArgs)
 {
@@ -47,8 +52,8 @@ void SSlider::CommitValue(float NewValue)
 
 void SSlider::CommitPosition(const FGeometry& MyGeometry, const FPointerEvent& MouseEvent)
 {
-	const float Travel = FMath::Max(1.0f, MyGeometry.GetLocalSize().X - ThumbSize);
-	const float Part = (MyGeometry.AbsoluteToLocal(MouseEvent.GetScreenSpacePosition()).X - ThumbSize / 2.0f) / Travel;
+	const float Travel = FMath::Max(1.0f, MyGeometry.GetLocalSize().X - SliderThumbSize);
+	const float Part = (MyGeometry.AbsoluteToLocal(MouseEvent.GetScreenSpacePosition()).X - SliderThumbSize / 2.0f) / Travel;
 	CommitValue(MinValue + (MaxValue - MinValue) * FMath::Max(0.0f, FMath::Min(Part, 1.0f)));
 }
 
@@ -101,18 +106,19 @@ int32 SSlider::OnPaint(const FPaintArgs& /*Args*/, const FGeometry& AllottedGeom
 	const FVector2D Size = AllottedGeometry.GetLocalSize();
 	const FLinearColor Tint = InWidgetStyle.GetColorAndOpacityTint();
 	FSlateDrawElement::MakeBox(OutDrawElements, static_cast<uint32>(LayerId),
-		AllottedGeometry.ToPaintGeometry(FVector2D(ThumbSize / 2.0f, (Size.Y - Style->BarThickness) / 2.0f),
-			FVector2D(FMath::Max(0.0f, Size.X - ThumbSize), Style->BarThickness)),
+		AllottedGeometry.ToPaintGeometry(FVector2D(SliderThumbSize / 2.0f, (Size.Y - Style->BarThickness) / 2.0f),
+			FVector2D(FMath::Max(0.0f, Size.X - SliderThumbSize), Style->BarThickness)),
 		&Style->NormalBarImage, Effect, Style->NormalBarImage.GetTint(InWidgetStyle) * Tint);
 	const FSlateBrush& Thumb = IsHovered() ? Style->HoveredThumbImage : Style->NormalThumbImage;
 	FSlateDrawElement::MakeBox(OutDrawElements, static_cast<uint32>(LayerId + 1),
 		AllottedGeometry.ToPaintGeometry(
-			FVector2D(FMath::Max(0.0f, Size.X - ThumbSize) * GetNormalized(), (Size.Y - ThumbSize) / 2.0f), FVector2D(ThumbSize, ThumbSize)),
+			FVector2D(FMath::Max(0.0f, Size.X - SliderThumbSize) * GetNormalized(), (Size.Y - SliderThumbSize) / 2.0f),
+			FVector2D(SliderThumbSize, SliderThumbSize)),
 		&Thumb, Effect, Thumb.GetTint(InWidgetStyle) * Tint);
 	return LayerId + 1;
 }
 
 FVector2D SSlider::ComputeDesiredSize(float /*LayoutScaleMultiplier*/) const
 {
-	return FVector2D(64.0f, ThumbSize);
+	return FVector2D(64.0f, SliderThumbSize);
 }

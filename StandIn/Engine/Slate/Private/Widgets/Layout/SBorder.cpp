@@ -3,7 +3,10 @@
 #include "Widgets/Layout/SBorder.h"
 #include "Rendering/DrawElements.h"
 
-SBorder::SBorder() : BorderImage(FCoreStyle::Get().GetBrush("Border")), DesiredSizeScale(FVector2D(1.0f, 1.0f)), ShowDisabledEffect(true)
+SBorder::SBorder()
+	: BorderImage(FCoreStyle::Get().GetBrush("Border"))
+	, DesiredSizeScale(FVector2D(1.0f, 1.0f))
+	, ShowDisabledEffect(true)
 {
 	SetCanTick(false);
 }
@@ -55,8 +58,7 @@ int32 SBorder::OnPaint(const FPaintArgs& Args, const FGeometry& AllottedGeometry
 		const bool bShowDisabled = ShowDisabledEffect.Get() && !ShouldBeEnabled(bParentEnabled);
 		FSlateDrawElement::MakeBox(OutDrawElements, static_cast<uint32>(LayerId), AllottedGeometry.ToPaintGeometry(), Brush,
 			bShowDisabled ? ESlateDrawEffect::DisabledEffect : ESlateDrawEffect::None,
-			Brush->GetTint(InWidgetStyle) * InWidgetStyle.GetColorAndOpacityTint()
-				* BorderBackgroundColor.Get().GetColor(InWidgetStyle));
+			Brush->GetTint(InWidgetStyle) * InWidgetStyle.GetColorAndOpacityTint() * BorderBackgroundColor.Get().GetColor(InWidgetStyle));
 	}
 	return SCompoundWidget::OnPaint(Args, AllottedGeometry, MyCullingRect, OutDrawElements, LayerId, InWidgetStyle, bParentEnabled);
 }

@@ -26,7 +26,8 @@ float Limit(float Wanted, const FOptionalSize& Override, const FOptionalSize& Le
 }
 }
 
-SBox::SBox() : ChildSlot(this)
+SBox::SBox()
+	: ChildSlot(this)
 {
 	SetCanTick(false);
 }
@@ -56,8 +57,8 @@ void SBox::OnArrangeChildren(const FGeometry& AllottedGeometry, FArrangedChildre
 		const FVector2D Size = AllottedGeometry.GetLocalSize();
 		const AlignmentArrangeResult X = AlignChild<Orient_Horizontal>(Size.X, ChildSlot, Padding);
 		const AlignmentArrangeResult Y = AlignChild<Orient_Vertical>(Size.Y, ChildSlot, Padding);
-		ArrangedChildren.AddWidget(ChildVisibility,
-			AllottedGeometry.MakeChild(ChildSlot.GetWidget(), FVector2D(X.Offset, Y.Offset), FVector2D(X.Size, Y.Size)));
+		ArrangedChildren.AddWidget(
+			ChildVisibility, AllottedGeometry.MakeChild(ChildSlot.GetWidget(), FVector2D(X.Offset, Y.Offset), FVector2D(X.Size, Y.Size)));
 	}
 }
 

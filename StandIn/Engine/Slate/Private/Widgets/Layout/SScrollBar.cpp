@@ -17,8 +17,7 @@ SScrollBar::SScrollBar()
 	, GrabOffset(0.0f)
 	, bAlwaysShow(false)
 	, bIsDragging(false)
-{
-}
+{}
 
 void SScrollBar::Construct(const FArguments& InArgs)
 {
@@ -121,7 +120,9 @@ int32 SScrollBar::OnPaint(const FPaintArgs& /*Args*/, const FGeometry& AllottedG
 		float Start = 0.0f;
 		float Length = 0.0f;
 		GetThumb(bVertical ? Size.Y : Size.X, Start, Length);
-		const FSlateBrush& Thumb = bIsDragging ? Style->DraggedThumbImage : IsHovered() ? Style->HoveredThumbImage : Style->NormalThumbImage;
+		const FSlateBrush& Thumb = bIsDragging ? Style->DraggedThumbImage
+			: IsHovered()                      ? Style->HoveredThumbImage
+											   : Style->NormalThumbImage;
 		const FVector2D Offset = bVertical ? FVector2D(1.0f, Start) : FVector2D(Start, 1.0f);
 		const FVector2D ThumbSize =
 			bVertical ? FVector2D(FMath::Max(0.0f, Size.X - 2.0f), Length) : FVector2D(Length, FMath::Max(0.0f, Size.Y - 2.0f));

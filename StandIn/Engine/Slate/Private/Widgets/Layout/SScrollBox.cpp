@@ -17,8 +17,7 @@ SScrollBox::SScrollBox()
 	, ScrollOffset(0.0f)
 	, MaxScrollOffset(0.0f)
 	, bScrollToEnd(false)
-{
-}
+{}
 
 void SScrollBox::Construct(const FArguments& InArgs)
 {
@@ -128,7 +127,8 @@ void SScrollBox::Tick(const FGeometry& AllottedGeometry, const double /*InCurren
 	}
 	Clamp();
 	ScrollPanel->Offset = ScrollOffset;
-	ScrollBar->SetState(ContentLength > 0.0f ? ScrollOffset / ContentLength : 0.0f, ContentLength > 0.0f ? ViewLength / ContentLength : 1.0f);
+	ScrollBar->SetState(
+		ContentLength > 0.0f ? ScrollOffset / ContentLength : 0.0f, ContentLength > 0.0f ? ViewLength / ContentLength : 1.0f);
 }
 
 FReply SScrollBox::OnMouseWheel(const FGeometry& /*MyGeometry*/, const FPointerEvent& MouseEvent)

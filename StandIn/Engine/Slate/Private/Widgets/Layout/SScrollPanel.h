@@ -16,7 +16,11 @@ public:
 	}
 	SLATE_END_ARGS()
 
-	SScrollPanel() : Children(this), Orientation(Orient_Vertical), Offset(0.0f) {}
+	SScrollPanel()
+		: Children(this)
+		, Orientation(Orient_Vertical)
+		, Offset(0.0f)
+	{}
 
 	void Construct(const FArguments& InArgs, EOrientation InOrientation);
 	FChildren* GetChildren() override { return &Children; }

@@ -2,7 +2,10 @@
 
 #include "Widgets/Layout/SSeparator.h"
 
-SSeparator::SSeparator() : Orientation(Orient_Horizontal), Thickness(3.0f) {}
+SSeparator::SSeparator()
+	: Orientation(Orient_Horizontal)
+	, Thickness(3.0f)
+{}
 
 void SSeparator::Construct(const FArguments& InArgs)
 {

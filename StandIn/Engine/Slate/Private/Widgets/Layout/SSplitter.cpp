@@ -12,8 +12,7 @@ SSplitter::SSplitter()
 	, MinSlotLength(20.0f)
 	, DraggedHandle(INDEX_NONE)
 	, HoveredHandle(INDEX_NONE)
-{
-}
+{}
 
 void SSplitter::Construct(const FArguments& InArgs)
 {
@@ -75,12 +74,12 @@ void SSplitter::OnArrangeChildren(const FGeometry& AllottedGeometry, FArrangedCh
 			continue;
 		}
 		const float Length = Slot.SizingRule == SizeToContent ? GetAlong(Slot.GetWidget()->GetDesiredSize())
-			: WeightTotal > 0.0f							  ? Shared * Slot.SizeValue.Get() / WeightTotal
+			: WeightTotal > 0.0f                              ? Shared * Slot.SizeValue.Get() / WeightTotal
 															  : 0.0f;
 		const bool bHorizontal = Orientation == Orient_Horizontal;
-		ArrangedChildren.AddWidget(AllottedGeometry.MakeChild(Slot.GetWidget(),
-			bHorizontal ? FVector2D(Position, 0.0f) : FVector2D(0.0f, Position),
-			bHorizontal ? FVector2D(Length, Size.Y) : FVector2D(Size.X, Length)));
+		ArrangedChildren.AddWidget(
+			AllottedGeometry.MakeChild(Slot.GetWidget(), bHorizontal ? FVector2D(Position, 0.0f) : FVector2D(0.0f, Position),
+				bHorizontal ? FVector2D(Length, Size.Y) : FVector2D(Size.X, Length)));
 		Position += Length + HandleSize;
 	}
 }
@@ -173,7 +172,8 @@ FReply SSplitter::OnMouseMove(const FGeometry& MyGeometry, const FPointerEvent& 
 	const float Total = GetAlong(Before.GetLocalSize()) + GetAlong(After.GetLocalSize());
 	const float Position = GetAlong(MyGeometry.AbsoluteToLocal(MouseEvent.GetScreenSpacePosition()));
 	const float Wanted = Position - HandleSize / 2.0f - GetAlong(Before.Position);
-	const float NewLength = FMath::Max(FMath::Min(MinSlotLength, Total / 2.0f), FMath::Min(Wanted, Total - FMath::Min(MinSlotLength, Total / 2.0f)));
+	const float NewLength =
+		FMath::Max(FMath::Min(MinSlotLength, Total / 2.0f), FMath::Min(Wanted, Total - FMath::Min(MinSlotLength, Total / 2.0f)));
 	if (Total > 0.0f && Slots[0] != nullptr && Slots[1] != nullptr && Slots[0]->SizingRule == FractionOfParent
 		&& Slots[1]->SizingRule == FractionOfParent)
 	{

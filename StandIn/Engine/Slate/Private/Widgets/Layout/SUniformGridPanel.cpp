@@ -4,7 +4,9 @@
 #include "Layout/ArrangedChildren.h"
 #include "Layout/LayoutUtils.h"
 
-SUniformGridPanel::SUniformGridPanel() : Children(this) {}
+SUniformGridPanel::SUniformGridPanel()
+	: Children(this)
+{}
 
 void SUniformGridPanel::Construct(const FArguments& InArgs)
 {

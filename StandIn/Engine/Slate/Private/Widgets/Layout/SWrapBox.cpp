@@ -3,7 +3,12 @@
 #include "Widgets/Layout/SWrapBox.h"
 #include "Layout/ArrangedChildren.h"
 
-SWrapBox::SWrapBox() : Children(this), InnerSlotPadding(0.0f, 0.0f), AllottedWidth(0.0f), bUseAllottedWidth(false) {}
+SWrapBox::SWrapBox()
+	: Children(this)
+	, InnerSlotPadding(0.0f, 0.0f)
+	, AllottedWidth(0.0f)
+	, bUseAllottedWidth(false)
+{}
 
 void SWrapBox::Construct(const FArguments& InArgs)
 {

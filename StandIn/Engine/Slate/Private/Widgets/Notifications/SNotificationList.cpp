@@ -18,8 +18,7 @@ SNotificationItem::SNotificationItem()
 	, FadeAge(0.0f)
 	, bExpiring(false)
 	, bFading(false)
-{
-}
+{}
 
 void SNotificationItem::Construct(const FArguments& /*InArgs*/, const FNotificationInfo& Info)
 {
@@ -37,15 +36,13 @@ void SNotificationItem::Construct(const FArguments& /*InArgs*/, const FNotificat
 	const TSharedRef<SVerticalBox> Column = SNew(SVerticalBox) + SVerticalBox::Slot().AutoHeight()[Row];
 	if (Hyperlink.IsBound())
 	{
-		Column->AddSlot()
-			.AutoHeight()
-			.HAlign(HAlign_Right)[SNew(SButton)
-									  .ButtonStyle(&FCoreStyle::Get(), "HoverHintOnly")
-									  .Text(Info.HyperlinkText)
-									  .OnClicked(this, &SNotificationItem::OnHyperlinkClicked)];
+		Column->AddSlot().AutoHeight().HAlign(HAlign_Right)[SNew(SButton)
+																.ButtonStyle(&FCoreStyle::Get(), "HoverHintOnly")
+																.Text(Info.HyperlinkText)
+																.OnClicked(this, &SNotificationItem::OnHyperlinkClicked)];
 	}
-	ChildSlot.Padding(
-		4.0f)[SNew(SBorder).BorderImage(FCoreStyle::Get().GetBrush("NotificationList.ItemBackground")).Padding(FMargin(12.0f, 8.0f))[Column]];
+	ChildSlot.Padding(4.0f)
+		[SNew(SBorder).BorderImage(FCoreStyle::Get().GetBrush("NotificationList.ItemBackground")).Padding(FMargin(12.0f, 8.0f))[Column]];
 	if (Info.bFireAndForget)
 	{
 		ExpireAndFadeout();

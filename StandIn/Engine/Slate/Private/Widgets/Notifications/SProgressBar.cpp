@@ -3,7 +3,9 @@
 #include "Widgets/Notifications/SProgressBar.h"
 #include "Rendering/DrawElements.h"
 
-SProgressBar::SProgressBar() : Style(nullptr) {}
+SProgressBar::SProgressBar()
+	: Style(nullptr)
+{}
 
 void SProgressBar::Construct(const FArguments& InArgs)
 {

@@ -5,7 +5,9 @@
 #include "StandIn/FontMeasurer.h"
 #include "StandIn/TextLines.h"
 
-STextBlock::STextBlock() : Style(nullptr), LastPaintedWidth(0.0f)
+STextBlock::STextBlock()
+	: Style(nullptr)
+	, LastPaintedWidth(0.0f)
 {
 	SetCanTick(false);
 }
@@ -76,7 +78,7 @@ int32 STextBlock::OnPaint(const FPaintArgs& /*Args*/, const FGeometry& AllottedG
 		const float LineWidth = Line.Len() > 0 ? Measurer.MeasureLine(*Line, Line.Len(), FontInfo, 1.0f) : 0.0f;
 		const ETextJustify::Type Justify = Justification.Get();
 		const float OffsetX = Justify == ETextJustify::Center ? (RoomWidth - LineWidth) / 2.0f
-			: Justify == ETextJustify::Right				  ? RoomWidth - LineWidth
+			: Justify == ETextJustify::Right                  ? RoomWidth - LineWidth
 															  : 0.0f;
 		const FVector2D Offset(TextMargin.Left + OffsetX, TextMargin.Top + LineHeight * static_cast<float>(LineIndex));
 		const FVector2D Size(LineWidth, LineHeight);

@@ -15,7 +15,14 @@ public:
 	}
 	SLATE_END_ARGS()
 
-	SListPanel() : Children(this), FirstLineOffset(0.0f), ItemsPerLine(1), TileSize(0.0f, 0.0f), WantedHeight(0.0f), bTiles(false) {}
+	SListPanel()
+		: Children(this)
+		, FirstLineOffset(0.0f)
+		, ItemsPerLine(1)
+		, TileSize(0.0f, 0.0f)
+		, WantedHeight(0.0f)
+		, bTiles(false)
+	{}
 
 	void Construct(const FArguments& /*InArgs*/) {}
 	FChildren* GetChildren() override { return &Children; }

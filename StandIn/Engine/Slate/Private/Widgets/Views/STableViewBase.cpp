@@ -8,7 +8,7 @@
 namespace
 {
 /** How far one notch of the wheel scrolls, in Slate units. */
-const float WheelScrollAmount = 32.0f;
+const float ListWheelScrollAmount = 32.0f;
 
 /** The height of a line before any was made. */
 const float GuessedLineHeight = 16.0f;
@@ -23,8 +23,7 @@ STableViewBase::STableViewBase(ETableViewMode::Type InTableViewMode)
 	, LastViewHeight(0.0f)
 	, AverageLineHeight(GuessedLineHeight)
 	, bItemsNeedRefresh(true)
-{
-}
+{}
 
 void STableViewBase::ConstructChildren(const TAttribute<float>& InItemWidth, const TAttribute<float>& InItemHeight,
 	const TSharedPtr<SScrollBar>& InScrollBar, const FOnContextMenuOpening& InOnContextMenuOpening,
@@ -70,8 +69,7 @@ float STableViewBase::ScrollBy(float ScrollByAmount)
 {
 	const double Lines = static_cast<double>(ScrollByAmount / GetLineHeight());
 	const double LinesInSight = static_cast<double>(LastViewHeight / GetLineHeight());
-	const double NumLines =
-		static_cast<double>((GetNumItemsBeingObserved() + GetNumItemsPerLine() - 1) / GetNumItemsPerLine());
+	const double NumLines = static_cast<double>((GetNumItemsBeingObserved() + GetNumItemsPerLine() - 1) / GetNumItemsPerLine());
 	const double Furthest = NumLines > LinesInSight ? (NumLines - LinesInSight) * GetNumItemsPerLine() : 0.0;
 	const double Before = ScrollOffset;
 	const double Wanted = ScrollOffset + Lines * GetNumItemsPerLine();
@@ -200,8 +198,7 @@ void STableViewBase::RegenerateItems(const FGeometry& AllottedGeometry)
 				Filled += AddLine(FirstLine * PerLine, 0);
 			}
 			ItemsPanel->FirstLineOffset = FMath::Min(0.0f, LastViewHeight - Filled);
-			const float FirstHeight =
-				TableViewMode == ETableViewMode::Tile ? GetLineHeight() : ItemsPanel->Children[0]->GetDesiredSize().Y;
+			const float FirstHeight = TableViewMode == ETableViewMode::Tile ? GetLineHeight() : ItemsPanel->Children[0]->GetDesiredSize().Y;
 			const double Hidden = FirstHeight > 0.0f ? static_cast<double>(-ItemsPanel->FirstLineOffset / FirstHeight) : 0.0;
 			ScrollOffset = (FirstLine + Hidden) * PerLine;
 		}
@@ -233,7 +230,7 @@ FReply STableViewBase::OnMouseWheel(const FGeometry& /*MyGeometry*/, const FPoin
 	{
 		return FReply::Unhandled();
 	}
-	const float Moved = ScrollBy(-MouseEvent.GetWheelDelta() * WheelScrollAmount);
+	const float Moved = ScrollBy(-MouseEvent.GetWheelDelta() * ListWheelScrollAmount);
 	return Moved != 0.0f || ConsumeMouseWheel == EConsumeMouseWheel::Always ? FReply::Handled() : FReply::Unhandled();
 }
 
@@ -249,8 +246,7 @@ FReply STableViewBase::OnMouseButtonUp(const FGeometry& /*MyGeometry*/, const FP
 
 void STableViewBase::OnRightMouseButtonUp(const FPointerEvent& MouseEvent)
 {
-	const TSharedPtr<SWidget> MenuContent =
-		OnContextMenuOpening.IsBound() ? OnContextMenuOpening.Execute() : TSharedPtr<SWidget>();
+	const TSharedPtr<SWidget> MenuContent = OnContextMenuOpening.IsBound() ? OnContextMenuOpening.Execute() : TSharedPtr<SWidget>();
 	if (MenuContent.IsValid())
 	{
 		FSlateApplication::Get().PushMenu(AsShared(), FWidgetPath(), MenuContent.ToSharedRef(), MouseEvent.GetScreenSpacePosition(),

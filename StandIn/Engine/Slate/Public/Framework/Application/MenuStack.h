@@ -31,7 +31,9 @@ struct FPopupTransitionEffect
 	} SlideDirection;
 
 	/** Makes an effect. */
-	FPopupTransitionEffect(ESlideDirection InitialSlideDirection = None) : SlideDirection(InitialSlideDirection) {}
+	FPopupTransitionEffect(ESlideDirection InitialSlideDirection = None)
+		: SlideDirection(InitialSlideDirection)
+	{}
 };
 
 /** The open pop-up menus, each opened from the one before it. */

@@ -91,8 +91,8 @@ public:
 		TOptional<EPopupMethod> Method = TOptional<EPopupMethod>(), const bool bIsCollapsedByParent = true);
 
 	/** Opens a pop-up menu as the child of an open one. */
-	TSharedPtr<IMenu> PushMenu(const TSharedPtr<IMenu>& InParentMenu, const TSharedRef<SWidget>& InContent,
-		const FVector2D& SummonLocation, const FPopupTransitionEffect& TransitionEffect, const bool bFocusImmediately = true,
+	TSharedPtr<IMenu> PushMenu(const TSharedPtr<IMenu>& InParentMenu, const TSharedRef<SWidget>& InContent, const FVector2D& SummonLocation,
+		const FPopupTransitionEffect& TransitionEffect, const bool bFocusImmediately = true,
 		const FVector2D& SummonLocationSize = FVector2D(0.0f, 0.0f), const bool bIsCollapsedByParent = true);
 
 	/** Says whether a menu is open that was opened from the given one. */
@@ -126,7 +126,8 @@ public:
 	// Focus.
 
 	/** Gives a widget the focus; says whether it took it: it must be in a shown window and support the focus. */
-	bool SetUserFocus(uint32 UserIndex, const TSharedPtr<SWidget>& WidgetToFocus, EFocusCause ReasonFocusIsChanging = EFocusCause::SetDirectly);
+	bool SetUserFocus(
+		uint32 UserIndex, const TSharedPtr<SWidget>& WidgetToFocus, EFocusCause ReasonFocusIsChanging = EFocusCause::SetDirectly);
 
 	/** Gives the focus to the deepest widget of a path that supports it. */
 	bool SetUserFocus(const uint32 InUserIndex, const FWidgetPath& InFocusPath, const EFocusCause InCause);
@@ -220,15 +221,15 @@ public:
 	FModifierKeysState GetModifierKeys() const { return ModifierKeys; }
 
 	/** Finds the path to the topmost widget under a point as painted last; invalid if there is none. */
-	FWidgetPath LocateWindowUnderMouse(FVector2D ScreenspaceMouseCoordinate,
-		const TArray<TSharedRef<SWindow>>& InWindows, bool bIgnoreEnabledStatus = false, int32 UserIndex = INDEX_NONE);
+	FWidgetPath LocateWindowUnderMouse(FVector2D ScreenspaceMouseCoordinate, const TArray<TSharedRef<SWindow>>& InWindows,
+		bool bIgnoreEnabledStatus = false, int32 UserIndex = INDEX_NONE);
 
 	bool IsWidgetDirectlyHovered(const TSharedPtr<const SWidget> Widget) const override;
 
-	bool GeneratePathToWidgetUnchecked(TSharedRef<const SWidget> InWidget, FWidgetPath& OutWidgetPath,
-		EVisibility VisibilityFilter = EVisibility::Visible) const override;
-	void GeneratePathToWidgetChecked(TSharedRef<const SWidget> InWidget, FWidgetPath& OutWidgetPath,
-		EVisibility VisibilityFilter = EVisibility::Visible) const override;
+	bool GeneratePathToWidgetUnchecked(
+		TSharedRef<const SWidget> InWidget, FWidgetPath& OutWidgetPath, EVisibility VisibilityFilter = EVisibility::Visible) const override;
+	void GeneratePathToWidgetChecked(
+		TSharedRef<const SWidget> InWidget, FWidgetPath& OutWidgetPath, EVisibility VisibilityFilter = EVisibility::Visible) const override;
 
 	/** Says whether a widget can be reached from a shown window. */
 	bool FindPathToWidget(

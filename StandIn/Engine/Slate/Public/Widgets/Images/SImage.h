@@ -13,7 +13,10 @@
 class SLATE_API SImage : public SLeafWidget
 {
 public:
-	SLATE_BEGIN_ARGS(SImage) : _Image(FCoreStyle::Get().GetDefaultBrush()), _ColorAndOpacity(FSlateColor(FLinearColor(1.0f, 1.0f, 1.0f, 1.0f))) {}
+	SLATE_BEGIN_ARGS(SImage)
+		: _Image(FCoreStyle::Get().GetDefaultBrush())
+		, _ColorAndOpacity(FSlateColor(FLinearColor(1.0f, 1.0f, 1.0f, 1.0f)))
+	{}
 	SLATE_ATTRIBUTE(const FSlateBrush*, Image)
 	SLATE_ATTRIBUTE(FSlateColor, ColorAndOpacity)
 	SLATE_EVENT(FPointerEventHandler, OnMouseButtonDown)

@@ -28,8 +28,7 @@ public:
 		, _ButtonColorAndOpacity(FSlateColor(FLinearColor(1.0f, 1.0f, 1.0f, 1.0f)))
 		, _ForegroundColor(FSlateColor::UseForeground())
 		, _IsFocusable(true)
-	{
-	}
+	{}
 	SLATE_DEFAULT_SLOT(FArguments, Content)
 	SLATE_STYLE_ARGUMENT(FButtonStyle, ButtonStyle)
 	SLATE_STYLE_ARGUMENT(FTextBlockStyle, TextStyle)

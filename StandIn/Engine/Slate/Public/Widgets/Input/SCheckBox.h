@@ -21,8 +21,7 @@ public:
 		, _HAlign(HAlign_Fill)
 		, _ClickMethod(EButtonClickMethod::DownAndUp)
 		, _IsFocusable(true)
-	{
-	}
+	{}
 	SLATE_DEFAULT_SLOT(FArguments, Content)
 	SLATE_STYLE_ARGUMENT(FCheckBoxStyle, Style)
 	SLATE_ARGUMENT(TOptional<ESlateCheckBoxType::Type>, Type)

@@ -29,8 +29,7 @@ public:
 		, _MenuPlacement(MenuPlacement_BelowAnchor)
 		, _HAlign(HAlign_Fill)
 		, _VAlign(VAlign_Center)
-	{
-	}
+	{}
 	SLATE_STYLE_ARGUMENT(FComboButtonStyle, ComboButtonStyle)
 	SLATE_STYLE_ARGUMENT(FButtonStyle, ButtonStyle)
 	SLATE_NAMED_SLOT(FArguments, ButtonContent)

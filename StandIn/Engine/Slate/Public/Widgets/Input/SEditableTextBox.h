@@ -27,8 +27,7 @@ public:
 		, _ClearKeyboardFocusOnCommit(true)
 		, _MinDesiredWidth(0.0f)
 		, _SelectAllTextOnCommit(false)
-	{
-	}
+	{}
 	SLATE_STYLE_ARGUMENT(FEditableTextBoxStyle, Style)
 	SLATE_ATTRIBUTE(FText, Text)
 	SLATE_ATTRIBUTE(FText, HintText)

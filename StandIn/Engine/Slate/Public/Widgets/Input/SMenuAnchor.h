@@ -12,8 +12,8 @@
 
 DECLARE_DELEGATE_OneParam(FOnIsOpenChanged, bool)
 
-/** A widget that a menu opens beside. */
-class SLATE_API SMenuAnchor : public SPanel
+	/** A widget that a menu opens beside. */
+	class SLATE_API SMenuAnchor : public SPanel
 {
 public:
 	SLATE_BEGIN_ARGS(SMenuAnchor)
@@ -23,8 +23,7 @@ public:
 		, _ShouldDeferPaintingAfterWindowContent(true)
 		, _UseApplicationMenuStack(true)
 		, _IsCollapsedByParent(false)
-	{
-	}
+	{}
 	SLATE_DEFAULT_SLOT(FArguments, Content)
 	SLATE_ARGUMENT(TSharedPtr<SWidget>, MenuContent)
 	SLATE_EVENT(FOnGetContent, OnGetMenuContent)

@@ -18,8 +18,7 @@ public:
 		, _SelectAllTextWhenFocused(true)
 		, _DelayChangeNotificationsWhileTyping(false)
 		, _MinDesiredWidth(0.0f)
-	{
-	}
+	{}
 	SLATE_STYLE_ARGUMENT(FSearchBoxStyle, Style)
 	SLATE_ATTRIBUTE(FText, HintText)
 	SLATE_ATTRIBUTE(FText, InitialText)

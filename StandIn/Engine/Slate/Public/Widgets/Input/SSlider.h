@@ -22,8 +22,7 @@ public:
 		, _Locked(false)
 		, _StepSize(0.01f)
 		, _IsFocusable(true)
-	{
-	}
+	{}
 	SLATE_STYLE_ARGUMENT(FSliderStyle, Style)
 	SLATE_ATTRIBUTE(float, Value)
 	SLATE_ARGUMENT(float, MinValue)

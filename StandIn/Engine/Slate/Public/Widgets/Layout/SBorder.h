@@ -24,8 +24,7 @@ public:
 		, _BorderBackgroundColor(FSlateColor(FLinearColor(1.0f, 1.0f, 1.0f, 1.0f)))
 		, _ForegroundColor(FSlateColor::UseForeground())
 		, _ShowEffectWhenDisabled(true)
-	{
-	}
+	{}
 	SLATE_DEFAULT_SLOT(FArguments, Content)
 	SLATE_ARGUMENT(EHorizontalAlignment, HAlign)
 	SLATE_ARGUMENT(EVerticalAlignment, VAlign)

@@ -22,11 +22,13 @@ public:
 		FBoxSlot(SWidget* InOwner)
 			: TSupportsOneChildMixin<FBoxSlot>(InOwner)
 			, TSupportsContentAlignmentMixin<FBoxSlot>(HAlign_Fill, VAlign_Fill)
-		{
-		}
+		{}
 	};
 
-	SLATE_BEGIN_ARGS(SBox) : _HAlign(HAlign_Fill), _VAlign(VAlign_Fill), _Padding(FMargin(0.0f))
+	SLATE_BEGIN_ARGS(SBox)
+		: _HAlign(HAlign_Fill)
+		, _VAlign(VAlign_Fill)
+		, _Padding(FMargin(0.0f))
 	{
 		_Visibility = EVisibility::SelfHitTestInvisible;
 	}

@@ -18,8 +18,7 @@ public:
 		: _Style(&FCoreStyle::Get().GetWidgetStyle<FScrollBarStyle>("Scrollbar"))
 		, _AlwaysShowScrollbar(false)
 		, _Orientation(Orient_Vertical)
-	{
-	}
+	{}
 	SLATE_STYLE_ARGUMENT(FScrollBarStyle, Style)
 	SLATE_EVENT(FOnUserScrolled, OnUserScrolled)
 	SLATE_ARGUMENT(bool, AlwaysShowScrollbar)

@@ -20,7 +20,10 @@ public:
 	{
 	public:
 		/** Makes a slot. */
-		FSlot() : TSlotBase<FSlot>(), TSupportsContentAlignmentMixin<FSlot>(HAlign_Fill, VAlign_Fill) {}
+		FSlot()
+			: TSlotBase<FSlot>()
+			, TSupportsContentAlignmentMixin<FSlot>(HAlign_Fill, VAlign_Fill)
+		{}
 	};
 
 	SLATE_BEGIN_ARGS(SScrollBox)
@@ -28,8 +31,7 @@ public:
 		, _Orientation(Orient_Vertical)
 		, _ScrollBarAlwaysVisible(false)
 		, _ConsumeMouseWheel(EConsumeMouseWheel::WhenScrollingPossible)
-	{
-	}
+	{}
 	SLATE_SUPPORTS_SLOT(FSlot)
 	SLATE_STYLE_ARGUMENT(FScrollBarStyle, ScrollBarStyle)
 	SLATE_ARGUMENT(TSharedPtr<SScrollBar>, ExternalScrollbar)

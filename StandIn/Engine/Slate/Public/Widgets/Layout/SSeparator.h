@@ -16,8 +16,7 @@ public:
 		, _Orientation(Orient_Horizontal)
 		, _Thickness(3.0f)
 		, _ColorAndOpacity(FSlateColor(FLinearColor(1.0f, 1.0f, 1.0f, 1.0f)))
-	{
-	}
+	{}
 	SLATE_ARGUMENT(const FSlateBrush*, SeparatorImage)
 	SLATE_ARGUMENT(EOrientation, Orientation)
 	SLATE_ARGUMENT(float, Thickness)

@@ -11,7 +11,8 @@
 class SLATE_API SSpacer : public SLeafWidget
 {
 public:
-	SLATE_BEGIN_ARGS(SSpacer) : _Size(FVector2D(0.0f, 0.0f))
+	SLATE_BEGIN_ARGS(SSpacer)
+		: _Size(FVector2D(0.0f, 0.0f))
 	{
 		_Visibility = EVisibility::SelfHitTestInvisible;
 	}

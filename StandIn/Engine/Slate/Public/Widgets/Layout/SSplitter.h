@@ -34,12 +34,16 @@ public:
 
 	DECLARE_DELEGATE_OneParam(FOnSlotResized, float)
 
-	/** A place in the splitter: a share of weight one. */
-	class FSlot : public TSlotBase<FSlot>
+		/** A place in the splitter: a share of weight one. */
+		class FSlot : public TSlotBase<FSlot>
 	{
 	public:
 		/** Makes a slot. */
-		FSlot() : TSlotBase<FSlot>(), SizingRule(FractionOfParent), SizeValue(1.0f) {}
+		FSlot()
+			: TSlotBase<FSlot>()
+			, SizingRule(FractionOfParent)
+			, SizeValue(1.0f)
+		{}
 
 		/** Sets the weight of the share. */
 		FSlot& Value(const TAttribute<float>& InValue)
@@ -78,8 +82,7 @@ public:
 		, _ResizeMode(ESplitterResizeMode::FixedPosition)
 		, _PhysicalSplitterHandleSize(5.0f)
 		, _MinimumSlotHeight(20.0f)
-	{
-	}
+	{}
 	SLATE_SUPPORTS_SLOT(FSlot)
 	SLATE_STYLE_ARGUMENT(FSplitterStyle, Style)
 	SLATE_ARGUMENT(EOrientation, Orientation)

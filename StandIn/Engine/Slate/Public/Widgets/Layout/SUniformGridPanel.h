@@ -21,8 +21,7 @@ public:
 			, TSupportsContentAlignmentMixin<FSlot>(HAlign_Fill, VAlign_Fill)
 			, Column(InColumn)
 			, Row(InRow)
-		{
-		}
+		{}
 
 		/** The cell's column. */
 		int32 Column;
@@ -31,7 +30,10 @@ public:
 		int32 Row;
 	};
 
-	SLATE_BEGIN_ARGS(SUniformGridPanel) : _SlotPadding(FMargin(0.0f)), _MinDesiredSlotWidth(0.0f), _MinDesiredSlotHeight(0.0f)
+	SLATE_BEGIN_ARGS(SUniformGridPanel)
+		: _SlotPadding(FMargin(0.0f))
+		, _MinDesiredSlotWidth(0.0f)
+		, _MinDesiredSlotHeight(0.0f)
 	{
 		_Visibility = EVisibility::SelfHitTestInvisible;
 	}

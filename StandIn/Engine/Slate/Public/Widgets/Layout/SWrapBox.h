@@ -16,10 +16,16 @@ public:
 	{
 	public:
 		/** Makes a slot. */
-		FSlot() : TSlotBase<FSlot>(), TSupportsContentAlignmentMixin<FSlot>(HAlign_Fill, VAlign_Fill) {}
+		FSlot()
+			: TSlotBase<FSlot>()
+			, TSupportsContentAlignmentMixin<FSlot>(HAlign_Fill, VAlign_Fill)
+		{}
 	};
 
-	SLATE_BEGIN_ARGS(SWrapBox) : _PreferredWidth(100.0f), _UseAllottedWidth(false), _InnerSlotPadding(FVector2D(0.0f, 0.0f))
+	SLATE_BEGIN_ARGS(SWrapBox)
+		: _PreferredWidth(100.0f)
+		, _UseAllottedWidth(false)
+		, _InnerSlotPadding(FVector2D(0.0f, 0.0f))
 	{
 		_Visibility = EVisibility::SelfHitTestInvisible;
 	}

@@ -24,8 +24,7 @@ struct FNotificationInfo
 		, ExpireDuration(1.0f)
 		, bFireAndForget(true)
 		, bUseSuccessFailIcons(true)
-	{
-	}
+	{}
 
 	/** What it says. */
 	TAttribute<FText> Text;

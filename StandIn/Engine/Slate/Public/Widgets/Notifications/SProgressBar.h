@@ -17,8 +17,7 @@ public:
 	SLATE_BEGIN_ARGS(SProgressBar)
 		: _Style(&FCoreStyle::Get().GetWidgetStyle<FProgressBarStyle>("ProgressBar"))
 		, _FillColorAndOpacity(FSlateColor(FLinearColor(1.0f, 1.0f, 1.0f, 1.0f)))
-	{
-	}
+	{}
 	SLATE_STYLE_ARGUMENT(FProgressBarStyle, Style)
 	SLATE_ATTRIBUTE(TOptional<float>, Percent)
 	SLATE_ATTRIBUTE(FSlateColor, FillColorAndOpacity)

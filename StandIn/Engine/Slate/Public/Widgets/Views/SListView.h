@@ -54,8 +54,7 @@ public:
 		, RangeSelectionStart(TListTypeTraits<ItemType>::MakeNullPtr())
 		, ItemsSource(nullptr)
 		, bClearSelectionOnClick(true)
-	{
-	}
+	{}
 
 	/** Takes the arguments. */
 	void Construct(const FArguments& InArgs)
@@ -206,8 +205,8 @@ public:
 
 	FReply OnMouseButtonDown(const FGeometry& MyGeometry, const FPointerEvent& MouseEvent) override
 	{
-		if (MouseEvent.GetEffectingButton() == EKeys::LeftMouseButton && bClearSelectionOnClick && SelectionMode.Get() == ESelectionMode::Multi
-			&& SelectedItems.Num() > 0)
+		if (MouseEvent.GetEffectingButton() == EKeys::LeftMouseButton && bClearSelectionOnClick
+			&& SelectionMode.Get() == ESelectionMode::Multi && SelectedItems.Num() > 0)
 		{
 			SelectedItems.Empty();
 			Private_SignalSelectionChanged(ESelectInfo::OnMouseClick);
@@ -296,7 +295,10 @@ public:
 		return OnDoubleClick.IsBound();
 	}
 
-	void Private_OnItemRightClicked(ItemType /*TheItem*/, const FPointerEvent& MouseEvent) override { this->OnRightMouseButtonUp(MouseEvent); }
+	void Private_OnItemRightClicked(ItemType /*TheItem*/, const FPointerEvent& MouseEvent) override
+	{
+		this->OnRightMouseButtonUp(MouseEvent);
+	}
 
 	TSharedRef<SWidget> AsWidget() override { return this->AsShared(); }
 

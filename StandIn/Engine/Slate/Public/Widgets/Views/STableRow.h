@@ -23,8 +23,7 @@ public:
 		, _Padding(FMargin(0.0f))
 		, _ShowSelection(true)
 		, _Content()
-	{
-	}
+	{}
 	SLATE_STYLE_ARGUMENT(FTableRowStyle, Style)
 	SLATE_ATTRIBUTE(FMargin, Padding)
 	SLATE_ARGUMENT(bool, ShowSelection)
@@ -32,7 +31,12 @@ public:
 	SLATE_END_ARGS()
 
 	/** Makes a row. */
-	STableRow() : Style(nullptr), IndexInList(0), bShowSelection(true), bPressed(false) {}
+	STableRow()
+		: Style(nullptr)
+		, IndexInList(0)
+		, bShowSelection(true)
+		, bPressed(false)
+	{}
 
 	/** Takes the arguments and the list that the row is in, which must be a list of the same items. */
 	void Construct(const FArguments& InArgs, const TSharedRef<STableViewBase>& InOwnerTableView)

@@ -13,11 +13,10 @@ class SListPanel;
 // What lists and tile views share: rows are made only while they are in sight. Left out: headers, pinned and animated scrolling,
 // horizontal lists, pools of rows.
 
-DECLARE_DELEGATE_RetVal(TSharedPtr<SWidget>, FOnContextMenuOpening)
-DECLARE_DELEGATE_OneParam(FOnTableViewScrolled, double)
+DECLARE_DELEGATE_RetVal(TSharedPtr<SWidget>, FOnContextMenuOpening) DECLARE_DELEGATE_OneParam(FOnTableViewScrolled, double)
 
-/** What lists and tile views share: rows are made only while they are in sight. */
-class SLATE_API STableViewBase : public SCompoundWidget
+	/** What lists and tile views share: rows are made only while they are in sight. */
+	class SLATE_API STableViewBase : public SCompoundWidget
 {
 public:
 	/** Says that the items changed; rows follow at the next tick. */

@@ -46,7 +46,9 @@ public:
 	SLATE_END_ARGS()
 
 	/** Makes a tile view. */
-	STileView() : SListView<ItemType>(ETableViewMode::Tile) {}
+	STileView()
+		: SListView<ItemType>(ETableViewMode::Tile)
+	{}
 
 	/** Takes the arguments. */
 	void Construct(const FArguments& InArgs)

@@ -1,5 +1,6 @@
 // Copyright The Tintmill authors. All rights reserved.
 
+#include "Support/DeathText.h"
 #include "Support/TestFolder.h"
 #include "Support/Text.h"
 
@@ -7,6 +8,7 @@
 #include "Editor.h"
 #include "Editor/EditorEngine.h"
 #include "Engine/GameViewportClient.h"
+#include "HAL/PlatformProcess.h"
 #include "IAssetTools.h"
 #include "Interfaces/IPluginManager.h"
 #include "Misc/ConfigCacheIni.h"
@@ -17,7 +19,6 @@
 #include "StandIn/PlaySession.h"
 #include "StandIn/Registrations.h"
 #include "Styling/SlateStyleRegistry.h"
-#include "TintmillObject.h"
 #include "ToolMenu.h"
 #include "ToolMenus.h"
 #include "UObject/Class.h"
@@ -151,10 +152,11 @@ TEST_F(ModuleLibraryDeathTest, AMissingRuntimeModuleIsFatalAndNamed)
 	EXPECT_DEATH(
 		{
 			FModuleManager::Get().UnloadModule(TEXT("Tintmill"));
-			StandIn::RemoveBinariesDirectory(IPluginManager::Get().FindPlugin(TEXT("Tintmill"))->GetBaseDir() / TEXT("Binaries/Linux"));
+			StandIn::RemoveBinariesDirectory(IPluginManager::Get().FindPlugin(TEXT("Tintmill"))->GetBaseDir() / TEXT("Binaries")
+				/ FPlatformProcess::GetBinariesSubdirectory());
 			StandIn::BroadcastLevelViewportClientListChanged();
 		},
-		"Assertion failed: Module \\[File:.*\\] \\[Line: [0-9]+\\] \nTintmill\n");
+		"Assertion failed: Module \\[File:.*\\] \\[Line: " DEATH_NUMBER "\\] \nTintmill\n");
 }
 
 TEST_F(ModuleLibrary, SharesTheEditorEngineWithTheProgram)
