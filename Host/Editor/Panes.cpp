@@ -68,6 +68,18 @@ void SetPaneSize(const FIntPoint& Size)
 	}
 }
 
+void RedrawChangedPanes()
+{
+	for (const TSharedPtr<SLevelViewport>& Pane : StandIn::GetPanes())
+	{
+		FViewport& Viewport = GetEditorViewport(*Pane);
+		if (Viewport.WouldDrawSomethingElse())
+		{
+			Viewport.GetClient()->RedrawRequested(&Viewport);
+		}
+	}
+}
+
 FTintmillDisplayConfiguration& GetPaneRecord(SLevelViewport& Pane)
 {
 	FTintmillModule& Tintmill = FModuleManager::LoadModuleChecked<FTintmillModule>(TEXT("Tintmill"));

@@ -24,6 +24,9 @@ TSharedRef<SLevelViewport> GetActivePane();
 /** Gives every pane the same size in pixels, whatever the window's; 0 by 0 lets panes follow their widgets. */
 void SetPaneSize(const FIntPoint& Size);
 
+/** Asks for a new picture of every pane that would look different now, as those that are not drawn all the time have to be asked for. */
+void RedrawChangedPanes();
+
 /** The pane's live display configuration. */
 FTintmillDisplayConfiguration& GetPaneRecord(SLevelViewport& Pane);
 

@@ -62,6 +62,10 @@ int FHostProgram::Run()
 void FHostProgram::TickEditor(double Seconds)
 {
 	StandIn::PollLookFiles();
+	if (Window)
+	{
+		RedrawChangedPanes();
+	}
 	const int Frames = std::max(1, static_cast<int>(std::lround(Seconds / FrameSeconds)));
 	for (int Frame = 0; Frame < Frames; ++Frame)
 	{

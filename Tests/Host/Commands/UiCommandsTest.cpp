@@ -70,6 +70,22 @@ protected:
 		EXPECT_NE(Result.Output.find(Text), std::string::npos) << Result.Output;
 	}
 
+	/** Expects that 300 x 100 pixels of a picture are of no other color than red. */
+	void ExpectRed(const std::string& File, int Left, int Top) const
+	{
+		TintmillHost::FPicture Picture;
+		ASSERT_EQ(TintmillHost::ReadPng(Folder.NativePath("out/" + File), Picture), "");
+		for (int Y = Top; Y < Top + 100; ++Y)
+		{
+			for (int X = Left; X < Left + 300; ++X)
+			{
+				const FColor Pixel = Picture.Pixels[Y * Picture.Width + X];
+				ASSERT_EQ(Pixel.G, 0) << X << ", " << Y;
+				ASSERT_EQ(Pixel.B, 0) << X << ", " << Y;
+			}
+		}
+	}
+
 	FTestFolder Folder;
 };
 
@@ -237,18 +253,14 @@ TEST_F(UiCommands, AShotAtTwiceTheScaleHasFourTimesThePixels)
 TEST_F(UiCommands, AChosenLookChangesThePixelsOfItsPane)
 {
 	ExpectDone(Panel + "click-box Enable Display; hover Select a TML Asset; click Red; close-menus; hover Show; shot red.png");
-	TintmillHost::FPicture Picture;
-	ASSERT_EQ(TintmillHost::ReadPng(Folder.NativePath("out/red.png"), Picture), "");
-	// The middle of pane 1, away from its tool bar.
-	for (int Y = 150; Y < 250; ++Y)
-	{
-		for (int X = 600; X < 900; ++X)
-		{
-			const FColor Pixel = Picture.Pixels[Y * Picture.Width + X];
-			ASSERT_EQ(Pixel.G, 0) << X << ", " << Y;
-			ASSERT_EQ(Pixel.B, 0) << X << ", " << Y;
-		}
-	}
+	ExpectRed("red.png", 600, 150);
+}
+
+TEST_F(UiCommands, AlsoInAPaneThatIsNotDrawnAllTheTime)
+{
+	ExpectDone("click-pane 0; open 0 View; hover Tintmill; click-box Enable Display; hover Select a TML Asset; click Red; close-menus; "
+			   "hover Project; shot red.png");
+	ExpectRed("red.png", 100, 150);
 }
 
 TEST_F(UiCommands, ALookFarDownTheListIsScrolledTo)

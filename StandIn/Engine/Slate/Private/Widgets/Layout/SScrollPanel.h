@@ -5,7 +5,7 @@
 #include "Widgets/Layout/SScrollBox.h"
 #include "Widgets/SPanel.h"
 
-/** The part of a scroll box that holds the children. */
+/** What a scroll box holds its children in. */
 class SScrollPanel : public SPanel
 {
 public:

@@ -4,7 +4,7 @@
 
 #include "Widgets/SPanel.h"
 
-/** The part of a list that holds the rows in sight. */
+/** What a list holds its rows in sight in. */
 class SListPanel : public SPanel
 {
 public:

@@ -133,7 +133,7 @@ float STableViewBase::AddLine(int32 FirstItem, int32 AtPanelIndex)
 
 float STableViewBase::GenerateLines(int32 FirstItem, float FirstLineOffset, float ViewHeight)
 {
-	// FirstLineOffset is the part of the first line that is out of sight.
+	// FirstLineOffset says how much of the first line is out of sight.
 	float Filled = 0.0f;
 	float HiddenPart = 0.0f;
 	const int32 NumItems = GetNumItemsBeingObserved();
