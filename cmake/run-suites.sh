@@ -54,6 +54,10 @@ suite()
         tail -n 15 "$log"
     elif [ "$bad" -ne 0 ]; then
         grep -B 12 '^\[  FAILED  \] .* (.* ms)$' "$log"
+        [ "$status" -eq 1 ] || printf 'The program %s ended early, with status %d.\n' "$name" "$status"
+    elif [ "$ok" -eq 0 ]; then
+        bad=1
+        printf 'The program %s has run no test.\n' "$name"
     fi
     count "$ok" "$bad" "$name"
 }
@@ -70,6 +74,10 @@ check()
 
 selection=("$@")
 mkdir -p "$build_dir/Results"
+if [ ! -s "$build_dir/suites.txt" ]; then
+    printf 'There are no test programs in %s: it was configured without GoogleTest. Run ./test, which installs it.\n' "$build_dir"
+    exit 2
+fi
 
 while read -r name; do
     wanted "$name" && suite "$name"

@@ -292,3 +292,15 @@ TEST(TArrayDeathTest, RemovingOutsideIsFatal)
 	EXPECT_DEATH(Array.RemoveAt(2), "Assertion failed");
 	EXPECT_DEATH(Array.RemoveAt(1, 2), "Assertion failed");
 }
+
+TEST(TArray, AReferenceToWhatWasAddedPointsIntoTheArrayAlsoWhenItGrew)
+{
+	TArray<int32> Array;
+	for (int32 Count = 0; Count < 100; ++Count)
+	{
+		ASSERT_EQ(&Array.AddDefaulted_GetRef(), &Array.Last());
+		ASSERT_EQ(&Array.AddZeroed_GetRef(), &Array.Last());
+		ASSERT_EQ(&Array.Emplace_GetRef(Count), &Array.Last());
+		ASSERT_EQ(&Array.Add_GetRef(Count), &Array.Last());
+	}
+}

@@ -2,22 +2,21 @@
 #include "Scratch.h"
 
 #include "OutputFile.h"
-#include "TextTools.h"
 #include "Tool.h"
 
 #include <fstream>
-#include <gtest/gtest.h>
+#include <random>
 #include <sstream>
 
 const char* const ThingOpening = "#pragma once\n#include \"Thing.generated.h\"\n";
 
 FScratch::FScratch()
 {
-	const ::testing::TestInfo& Test = *::testing::UnitTest::GetInstance()->current_test_info();
-	Root = std::filesystem::temp_directory_path()
-		/ HeaderTool::ToIdentifier(std::string("HeaderTool_") + Test.test_suite_name() + "_" + Test.name());
-	std::filesystem::remove_all(Root);
-	std::filesystem::create_directories(Root);
+	std::random_device Random;
+	do
+	{
+		Root = std::filesystem::temp_directory_path() / ("HeaderTool_" + std::to_string(Random()));
+	} while (!std::filesystem::create_directory(Root));
 }
 
 FScratch::~FScratch()

@@ -7,8 +7,9 @@
 
 #include <memory>
 
-// The tour of play by the real program, its pictures compared with stored ones and with each other. To store them anew:
-//   tintmill-editor --headless --size 320x180 --tour Host/Tours/play.tour --out Tests/Host/Expected/Play
+// The tour of play by the real program, its pictures compared with stored ones and with each other. Pictures 4 and 5 must be
+// picture 1 exactly and are not stored. To make the others anew, look at them, and then store them:
+//   tintmill-editor --headless --size 320x180 --tour Host/Tours/play.tour --out out
 
 namespace
 {
@@ -59,8 +60,7 @@ TEST_P(PlayTourPicture, IsLikeTheStoredOne)
 }
 
 INSTANTIATE_TEST_SUITE_P(All, PlayTourPicture,
-	testing::Values("1-pane-before.png", "2-game-in-pane.png", "3-pane-and-window.png", "4-same-camera.png", "5-pane-after.png",
-		"6-simulated.png", "7-without-look.png"));
+	testing::Values("1-pane-before.png", "2-game-in-pane.png", "3-pane-and-window.png", "6-simulated.png", "7-without-look.png"));
 
 TEST_F(PlayTour, LeavesThePaneAsItWas)
 {

@@ -474,6 +474,18 @@ TEST_F(FLevelViewportTracking, APaneThatItsMenuTracksIsSavedUnderItsKeyWhenItDep
 	EXPECT_EQ(ReadSettings(), std::vector<std::string>{MakePair(OnePaneKey, true, "0.500000", "")});
 }
 
+TEST_F(FLevelViewportTracking, AMenuOfATrackedPaneDoesNotLookForItInTheEditorsList)
+{
+	WriteSettings({MakePair(OnePaneKey, true, "0.500000", "Teal")});
+	StartEditor(OnePane);
+	FLevelEditorViewportClient& Client = GetPane(0)->GetLevelViewportClient();
+	TakeListEvent();
+	GEditor->RemoveLevelViewportClients(&Client);
+	OpenMenuOfTheActivePane();
+	GEditor->AddLevelViewportClients(&Client);
+	EXPECT_EQ(LookName(FindRecord(0)), "Teal");
+}
+
 TEST_F(FLevelViewportTracking, AMenuThatTracksItsPaneSavesAndLogsNothing)
 {
 	StartEditor(OnePane);

@@ -18,6 +18,8 @@
 
 #include <gtest/gtest.h>
 
+#include <fstream>
+
 // The icons of look assets: the style set's brushes, the files behind them, and how long it is registered.
 
 namespace
@@ -168,6 +170,12 @@ TEST_F(FTintmillEditorStyleSet, TheEditorFindsTheIconOfALook)
 	const FSlateIcon Icon = FSlateIconFinder::FindIconForClass(UTintmillObject::StaticClass());
 	EXPECT_EQ(Icon.GetStyleSetName(), StyleName);
 	EXPECT_EQ(Icon.GetStyleName(), IconName);
+}
+
+TEST_F(FTintmillEditorStyleSet, TheEditorFindsTheIconsBrushOfALook)
+{
+	PreInit();
+	EXPECT_EQ(FSlateIconFinder::FindIconBrushForClass(UTintmillObject::StaticClass()), FindBrush(IconName));
 }
 
 TEST_F(FTintmillEditorStyleSet, TheEditorFindsTheThumbnailOfALook)

@@ -112,14 +112,14 @@ TEST_F(FEditorMapsTest, KeepsTheEditedWorldWhenAMapIsNotThere)
 
 TEST_F(FEditorMapsTest, OpensAMapByItsPackageName)
 {
-	const FTemporaryProject Project("MapByName");
+	const FTemporaryProject Project;
 	Project.Write("Content/Maps/Demo.umap", "");
 	EXPECT_TRUE(FEditorFileUtils::LoadMap(TEXT("/Game/Maps/Demo")));
 }
 
 TEST_F(FEditorMapsTest, OpensAMapByItsFile)
 {
-	const FTemporaryProject Project("MapByFile");
+	const FTemporaryProject Project;
 	Project.Write("Content/Maps/Demo.umap", "");
 	FEditorFileUtils::LoadMap(Project.Path("Content/Maps/Demo.umap"));
 	EXPECT_EQ(ToText(GWorld->GetOutermost()->GetName()), "/Game/Maps/Demo");
@@ -127,7 +127,7 @@ TEST_F(FEditorMapsTest, OpensAMapByItsFile)
 
 TEST_F(FEditorMapsTest, TellsOfAnOpenedMapLastOfAll)
 {
-	const FTemporaryProject Project("MapOpened");
+	const FTemporaryProject Project;
 	Project.Write("Content/Demo.umap", "");
 	FEditorFileUtils::LoadMap(TEXT("/Game/Demo"));
 	EXPECT_EQ(Log.Get(), "TearDown Cleanup PostCleanup PreInit PostInit MapChange Load MapOpened");
@@ -135,7 +135,7 @@ TEST_F(FEditorMapsTest, TellsOfAnOpenedMapLastOfAll)
 
 TEST_F(FEditorMapsTest, MakesAnUntitledMapFromATemplate)
 {
-	const FTemporaryProject Project("MapTemplate");
+	const FTemporaryProject Project;
 	Project.Write("Content/Demo.umap", "");
 	FEditorFileUtils::LoadMap(TEXT("/Game/Demo"), true);
 	EXPECT_EQ(ToText(GWorld->GetName()), "Untitled");

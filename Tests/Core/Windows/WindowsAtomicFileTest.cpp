@@ -5,7 +5,7 @@
 #include "Misc/ConfigCacheIni.h"
 #include "StandIn/Notices.h"
 #include "Support/TestFolder.h"
-#include "Windows/HeldFile.h"
+#include "Core/Windows/HeldFile.h"
 #include "gtest/gtest.h"
 
 // Replacing a file that another program has open, which Windows refuses as long as it is.

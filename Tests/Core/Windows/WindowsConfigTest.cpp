@@ -1,6 +1,6 @@
 // Copyright The Tintmill authors. All rights reserved.
 
-#include "ConfigTestBase.h"
+#include "Core/ConfigTestBase.h"
 
 #include "CoreGlobals.h"
 #include "Misc/Paths.h"

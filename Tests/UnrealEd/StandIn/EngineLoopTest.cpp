@@ -272,7 +272,7 @@ TEST_F(FEngineLoopTest, CountsFrames)
 
 TEST_F(FEngineLoopTest, LoadsPluginModulesInTheirPhases)
 {
-	const FTemporaryProject Project("Phases");
+	const FTemporaryProject Project;
 	Project.Write("Test.uproject", "{ \"FileVersion\": 3, \"Plugins\": [ { \"Name\": \"Tintmill\", \"Enabled\": false } ] }");
 	Project.Write("Plugins/Phased/Phased.uplugin",
 		"{ \"FileVersion\": 3, \"EnabledByDefault\": true, \"Modules\": ["

@@ -606,7 +606,8 @@ public:
 	template <typename... ArgsType>
 	ElementType& Emplace_GetRef(ArgsType&&... Args)
 	{
-		return GetData()[Emplace(Forward<ArgsType>(Args)...)];
+		const SizeType Index = Emplace(Forward<ArgsType>(Args)...);
+		return GetData()[Index];
 	}
 
 	/** Adds at the end; an element of this very array is fatal; yields the index. */
@@ -646,7 +647,11 @@ public:
 	}
 
 	/** Adds zeroed memory as one element; yields it. */
-	ElementType& AddZeroed_GetRef() { return GetData()[AddZeroed(1)]; }
+	ElementType& AddZeroed_GetRef()
+	{
+		const SizeType Index = AddZeroed(1);
+		return GetData()[Index];
+	}
 
 	/** Adds default elements; yields the first new index. */
 	SizeType AddDefaulted(SizeType Count = 1)
@@ -657,7 +662,11 @@ public:
 	}
 
 	/** Adds a default element; yields it. */
-	ElementType& AddDefaulted_GetRef() { return GetData()[AddDefaulted(1)]; }
+	ElementType& AddDefaulted_GetRef()
+	{
+		const SizeType Index = AddDefaulted(1);
+		return GetData()[Index];
+	}
 
 	/** Adds an item unless an equal one is there; yields the index of it. */
 	SizeType AddUnique(ElementType&& Item)

@@ -1,7 +1,7 @@
 // Copyright The Tintmill authors. All rights reserved.
 
 #include "Framework/Application/SlateApplication.h"
-#include "SlateGlobals.h"
+#include "Framework/Notifications/NotificationManager.h"
 #include "Styling/CoreStyle.h"
 
 TSharedPtr<FSlateApplication> FSlateApplication::CurrentApplication;
@@ -63,6 +63,7 @@ void FSlateApplication::Tick(float DeltaTime)
 	LastDeltaTime = DeltaTime;
 	MenuStack.UpdatePlacement();
 	UpdateToolTip(true);
+	FSlateNotificationManager::Get().Tick();
 	DrawWindows();
 
 	// What lies under a resting mouse may have changed.

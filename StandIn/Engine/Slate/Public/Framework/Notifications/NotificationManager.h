@@ -25,7 +25,7 @@ public:
 	/** Returns the notifications that are there. */
 	void GetItems(TArray<TSharedRef<SNotificationItem>>& OutItems) const;
 
-	/** Moves the list to its corner and takes its window away when it is empty; to be called before every tick of the application. */
+	/** Moves the list to its corner and takes its window away when it is empty; the application calls it every tick. */
 	void Tick();
 
 private:
