@@ -7,7 +7,8 @@ set(CMAKE_POSITION_INDEPENDENT_CODE ON)
 set(CMAKE_CXX_VISIBILITY_PRESET hidden)
 set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
 
-set(CMAKE_CXX_FLAGS_DEV "-O1 -g1" CACHE STRING "Flags of the Dev build type")
+# The everyday build compiles fast; what works on every pixel is optimized in it all the same (ue_optimize).
+set(CMAKE_CXX_FLAGS_DEV "")
 set(CMAKE_CXX_FLAGS_RELEASE "-O3")
 
 option(TINTMILL_SANITIZE "Build with the address and undefined-behaviour sanitizers" OFF)
@@ -39,3 +40,9 @@ set(UE_ENGINE_DIR ${CMAKE_BINARY_DIR}/Engine)
 set(UE_BINARIES_DIR ${UE_ENGINE_DIR}/Binaries/${UE_PLATFORM_DIR})
 set(UE_GENERATED_DIR ${UE_ENGINE_DIR}/Intermediate/Inc)
 set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${UE_BINARIES_DIR})
+
+# ue_optimize(SOURCE...): full optimization in every build type, for sources that work on every pixel. Call it in the folder of
+# the target.
+function(ue_optimize)
+    set_source_files_properties(${ARGN} PROPERTIES COMPILE_OPTIONS -O3)
+endfunction()

@@ -121,8 +121,8 @@ void AddPictureCommands(FConsole& Console, FHostProgram& Program)
 			}
 		}
 	});
-	Console.Add("picture PANE|game|both [FILE] [CAPTION...]",
-		"draw a pane, the game, or the active pane beside the game, and save the picture as a PNG in the folder of --out",
+	Console.Add("picture PANE [FILE] [CAPTION...]",
+		"draw a pane, the game, or both (the active pane beside the game), and save the picture as a PNG in the folder of --out",
 		[&Program](const FArguments& Words, std::ostream& Output) {
 			if (Words[0] == "game" || Words[0] == "both")
 			{

@@ -8,7 +8,7 @@
 namespace HeaderTool
 {
 
-/** Writes the parts of a statics struct that describe the properties of one class or struct. */
+/** Writes those members of a statics struct that describe the properties of one class or struct. */
 class FPropertyWriter
 {
 public:

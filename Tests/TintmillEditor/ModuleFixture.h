@@ -74,7 +74,9 @@ protected:
 	StandIn::FEngineLoopOptions Options;
 
 private:
-	void RemoveDeliberateLeftovers() const;
+	void RemoveDeliberateLeftovers();
 
-	const void* LastModule = nullptr;
+	/** Every object of the module that was started and may have left bindings, gone or not. */
+	std::vector<const void*> StartedModules;
+	FDelegateHandle ModulesChangedHandle;
 };

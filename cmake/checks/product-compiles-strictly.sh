@@ -3,6 +3,8 @@
 set -uo pipefail
 build_dir=$1
 work=$build_dir/Results/strict
+# Nothing of an earlier run: a header that has gone would be compiled for ever.
+rm -rf "$work"
 mkdir -p "$work"
 flags=(-std=c++14 -fno-rtti -fno-exceptions -Wall -Wextra -Wshadow -Wundef -Wsuggest-override -Werror -fsyntax-only
     @"$build_dir/product-flags.txt")

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "AssetRegistry/IAssetRegistry.h"
+#include "FolderStamps.h"
 #include "StandIn/AssetFiles.h"
 
 #include <map>
@@ -61,7 +62,7 @@ private:
 
 	/** Scans mount points that came and forgets those that went since the last question. */
 	void FollowMountPoints() const;
-	/** Scans the folder of a path and everything below. */
+	/** Scans the folder of a path and everything below, unless nothing has changed since the last time. */
 	void ScanPath(const FString& Path, const FString& Folder);
 	void PutAsset(const FAssetData& Data);
 	void DropAsset(FName ObjectPath);
@@ -76,6 +77,7 @@ private:
 	std::set<FName, FNameLess> Paths;
 	/** Mount points that have been scanned. */
 	TArray<StandIn::FMountPoint> ScannedMountPoints;
+	FFolderStamps FolderStamps;
 	bool bScanning = false;
 	bool bToldFilesLoaded = false;
 

@@ -74,6 +74,7 @@ bool FAssetRegistryImpl::AddPath(const FString& PathToAdd)
 		return false;
 	}
 	PutPath(PathToAdd);
+	FolderStamps.Forget();
 	return true;
 }
 
@@ -91,6 +92,7 @@ bool FAssetRegistryImpl::RemovePath(const FString& PathToRemove)
 	{
 		return false;
 	}
+	FolderStamps.Forget();
 	PathRemovedEvent.Broadcast(Path);
 	return true;
 }
@@ -136,6 +138,11 @@ void FAssetRegistryImpl::ReportTrouble(const FString& Folder, const StandIn::FAs
 
 void FAssetRegistryImpl::ScanPath(const FString& Path, const FString& Folder)
 {
+	if (FolderStamps.IsUnchanged(Folder))
+	{
+		return;
+	}
+	const std::filesystem::file_time_type ScanStart = FFolderStamps::Now();
 	TArray<StandIn::FAssetFile> Files;
 	StandIn::FAssetScanReport Report;
 	bScanning = true;
@@ -177,6 +184,10 @@ void FAssetRegistryImpl::ScanPath(const FString& Path, const FString& Folder)
 	}
 	DropPaths(Path, FoundPaths);
 	ReportTrouble(Folder, Report);
+	if (Report.UnreadableFolders.Num() == 0)
+	{
+		FolderStamps.Remember(Folder, Report.Folders, ScanStart);
+	}
 	UE_LOG(LogAssetRegistry, Log, TEXT("Found %d assets in %d folders of %s"), Files.Num(), Report.Folders.Num(), *Folder);
 }
 
@@ -204,6 +215,7 @@ void FAssetRegistryImpl::SearchAllAssets(bool bSynchronousSearch)
 		if (!IsIn(MountPoints, MountPoint))
 		{
 			ScannedMountPoints.RemoveAt(Index);
+			FolderStamps.Forget();
 			const FString Root = AssetPaths::WithoutSlash(MountPoint.RootPath);
 			TArray<FName> Gone;
 			for (const auto& Entry : DiskAssets)
@@ -238,12 +250,15 @@ void FAssetRegistryImpl::SearchAllAssets(bool bSynchronousSearch)
 void FAssetRegistryImpl::ScanPathsSynchronous(const TArray<FString>& InPaths, bool bForceRescan, bool bIgnoreBlackListScanFilters)
 {
 	(void)bIgnoreBlackListScanFilters;
+	const TArray<StandIn::FMountPoint> ScannedBefore = ScannedMountPoints;
 	FollowMountPoints();
 	for (const FString& InPath : InPaths)
 	{
 		const FString Path = AssetPaths::WithoutSlash(InPath);
+		const auto IsRoot = [&Path](const StandIn::FMountPoint& MountPoint) { return AssetPaths::WithoutSlash(MountPoint.RootPath) == Path; };
+		const bool bScannedJustNow = ScannedMountPoints.ContainsByPredicate(IsRoot) && !ScannedBefore.ContainsByPredicate(IsRoot);
 		FString Folder;
-		if (bForceRescan && FPackageName::TryConvertLongPackageNameToFilename(Path + TEXT("/"), Folder))
+		if (bForceRescan && !bScannedJustNow && FPackageName::TryConvertLongPackageNameToFilename(Path + TEXT("/"), Folder))
 		{
 			ScanPath(Path, Folder);
 		}

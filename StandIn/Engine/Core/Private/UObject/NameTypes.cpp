@@ -82,7 +82,7 @@ FName MakeName(FNameTable::FView Text, int32 Number, EFindName FindType)
 	};
 	const FParts Parts = {Table.GetComparisonIndex(DisplayIndex), Number, DisplayIndex};
 	FName Result;
-	static_assert(sizeof(FParts) == sizeof(FName), "The parts must cover the name.");
+	static_assert(sizeof(FParts) == sizeof(FName), "The fields must cover the name.");
 	FMemory::Memcpy(&Result, &Parts, sizeof(FName));
 	return Result;
 }

@@ -9,7 +9,7 @@ namespace StandInPrivate
 {
 namespace
 {
-// The part behind "EFoo::".
+// What stands behind "EFoo::".
 FString GetShortEnumName(const FString& FullName)
 {
 	const int32 Position = FullName.Find(TEXT("::"), ESearchCase::CaseSensitive, ESearchDir::FromEnd);

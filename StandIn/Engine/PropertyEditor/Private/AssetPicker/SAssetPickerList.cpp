@@ -27,15 +27,25 @@ void SAssetPickerList::Construct(const FArguments& InArgs)
 
 void SAssetPickerList::SetItems(TArray<FItem> InItems)
 {
-	Items = MoveTemp(InItems);
-	Items.Sort([](const FItem& A, const FItem& B) {
-		const int32 Order = A.Label.Compare(B.Label, ESearchCase::IgnoreCase);
-		return Order != 0 ? Order < 0 : A.Asset.ObjectPath.ToString() < B.Asset.ObjectPath.ToString();
-	});
-	SearchKeys.Reset();
-	for (const FItem& Item : Items)
+	// Places are sorted, not items: thousands of these take a frame to move about.
+	TArray<FString> Keys;
+	TArray<int32> Order;
+	Keys.Reserve(InItems.Num());
+	Order.Reserve(InItems.Num());
+	for (const FItem& Item : InItems)
 	{
-		SearchKeys.Add(Item.Label.ToLower());
+		Order.Add(Keys.Add(Item.Label.ToLower()));
+	}
+	Order.Sort([&InItems, &Keys](const int32 A, const int32 B) {
+		const int32 Result = Keys[A].Compare(Keys[B], ESearchCase::CaseSensitive);
+		return Result != 0 ? Result < 0 : InItems[A].Asset.ObjectPath.ToString() < InItems[B].Asset.ObjectPath.ToString();
+	});
+	Items.Reset(Order.Num());
+	SearchKeys.Reset(Order.Num());
+	for (const int32 Place : Order)
+	{
+		Items.Add(MoveTemp(InItems[Place]));
+		SearchKeys.Add(MoveTemp(Keys[Place]));
 	}
 	Refilter();
 }
