@@ -2,6 +2,7 @@
 
 #include "StandIn/EngineLoop.h"
 
+#include "AssetRegistry/AssetRegistryModule.h"
 #include "Containers/Ticker.h"
 #include "CoreGlobals.h"
 #include "Editor.h"
@@ -63,7 +64,12 @@ int32 StandIn::FEngineLoop::Init()
 	GEngine = GEditor = GUnrealEd;
 	GEngine->AddToRoot();
 	GEngine->Init(this);
-	FModuleManager::Get().LoadModuleChecked("AssetRegistry");
+	IAssetRegistry& AssetRegistry = FModuleManager::LoadModuleChecked<FAssetRegistryModule>("AssetRegistry").Get();
+	if (!Options.bCommandlet)
+	{
+		// The editor looks for assets when it starts; later questions find the answer ready.
+		AssetRegistry.SearchAllAssets(true);
+	}
 	FModuleManager::Get().LoadModuleChecked("AssetTools");
 	FModuleManager::Get().LoadModuleChecked("LevelEditor");
 
