@@ -48,6 +48,8 @@ suite()
     status=$?
     ok=$(grep -c '^\[       OK \]' "$log")
     bad=$(grep -c '^\[  FAILED  \] .* (.* ms)$' "$log")
+    # A program that ends early has failed, whatever its status says.
+    grep -q '^\[==========\] .* ran\.' "$log" || [ "$status" -ne 0 ] || status=1
     if [ "$status" -ne 0 ] && [ "$bad" -eq 0 ]; then
         bad=1
         printf 'The program %s ended with status %d:\n' "$name" "$status"

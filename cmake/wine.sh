@@ -11,12 +11,13 @@ wine_program()
     return 1
 }
 
-# start_wine BUILD: sets Wine up for the caller's programs and ends its server with the caller.
+# start_wine BUILD: sets Wine up for the caller's programs and ends its server with the caller. A program that crashes ends with a
+# status of its own; Wine's debugger would hide it.
 start_wine()
 {
     wine=$(wine_program wine64) || exit 2
     wine_server=$(wine_program wineserver64) || exit 2
-    export WINEPREFIX WINEDEBUG=-all WINEDLLOVERRIDES='mscoree,mshtml=;winemenubuilder.exe=' WINESERVER=$wine_server
+    export WINEPREFIX WINEDEBUG=-all WINEDLLOVERRIDES='mscoree,mshtml=;winemenubuilder.exe=;winedbg.exe=d' WINESERVER=$wine_server
     WINEPREFIX=$(realpath "$1")/wine
     unset DISPLAY WAYLAND_DISPLAY
     if [ ! -f "$WINEPREFIX/system.reg" ]; then
@@ -27,8 +28,9 @@ start_wine()
     trap '"$wine_server" -k' EXIT
 }
 
-# run_in_wine PROGRAM [ARGUMENT...]: runs it with a time limit; its exit status is the caller's.
+# run_in_wine PROGRAM [ARGUMENT...]: runs it with a time limit, prints all it says with plain line ends, returns its exit status.
 run_in_wine()
 {
-    timeout 600 "$wine" "$@"
+    timeout 600 "$wine" "$@" 2>&1 | tr -d '\r'
+    return "${PIPESTATUS[0]}"
 }

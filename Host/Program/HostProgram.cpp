@@ -2,6 +2,7 @@
 
 #include "Host/Program/HostProgram.h"
 
+#include "Host/Commands/AssetCommands.h"
 #include "Host/Commands/EditorCommands.h"
 #include "Host/Commands/ListCommands.h"
 #include "Host/Commands/PictureCommands.h"
@@ -61,7 +62,11 @@ int FHostProgram::Run()
 
 void FHostProgram::TickEditor(double Seconds)
 {
-	StandIn::PollLookFiles();
+	const TArray<UTintmillObject*> ChangedLooks = StandIn::PollLookFiles();
+	if (LookBuilders)
+	{
+		LookBuilders->Regrade(ChangedLooks);
+	}
 	if (Window)
 	{
 		RedrawChangedPanes();
@@ -87,6 +92,7 @@ void FHostProgram::StartEditor()
 	EngineLoop.Init();
 	StartClock.EndPhase("engine object");
 	SceneViews.emplace();
+	LookBuilders.emplace();
 	PlayScene.emplace(*SceneViews);
 	EngineLoop.InitEditor();
 	StartClock.EndPhase("level editor, panes restored");
@@ -116,6 +122,7 @@ void FHostProgram::RegisterCommands()
 {
 	Console.Add("times", "show how long the start took, phase by phase",
 		[this](const FArguments&, std::ostream& Output) { StartClock.Print(Output); });
+	AddAssetCommands(Console, *this);
 	AddEditorCommands(Console, *this);
 	AddListCommands(Console);
 	AddPictureCommands(Console, *this);
@@ -172,6 +179,7 @@ bool FHostProgram::WriteGallery()
 
 void FHostProgram::ExitEditor()
 {
+	LookBuilders.reset();
 	Window.reset();
 	EngineLoop.CloseMainFrame();
 	PlayScene.reset();

@@ -6,6 +6,7 @@
 #include "Host/Editor/PlayScene.h"
 #include "Host/Editor/SceneViews.h"
 #include "Host/Gallery/GalleryPage.h"
+#include "Host/LookBuilder/LookBuilderWindows.h"
 #include "Host/Program/HostLog.h"
 #include "Host/Program/HostOptions.h"
 #include "Host/Program/PhaseClock.h"
@@ -42,6 +43,9 @@ public:
 	/** The person in front of the window. */
 	FPerson& GetPerson() { return Person; }
 
+	/** The windows of the look builder. */
+	FLookBuilderWindows& GetLookBuilders() { return *LookBuilders; }
+
 	/** What each viewport sees of the scene. */
 	FSceneViews& GetSceneViews() { return *SceneViews; }
 
@@ -75,6 +79,7 @@ private:
 	std::optional<FSceneViews> SceneViews;
 	std::optional<FPlayScene> PlayScene;
 	std::optional<FEditorWindow> Window;
+	std::optional<FLookBuilderWindows> LookBuilders;
 	FPerson Person;
 };
 }

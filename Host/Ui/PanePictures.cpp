@@ -2,6 +2,8 @@
 
 #include "Host/Ui/PanePictures.h"
 
+#include "Editor.h"
+#include "Editor/EditorEngine.h"
 #include "LevelEditorViewport.h"
 #include "SLevelViewport.h"
 #include "Slate/SceneViewport.h"
@@ -13,16 +15,30 @@ namespace TintmillHost
 {
 namespace
 {
-/** The pane's viewport that is shown as this one; null if none is. */
-TSharedPtr<FSceneViewport> FindViewport(const ISlateViewport& Viewport)
+/** The viewports that are seen: one a pane, and the game's in windows of its own. */
+TArray<TSharedPtr<FSceneViewport>> ListViewports()
 {
+	TArray<TSharedPtr<FSceneViewport>> Viewports;
 	if (!StandIn::IsLevelEditorOpen())
 	{
-		return nullptr;
+		return Viewports;
 	}
 	for (const TSharedPtr<SLevelViewport>& Pane : StandIn::GetPanes())
 	{
-		const TSharedPtr<FSceneViewport> Shown = Pane->GetSharedActiveViewport();
+		Viewports.Add(Pane->GetSharedActiveViewport());
+	}
+	for (const TPair<FName, FSlatePlayInEditorInfo>& Instance : GEditor->SlatePlayInEditorMap)
+	{
+		Viewports.Add(Instance.Value.SlatePlayInEditorWindowViewport);
+	}
+	return Viewports;
+}
+
+/** The viewport that is shown as this one; null if none is. */
+TSharedPtr<FSceneViewport> FindViewport(const ISlateViewport& Viewport)
+{
+	for (const TSharedPtr<FSceneViewport>& Shown : ListViewports())
+	{
 		if (Shown.IsValid() && static_cast<const ISlateViewport*>(Shown.Get()) == &Viewport)
 		{
 			return Shown;

@@ -38,10 +38,7 @@ protected:
 	}
 
 	/** The standing notice's text; empty for none. */
-	static std::string GetNotice()
-	{
-		return StandIn::GetNotices().Num() == 1 ? ToStd(StandIn::GetNotices()[0].Text) : std::string();
-	}
+	static std::string GetNotice() { return StandIn::GetNotices().Num() == 1 ? ToStd(StandIn::GetNotices()[0].Text) : std::string(); }
 
 	FTestFolder Folder;
 	std::string Loaded;
@@ -87,10 +84,12 @@ TEST_F(FNewAssetFileTest, KeepsTheAssetFromBeingMadeWhenItCannotBeWritten)
 
 TEST_F(FNewAssetFileTest, SaysWhyItCannotBeWritten)
 {
-	Tools().CreateAsset(TEXT("Teal"), TEXT("/Game/Missing"), UAssetToolsTestAsset::StaticClass(), MakeFactory(), "Test");
+	StandIn::SetAtomicFileHook([](StandIn::EAtomicFileStep, const TCHAR*) { return false; });
+	Create(TEXT("Teal"), MakeFactory());
+	StandIn::SetAtomicFileHook(nullptr);
 	EXPECT_EQ(GetNotice(),
-		"The asset /Game/Missing/Teal was not made: its file " + ToStd(Folder.Path("Missing/Teal.tale"))
-			+ " cannot be written (No such file or directory). Check that you may write into this folder, then create it again.");
+		"The asset /Game/Looks/Teal was not made: its file " + ToStd(Folder.Path("Looks/Teal.tale"))
+			+ " cannot be written (injected failure). Check that you may write into this folder, then create it again.");
 }
 
 TEST_F(FNewAssetFileTest, IsNotWrittenOverAFileThatNobodyKnewOf)

@@ -298,9 +298,13 @@ TEST(TArray, AReferenceToWhatWasAddedPointsIntoTheArrayAlsoWhenItGrew)
 	TArray<int32> Array;
 	for (int32 Count = 0; Count < 100; ++Count)
 	{
-		ASSERT_EQ(&Array.AddDefaulted_GetRef(), &Array.Last());
-		ASSERT_EQ(&Array.AddZeroed_GetRef(), &Array.Last());
-		ASSERT_EQ(&Array.Emplace_GetRef(Count), &Array.Last());
-		ASSERT_EQ(&Array.Add_GetRef(Count), &Array.Last());
+		for (const int Way : {0, 1, 2, 3})
+		{
+			const int32& Added = Way == 0 ? Array.AddDefaulted_GetRef()
+				: Way == 1                ? Array.AddZeroed_GetRef()
+				: Way == 2                ? Array.Emplace_GetRef(Count)
+										  : Array.Add_GetRef(Count);
+			ASSERT_EQ(&Added, &Array.Last()) << Way;
+		}
 	}
 }

@@ -18,8 +18,8 @@ protected:
 	/** Writes a new look file. */
 	bool Write() { return LookFile::WriteNewLook(GetFile(), Reason); }
 
-	/** A new look file of a name. */
-	FString GetFile(const char* Name = "New.cube") const { return FString(UTF8_TO_TCHAR(Folder.At(Name).string().c_str())); }
+	/** The new look's file. */
+	FString GetFile() const { return FString(UTF8_TO_TCHAR(Folder.At("New.cube").string().c_str())); }
 
 	FString Reason;
 };
@@ -58,8 +58,9 @@ TEST_F(LookFileNew, IsWrittenWholeOrNotAtAll)
 
 TEST_F(LookFileNew, SaysWhyItCouldNotBeWritten)
 {
-	LookFile::WriteNewLook(GetFile("Missing/New.cube"), Reason);
-	EXPECT_EQ(Reason, FString(TEXT("No such file or directory")));
+	StandIn::SetAtomicFileHook([](StandIn::EAtomicFileStep, const TCHAR*) { return false; });
+	Write();
+	EXPECT_EQ(Reason, FString(TEXT("injected failure")));
 }
 
 TEST_F(LookFileNew, StartsEveryNewLookAsset)

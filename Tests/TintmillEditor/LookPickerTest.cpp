@@ -531,8 +531,8 @@ protected:
 	/** Writes a look under a name of any script. */
 	void WriteNamed(const std::u8string& Name) const
 	{
-		std::filesystem::copy_file(Project.NativePath("Content/Looks/Teal.cube"),
-			Project.NativePath("Content/Looks") / std::filesystem::path(Name + u8".cube"));
+		std::filesystem::copy_file(
+			Project.NativePath("Content/Looks/Teal.cube"), Project.NativePath("Content/Looks") / std::filesystem::path(Name + u8".cube"));
 	}
 
 	/** Texts drawn in any window that begin with some characters; each must end inside an area, sideways. */
@@ -643,14 +643,14 @@ TEST_F(FLookPickerNames, TenThousandLooksAreListedAndSearchedWithoutDelay)
 	{
 		const std::string Folder = "Content/Looks/Set" + std::to_string(Index / 1000);
 		std::filesystem::create_directories(Project.NativePath(Folder));
-		std::filesystem::create_hard_link(Project.NativePath("Content/Looks/Teal.cube"),
-			Project.NativePath(Folder + "/Look" + std::to_string(10000 + Index) + ".cube"));
+		std::filesystem::create_hard_link(
+			Project.NativePath("Content/Looks/Teal.cube"), Project.NativePath(Folder + "/Look" + std::to_string(10000 + Index) + ".cube"));
 	}
 	// Nobody works in those folders.
 	for (int32 Set = 0; Set < 10; ++Set)
 	{
-		std::filesystem::last_write_time(
-			Project.NativePath("Content/Looks/Set" + std::to_string(Set)), std::filesystem::file_time_type::clock::now() - std::chrono::hours(1));
+		std::filesystem::last_write_time(Project.NativePath("Content/Looks/Set" + std::to_string(Set)),
+			std::filesystem::file_time_type::clock::now() - std::chrono::hours(1));
 	}
 	for (const char* Folder : {"Content/Looks", "Content"})
 	{

@@ -42,7 +42,10 @@ protected:
 	/** A brush of the registered style; null if it has none of that name. */
 	static const FSlateBrush* FindBrush(FName Name) { return FindStyle()->GetOptionalBrush(Name, nullptr, nullptr); }
 
-	static FString GetIconsDir() { return FPaths::Combine(IPluginManager::Get().FindPlugin(TEXT("Tintmill"))->GetBaseDir(), TEXT("Editor/Icons")); }
+	static FString GetIconsDir()
+	{
+		return FPaths::Combine(IPluginManager::Get().FindPlugin(TEXT("Tintmill"))->GetBaseDir(), TEXT("Editor/Icons"));
+	}
 
 	/** Width and height that a PNG file says it has. */
 	static std::vector<int> ReadPngSize(const FString& FileName)
@@ -50,7 +53,8 @@ protected:
 		std::ifstream File(std::filesystem::path(*FileName), std::ios::binary);
 		unsigned char Head[24] = {};
 		File.read(reinterpret_cast<char*>(Head), sizeof(Head));
-		return {(Head[16] << 24) + (Head[17] << 16) + (Head[18] << 8) + Head[19], (Head[20] << 24) + (Head[21] << 16) + (Head[22] << 8) + Head[23]};
+		return {(Head[16] << 24) + (Head[17] << 16) + (Head[18] << 8) + Head[19],
+			(Head[20] << 24) + (Head[21] << 16) + (Head[22] << 8) + Head[23]};
 	}
 
 	/** Has the plug-in manager find no plug-ins of the engine. */

@@ -58,8 +58,8 @@ TArray<FColor> MakeRandomPixels(int32 Count)
 	TArray<FColor> Pixels;
 	for (int32 Index = 0; Index < Count; ++Index)
 	{
-		Pixels.Add(FColor(static_cast<uint8>(Random()), static_cast<uint8>(Random()), static_cast<uint8>(Random()),
-			static_cast<uint8>(Random())));
+		Pixels.Add(
+			FColor(static_cast<uint8>(Random()), static_cast<uint8>(Random()), static_cast<uint8>(Random()), static_cast<uint8>(Random())));
 	}
 	return Pixels;
 }
@@ -166,8 +166,8 @@ TEST_F(ViewportCapture, ReadsOnce)
 {
 	FPaintedViewport Viewport(FIntPoint(3, 2), MakeSixPixels());
 	int32 Reads = 0;
-	const FDelegateHandle Handle = StandIn::OnPixelsRead().AddLambda(
-		[&Reads](const FRenderTarget&, const FReadSurfaceDataFlags&, const FIntRect&) { ++Reads; });
+	const FDelegateHandle Handle =
+		StandIn::OnPixelsRead().AddLambda([&Reads](const FRenderTarget&, const FReadSurfaceDataFlags&, const FIntRect&) { ++Reads; });
 	Capture(Viewport);
 	StandIn::OnPixelsRead().Remove(Handle);
 	EXPECT_EQ(Reads, 1);

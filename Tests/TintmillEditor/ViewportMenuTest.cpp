@@ -362,8 +362,8 @@ TEST_F(FViewportMenu, TheSubMenuHasOneSection)
 TEST_F(FViewportMenu, TheSubMenusSectionsLabel)
 {
 	ShowEditor(OnePane);
-	EXPECT_EQ(Describe(GenerateSubMenu()->Sections[0].Label.Get()),
-		"TintmillEditorModule, DisplayConfiguration_Label, Display Configuration");
+	EXPECT_EQ(
+		Describe(GenerateSubMenu()->Sections[0].Label.Get()), "TintmillEditorModule, DisplayConfiguration_Label, Display Configuration");
 }
 
 TEST_F(FViewportMenu, TheSubMenusSectionHasNoPlaceOfItsOwn)

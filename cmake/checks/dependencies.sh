@@ -14,7 +14,9 @@ forbid()
 }
 
 forbid 'Source/ must not know the stand-in or the build around it.' '[Ss]tand-?[Ii]n|CMake|[^A-Za-z]Host/' 'Source/'
-forbid 'The stand-in must not include the host.' '#include "Host/' 'StandIn/'
+forbid 'The stand-in must not include the host or the product.' \
+    '#include "(Host/|TintmillEditor|.*AssetTypeActions_Tintmill|.*TintmillObjectFactory|.*STintmillWidget|ViewportCapture)' 'StandIn/'
+forbid 'The stand-in engine must not include the runtime module.' '#include "Tintmill' 'StandIn/Engine'
 forbid 'Only the look pass uses OpenColorIO in the stand-in.' '#include <OpenColorIO' 'StandIn/' ':!StandIn/Tintmill/Private/LookPass'
 forbid 'The stand-in engine needs the standard library alone.' '#include <(cairo|pango|SDL|CLI|gtest)' 'StandIn/Engine'
 exit $status

@@ -255,7 +255,8 @@ void FAssetRegistryImpl::ScanPathsSynchronous(const TArray<FString>& InPaths, bo
 	for (const FString& InPath : InPaths)
 	{
 		const FString Path = AssetPaths::WithoutSlash(InPath);
-		const auto IsRoot = [&Path](const StandIn::FMountPoint& MountPoint) { return AssetPaths::WithoutSlash(MountPoint.RootPath) == Path; };
+		const auto IsRoot = [&Path](
+								const StandIn::FMountPoint& MountPoint) { return AssetPaths::WithoutSlash(MountPoint.RootPath) == Path; };
 		const bool bScannedJustNow = ScannedMountPoints.ContainsByPredicate(IsRoot) && !ScannedBefore.ContainsByPredicate(IsRoot);
 		FString Folder;
 		if (bForceRescan && !bScannedJustNow && FPackageName::TryConvertLongPackageNameToFilename(Path + TEXT("/"), Folder))

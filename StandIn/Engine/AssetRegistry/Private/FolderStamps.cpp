@@ -40,7 +40,8 @@ bool HasLinks(const std::filesystem::path& Folder)
 
 void FFolderStamps::Remember(const FString& Folder, const TArray<FString>& Folders, std::filesystem::file_time_type ScanStart)
 {
-	Scans.erase(std::remove_if(Scans.begin(), Scans.end(), [&Folder](const FScan& Scan) { return Scan.Folder.Equals(Folder); }), Scans.end());
+	Scans.erase(
+		std::remove_if(Scans.begin(), Scans.end(), [&Folder](const FScan& Scan) { return Scan.Folder.Equals(Folder); }), Scans.end());
 	FScan New{Folder, AssetRegistryPrivate::DescribeTypes(), {}};
 	for (const FString& Name : Folders)
 	{

@@ -145,7 +145,8 @@ bool FindAssetFile(const FString& LongPackageName, FAssetFile& OutFile)
 	{
 		StandInPrivate::FFolderContent Content;
 		const bool bIsFile = Index + 1 == Parts.Num();
-		if (!bIsFile && FPaths::DirectoryExists(Folder + Parts[Index]))
+		// Where the system takes any spelling of a name, only the listing knows the one that was given.
+		if (!PLATFORM_WINDOWS && !bIsFile && FPaths::DirectoryExists(Folder + Parts[Index]))
 		{
 			Folder += Parts[Index] + TEXT("/");
 			continue;

@@ -4,7 +4,9 @@
 #include "AssetPicker/SAssetPickerList.h"
 #include "AssetRegistry/AssetRegistryModule.h"
 #include "AssetToolsModule.h"
+#include "StandIn/AssetFiles.h"
 #include "StandIn/FatalHandler.h"
+#include "StandIn/Notices.h"
 #include "Widgets/Input/SSearchBox.h"
 
 namespace AssetPickerActionsPrivate
@@ -14,6 +16,22 @@ FString& Clipboard()
 {
 	static FString Text;
 	return Text;
+}
+
+/** Tells the person when the file of a choice went after it was listed: whoever asks for the asset will get none. */
+void TellIfGone(const FAssetData& Asset)
+{
+	const FString Key = TEXT("AssetPicker.Gone");
+	StandIn::ClearNotice(Key);
+	const FString PackageName = Asset.PackageName.ToString();
+	StandIn::FAssetFile File;
+	if (Asset.IsValid() && !Asset.IsAssetLoaded() && !StandIn::FindAssetFile(PackageName, File))
+	{
+		StandIn::AddNotice(Key,
+			FString::Printf(TEXT("%s was chosen, but its file is gone since the list was made, so nothing is chosen now. Choose another "
+								 "asset or put the file back."),
+				*PackageName));
+	}
 }
 
 FAssetData FindCopiedAsset()
@@ -38,6 +56,7 @@ void SAssetPickerWithMenu::Choose(const FAssetData& Asset)
 	const FOnAssetSelected Set = OnSet;
 	const FSimpleDelegate Close = OnClose;
 	const FAssetData Chosen = Asset;
+	AssetPickerActionsPrivate::TellIfGone(Chosen);
 	Set.ExecuteIfBound(Chosen);
 	Close.ExecuteIfBound();
 }

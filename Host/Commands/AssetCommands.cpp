@@ -1,0 +1,197 @@
+// Copyright The Tintmill authors. All rights reserved.
+
+#include "Host/Commands/AssetCommands.h"
+
+#include "Host/Commands/Words.h"
+#include "Host/Console/Console.h"
+#include "Host/LookBuilder/SLookBuilder.h"
+#include "Host/Painter/WindowPainter.h"
+#include "Host/Program/HostProgram.h"
+#include "Host/Program/Strings.h"
+
+#include "AssetRegistry/AssetRegistryModule.h"
+#include "AssetToolsModule.h"
+#include "Factories/Factory.h"
+#include "Framework/Application/SlateApplication.h"
+#include "IAssetTools.h"
+#include "StandIn/AssetActivation.h"
+#include "StandIn/Notices.h"
+#include "TintmillObject.h"
+
+namespace TintmillHost
+{
+namespace
+{
+/** The look asset of a name. Throws FCommandError, with the looks there are, when there is none. */
+FAssetData FindLook(const std::string& Name)
+{
+	TArray<FAssetData> Looks;
+	IAssetRegistry::GetChecked().GetAssetsByClass(FName(TEXT("TintmillObject")), Looks, true);
+	std::string Names;
+	for (const FAssetData& Look : Looks)
+	{
+		const std::string Known = ToUtf8(Look.AssetName.ToString());
+		if (Known == Name || ToUtf8(Look.PackageName.ToString()) == Name)
+		{
+			return Look;
+		}
+		Names += (Names.empty() ? "" : ", ") + Known;
+	}
+	throw FCommandError("There is no look '" + Name + "'; there are " + (Names.empty() ? "none" : Names) + ".");
+}
+
+TSharedRef<SLookBuilder> ShowBuilder(FHostProgram& Program, const std::string& LookName)
+{
+	const TSharedPtr<SLookBuilder> Builder = Program.GetLookBuilders().Show(LookName);
+	if (!Builder.IsValid())
+	{
+		throw FCommandError("The look builder is not open on '" + LookName + "'; open it with open-look.");
+	}
+	return Builder.ToSharedRef();
+}
+
+/** The factory of looks, as the new-asset menu finds it. */
+StandIn::FNewAssetMenuEntry FindNewLookEntry()
+{
+	for (const StandIn::FNewAssetMenuEntry& Entry : StandIn::ListNewAssetMenu())
+	{
+		if (Entry.Factory->GetSupportedClass() == UTintmillObject::StaticClass())
+		{
+			return Entry;
+		}
+	}
+	throw FCommandError("The new-asset menu has no entry for looks; the plug-in's editor module is not loaded.");
+}
+
+/** NAME [FOLDER] */
+void MakeNewLook(const FArguments& Words, std::ostream& Output)
+{
+	const StandIn::FNewAssetMenuEntry Entry = FindNewLookEntry();
+	Output << "  " << ToUtf8(Entry.Category) << " > " << ToUtf8(Entry.Label) << '\n';
+	StandIn::FPendingNewAsset Pending;
+	if (!StandIn::BeginNewAsset(Entry.Factory, FromUtf8(Words.size() > 1 ? Words[1] : "/Game/Looks"), Pending))
+	{
+		throw FCommandError("The factory canceled the new look.");
+	}
+	if (const UObject* const Look = StandIn::CommitNewAsset(Pending, FromUtf8(Words[0])))
+	{
+		Output << "  " << ToUtf8(Look->GetPathName()) << '\n';
+		return;
+	}
+	const TArray<StandIn::FNotice>& Notices = StandIn::GetNotices();
+	throw FCommandError(
+		Notices.Num() > 0 ? ToUtf8(Notices.Last().Text) : "There is an asset '" + Words[0] + "' already; choose another name.");
+}
+
+/** LOOK FILE [SCALE] [CAPTION...] */
+void TakeBuilderShot(FHostProgram& Program, const FArguments& Words, std::ostream& Output)
+{
+	ShowBuilder(Program, Words[0]);
+	const TSharedRef<SWindow> Window = Program.GetLookBuilders().FindWindow(Words[0]).ToSharedRef();
+	// The window's picture begins where the window does.
+	const FVector2D Place = Window->GetPositionInScreen();
+	const TOptional<FVector2D> Pointer = Window->GetRectInScreen().ContainsPoint(FSlateApplication::Get().GetCursorPos())
+		? TOptional<FVector2D>(FSlateApplication::Get().GetCursorPos() - Place)
+		: TOptional<FVector2D>();
+	Window->MoveWindowTo(FVector2D(0.0f, 0.0f));
+	Program.TickEditor(0.0);
+	FElementPainter Painter(std::make_shared<FTextLayouts>());
+	Painter.SetBrushPictures([&Program](const FSlateBrush& Brush, const FIntPoint& DeviceSize) {
+		return Program.GetLookBuilders().FindPicture(Brush, DeviceSize);
+	});
+	FWindowShot Shot;
+	Shot.Windows.Add(Window);
+	Shot.Size = FIntPoint(static_cast<int32>(Window->GetSizeInScreen().X), static_cast<int32>(Window->GetSizeInScreen().Y));
+	Shot.Scale = Words.size() > 2 ? ParseNumber(Words[2], 0.5, 4.0, "a scale") : 1.0;
+	Shot.Pointer = Pointer;
+	const FPicture Picture = PaintWindows(Painter, Shot);
+	Window->MoveWindowTo(Place);
+	Program.TickEditor(0.0);
+
+	const std::filesystem::path File = Program.GetOutDir() / Words[1];
+	if (const std::string Problem = WritePng(Picture, File); !Problem.empty())
+	{
+		throw FCommandError(Problem);
+	}
+	Output << "  " << File.string() << '\n';
+	std::string Caption;
+	for (size_t Index = 3; Index < Words.size(); ++Index)
+	{
+		Caption += (Index > 3 ? " " : "") + Words[Index];
+	}
+	Program.GetGallery().AddPicture(Caption.empty() ? "The look builder on " + Words[0] : Caption, File);
+}
+
+/** The place of the words X Y, in shares of the picture, on the desktop. */
+FVector2D FindPlace(FHostProgram& Program, const FArguments& Words)
+{
+	const TSharedRef<SLookBuilder> Builder = ShowBuilder(Program, Words[0]);
+	Program.TickEditor(0.0);
+	return Builder->GetPlace(FVector2D(static_cast<float>(ParseNumber(Words[1], 0.0, 1.0, "a share of the width")),
+		static_cast<float>(ParseNumber(Words[2], 0.0, 1.0, "a share of the height"))));
+}
+
+void AddBuilderCommands(FConsole& Console, FHostProgram& Program)
+{
+	Console.Add("builders", "list the looks on which the look builder is open", [&Program](const FArguments&, std::ostream& Output) {
+		for (const std::string& Path : Program.GetLookBuilders().GetPaths())
+		{
+			Output << "  " << Path << ": " << ToUtf8(Program.GetLookBuilders().Show(Path)->GetValues()) << '\n';
+		}
+	});
+	Console.Add("hover-builder LOOK X Y", "point at the look builder's picture, in shares of its area, and read the values there",
+		[&Program](const FArguments& Words, std::ostream& Output) {
+			Program.GetPerson().Hover(FindPlace(Program, Words));
+			Output << "  " << ToUtf8(ShowBuilder(Program, Words[0])->GetValues()) << '\n';
+		});
+	Console.Add("click-builder LOOK X Y", "click into the look builder's picture, which puts its split there",
+		[&Program](const FArguments& Words, std::ostream&) { Program.GetPerson().Click(FindPlace(Program, Words)); });
+	Console.Add("zoom-builder LOOK NOTCHES", "turn the wheel over the middle of the look builder's picture",
+		[&Program](const FArguments& Words, std::ostream&) {
+			Program.GetPerson().Hover(FindPlace(Program, {Words[0], "0.5", "0.5"}));
+			Program.GetPerson().TurnWheel(static_cast<float>(ParseNumber(Words[1], -40.0, 40.0, "a number of notches")));
+		});
+	Console.Add("shot-builder LOOK FILE [SCALE] [CAPTION...]", "save a picture of the look builder's window",
+		[&Program](const FArguments& Words, std::ostream& Output) {
+			Program.GetWindow();
+			TakeBuilderShot(Program, Words, Output);
+		});
+	Console.Add("close-builders", "close all windows of the look builder",
+		[&Program](const FArguments&, std::ostream&) { Program.GetLookBuilders().CloseAll(); });
+}
+}
+
+void AddAssetCommands(FConsole& Console, FHostProgram& Program)
+{
+	Console.Add("open-look LOOK...", "double-click looks in the content browser, all of them at once",
+		[&Program](const FArguments& Words, std::ostream&) {
+			TArray<FAssetData> Looks;
+			for (const std::string& Word : Words)
+			{
+				Looks.Add(FindLook(Word));
+			}
+			Program.GetWindow();
+			StandIn::ActivateAssets(Looks, EAssetTypeActivationMethod::DoubleClicked);
+			Program.TickEditor(0.0);
+		});
+	Console.Add("new-look NAME [FOLDER]",
+		"make a look from the new-asset menu, in /Game/Looks if no folder is given; the builder opens on it",
+		[&Program](const FArguments& Words, std::ostream& Output) {
+			Program.GetWindow();
+			MakeNewLook(Words, Output);
+			Program.TickEditor(0.0);
+		});
+	Console.Add("describe-look LOOK", "print the type and the description that the tool tip of a look shows",
+		[](const FArguments& Words, std::ostream& Output) {
+			const FAssetData Look = FindLook(Words[0]);
+			const TSharedPtr<IAssetTypeActions> Actions =
+				FAssetToolsModule::GetModule().Get().GetAssetTypeActionsForClass(UTintmillObject::StaticClass()).Pin();
+			if (Actions.IsValid())
+			{
+				Output << "  " << ToUtf8(Actions->GetName().ToString()) << ": " << ToUtf8(Actions->GetAssetDescription(Look).ToString())
+					   << '\n';
+			}
+		});
+	AddBuilderCommands(Console, Program);
+}
+}
