@@ -46,6 +46,7 @@ suite()
     local name=$1 log="$build_dir/Results/$1.log" status ok bad
     run_program "$name" --gtest_brief=0 --gtest_output="xml:$build_dir/Results/$name.xml" </dev/null >"$log" 2>&1
     status=$?
+    sed -i 's/\r$//' "$log"
     ok=$(grep -c '^\[       OK \]' "$log")
     bad=$(grep -c '^\[  FAILED  \] .* (.* ms)$' "$log")
     # A program that ends early has failed, whatever its status says.

@@ -28,9 +28,9 @@ start_wine()
     trap '"$wine_server" -k' EXIT
 }
 
-# run_in_wine PROGRAM [ARGUMENT...]: runs it with a time limit, prints all it says with plain line ends, returns its exit status.
+# run_in_wine PROGRAM [ARGUMENT...]: runs it with a time limit; its exit status is the caller's. Not for pipes: what Wine starts in the
+# background keeps them open.
 run_in_wine()
 {
-    timeout 600 "$wine" "$@" 2>&1 | tr -d '\r'
-    return "${PIPESTATUS[0]}"
+    timeout 600 "$wine" "$@"
 }

@@ -2,6 +2,7 @@
 
 #include "Widgets/STintmillWidget.h"
 
+#include "Support/FileTime.h"
 #include "TintmillEditor/ViewMenuFixture.h"
 
 #include "PropertyCustomizationHelpers.h"
@@ -649,12 +650,11 @@ TEST_F(FLookPickerNames, TenThousandLooksAreListedAndSearchedWithoutDelay)
 	// Nobody works in those folders.
 	for (int32 Set = 0; Set < 10; ++Set)
 	{
-		std::filesystem::last_write_time(Project.NativePath("Content/Looks/Set" + std::to_string(Set)),
-			std::filesystem::file_time_type::clock::now() - std::chrono::hours(1));
+		SetChangedHoursAgo(Project.NativePath("Content/Looks/Set" + std::to_string(Set)), 1);
 	}
 	for (const char* Folder : {"Content/Looks", "Content"})
 	{
-		std::filesystem::last_write_time(Project.NativePath(Folder), std::filesystem::file_time_type::clock::now() - std::chrono::hours(1));
+		SetChangedHoursAgo(Project.NativePath(Folder), 1);
 	}
 	OpenPanel();
 	const std::chrono::steady_clock::time_point Start = std::chrono::steady_clock::now();

@@ -517,6 +517,16 @@ TEST_F(FTintmillWidget, AnotherExtensionsEntryShowsInThePanel)
 	EXPECT_EQ(ToStd(User->GetLabels()), "Enable Display|Select a TML Asset|Mine");
 }
 
+TEST_F(FTintmillWidget, ShowsItsMenuAsItIsRegisteredWithoutAssemblingItFirst)
+{
+	Make();
+	bool bAssembled = false;
+	UToolMenus::Get()->ExtendMenu(PanelMenu)->AddDynamicSection(
+		TEXT("Watch"), FNewToolMenuDelegate::CreateLambda([&bAssembled](UToolMenu*) { bAssembled = true; }));
+	Make();
+	EXPECT_FALSE(bAssembled);
+}
+
 // Layout.
 
 TEST_F(FTintmillWidget, HoldsTheMenuInAVerticalAndAHorizontalBox)
@@ -554,6 +564,20 @@ TEST_F(FTintmillWidget, GivesTheMenuNoMoreRoomThanItWishesFor)
 	User->Show(Widget);
 	const TSharedRef<SWidget> Menu = FindWidget(Widget, TEXT("SMultiBoxWidget")).ToSharedRef();
 	EXPECT_EQ(Menu->GetCachedGeometry().GetLocalSize(), Menu->GetDesiredSize());
+}
+
+TEST_F(FTintmillWidget, KeepsTheMenuAtItsWidthInANarrowRoom)
+{
+	const TSharedRef<STintmillWidget> Widget = Make();
+	// clang-format off
+	User->Show(SNew(SBox)
+		.HAlign(HAlign_Left)
+		[
+			SNew(SBox).WidthOverride(40.0f)[Widget]
+		]);
+	// clang-format on
+	const TSharedRef<SWidget> Menu = FindWidget(Widget, TEXT("SMultiBoxWidget")).ToSharedRef();
+	EXPECT_EQ(Menu->GetCachedGeometry().GetLocalSize().X, Menu->GetDesiredSize().X);
 }
 
 // Failure.

@@ -34,6 +34,7 @@ protected:
 	virtual void TearDown() override
 	{
 		StandIn::SetEnginePluginsDir(FString());
+		std::filesystem::remove_all(Project.NativePath("Plugins"));
 		IPluginManager::Get().RefreshPluginsList();
 	}
 

@@ -12,6 +12,7 @@
 #include "Slate/SceneViewport.h"
 #include "StandIn/LevelEditorPanes.h"
 #include "StandIn/ScenePainter.h"
+#include "StandIn/SlateDriver.h"
 #include "TintmillDisplayManager.h"
 #include "TintmillObject.h"
 #include "UObject/UObjectGlobals.h"
@@ -294,7 +295,19 @@ TEST_F(FViewportMenu, TheRowsToolTipShowsAfterAWhile)
 	ShowEditor(OnePane);
 	OpenViewMenu();
 	User->Hover(TEXT("Tintmill"));
-	EXPECT_EQ(ToStd(User->FindRow(TEXT("Tintmill")).ToolTip), "Configure the viewport to use a Tintmill asset.");
+	User->Wait(0.5f);
+	User->Wait(0.5f);
+	EXPECT_TRUE(StandIn::FindTextOnDesktop(TEXT("Configure the viewport to use a Tintmill asset.")).IsValid());
+}
+
+TEST_F(FViewportMenu, TheTogglesToolTipShowsAfterAWhile)
+{
+	ShowEditor(OnePane);
+	OpenPanel();
+	User->Hover(TEXT("Enable Display"));
+	User->Wait(0.5f);
+	User->Wait(0.5f);
+	EXPECT_TRUE(StandIn::FindTextOnDesktop(TEXT("Enable/Disable Tintmill rendering pass.")).IsValid());
 }
 
 TEST_F(FViewportMenu, HoveringOpensThePanel)

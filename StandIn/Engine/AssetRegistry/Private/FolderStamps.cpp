@@ -46,7 +46,9 @@ void FFolderStamps::Remember(const FString& Folder, const TArray<FString>& Folde
 	for (const FString& Name : Folders)
 	{
 		std::error_code Error;
-		FStamp Stamp{std::filesystem::path(*Name), {}};
+		// Windows knows no folder under a name with a slash at its end.
+		const std::filesystem::path Path(*Name);
+		FStamp Stamp{Path.has_filename() ? Path : Path.parent_path(), {}};
 		Stamp.Time = std::filesystem::last_write_time(Stamp.Path, Error);
 		if (Error || Stamp.Time + AssetRegistryPrivate::ClockStep > ScanStart || AssetRegistryPrivate::HasLinks(Stamp.Path))
 		{
