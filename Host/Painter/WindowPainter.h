@@ -18,7 +18,7 @@ struct FWindowShot
 	/** The windows from the lowest to the topmost, painted by Slate already. */
 	TArray<TSharedRef<SWindow>> Windows;
 
-	/** The part of the desktop that is shown, from its upper left corner, in pixels of the desktop. */
+	/** The area of the desktop that is shown, from its upper left corner, in pixels of the desktop. */
 	FIntPoint Size = FIntPoint(0, 0);
 
 	/** Pixels of the picture a pixel of the desktop. */

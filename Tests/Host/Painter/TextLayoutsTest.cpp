@@ -13,7 +13,7 @@ using namespace TintmillHost;
 
 namespace
 {
-/** The part of a picture that has ink in it. */
+/** The area of a picture that has ink in it. */
 struct FInk
 {
 	int Left = 100000;

@@ -141,9 +141,9 @@ struct FMath
 	static int32 CeilToInt(float F) { return (int32)std::ceil(F); }
 	/** Rounds up. */
 	static float CeilToFloat(float F) { return std::ceil(F); }
-	/** The part behind the point, with the sign. */
+	/** What is behind the point, with the sign. */
 	static float Fractional(float Value) { return Value - TruncToFloat(Value); }
-	/** The part above the floor. */
+	/** What is above the floor. */
 	static float Frac(float Value) { return Value - FloorToFloat(Value); }
 	/** Remainder of a division; 0 for a tiny divisor. */
 	static float Fmod(float X, float Y) { return Abs(Y) <= 1.e-8f ? 0.0f : std::fmod(X, Y); }

@@ -79,7 +79,7 @@ struct CORE_API FVector
 	float SizeSquared() const { return X * X + Y * Y + Z * Z; }
 	/** Whether all parts are zero. */
 	bool IsZero() const { return X == 0.0f && Y == 0.0f && Z == 0.0f; }
-	/** Whether the parts are nearly equal. */
+	/** Whether all coordinates are nearly equal. */
 	bool Equals(const FVector& V, float Tolerance = KINDA_SMALL_NUMBER) const
 	{
 		return FMath::Abs(X - V.X) <= Tolerance && FMath::Abs(Y - V.Y) <= Tolerance && FMath::Abs(Z - V.Z) <= Tolerance;

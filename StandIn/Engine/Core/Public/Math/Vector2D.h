@@ -92,11 +92,11 @@ struct CORE_API FVector2D
 	/** Divides part by part. */
 	FVector2D& operator/=(const FVector2D& V) { return *this = *this / V; }
 
-	/** Part 0 or 1. */
+	/** X for 0, Y for 1. */
 	float& operator[](int32 Index) { return Index == 0 ? X : Y; }
-	/** Part 0 or 1. */
+	/** X for 0, Y for 1. */
 	float operator[](int32 Index) const { return Index == 0 ? X : Y; }
-	/** Part 0 or 1. */
+	/** X for 0, Y for 1. */
 	float Component(int32 Index) const { return (*this)[Index]; }
 
 	/** Sets both parts. */
@@ -120,7 +120,7 @@ struct CORE_API FVector2D
 	bool IsNearlyZero(float Tolerance = KINDA_SMALL_NUMBER) const { return FMath::Abs(X) <= Tolerance && FMath::Abs(Y) <= Tolerance; }
 	/** Whether both parts are zero. */
 	bool IsZero() const { return X == 0.0f && Y == 0.0f; }
-	/** Whether the parts are nearly equal. */
+	/** Whether all coordinates are nearly equal. */
 	bool Equals(const FVector2D& V, float Tolerance = KINDA_SMALL_NUMBER) const { return (*this - V).IsNearlyZero(Tolerance); }
 	/** Parts rounded to whole numbers. */
 	FVector2D RoundToVector() const { return FVector2D(FMath::RoundToFloat(X), FMath::RoundToFloat(Y)); }
