@@ -17,7 +17,7 @@ endif()
 
 # The engine's modules that the stand-in has, in dependency order. All of them make one shared library.
 set(UE_ENGINE_MODULES Core CoreUObject Projects InputCore RHI SlateCore Slate AssetRegistry Engine ToolMenus AssetTools
-    PropertyEditor UnrealEd LevelEditor)
+    PropertyEditor UnrealEd LevelEditor Launch)
 
 # ue_reflected_headers(OUT DIR): the headers below DIR that take part in reflection.
 function(ue_reflected_headers out dir)

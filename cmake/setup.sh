@@ -3,12 +3,12 @@
 # What the build and its programs need beyond a bare Debian 12.
 PACKAGES=(
     build-essential cmake ninja-build pkg-config ccache
-    libopencolorio-dev libcairo2-dev libpango1.0-dev libcli11-dev fonts-roboto-unhinted
+    libopencolorio-dev libcairo2-dev libpango1.0-dev libsdl2-dev libcli11-dev fonts-roboto-unhinted
 )
 
 # What the tests need on top.
 TEST_PACKAGES=(
-    libgtest-dev libgmock-dev librapidcheck-dev libbenchmark-dev clang clang-format binutils
+    libgtest-dev libgmock-dev librapidcheck-dev libbenchmark-dev clang clang-format binutils xvfb xdotool
 )
 
 # What ./test --windows needs on top of both: the cross-compiler, Wine, and the tests' library as source.

@@ -5,14 +5,13 @@
 #include "Host/Commands/Words.h"
 #include "Host/Console/Console.h"
 #include "Host/LookBuilder/SLookBuilder.h"
-#include "Host/Painter/WindowPainter.h"
+#include "Host/Picture/PngFile.h"
 #include "Host/Program/HostProgram.h"
 #include "Host/Program/Strings.h"
 
 #include "AssetRegistry/AssetRegistryModule.h"
 #include "AssetToolsModule.h"
 #include "Factories/Factory.h"
-#include "Framework/Application/SlateApplication.h"
 #include "IAssetTools.h"
 #include "StandIn/AssetActivation.h"
 #include "StandIn/Notices.h"
@@ -88,25 +87,9 @@ void TakeBuilderShot(FHostProgram& Program, const FArguments& Words, std::ostrea
 {
 	ShowBuilder(Program, Words[0]);
 	const TSharedRef<SWindow> Window = Program.GetLookBuilders().FindWindow(Words[0]).ToSharedRef();
-	// The window's picture begins where the window does.
-	const FVector2D Place = Window->GetPositionInScreen();
-	const TOptional<FVector2D> Pointer = Window->GetRectInScreen().ContainsPoint(FSlateApplication::Get().GetCursorPos())
-		? TOptional<FVector2D>(FSlateApplication::Get().GetCursorPos() - Place)
-		: TOptional<FVector2D>();
-	Window->MoveWindowTo(FVector2D(0.0f, 0.0f));
+	const double Scale = Words.size() > 2 ? ParseNumber(Words[2], 0.5, 4.0, "a scale") : 1.0;
 	Program.TickEditor(0.0);
-	FElementPainter Painter(std::make_shared<FTextLayouts>());
-	Painter.SetBrushPictures([&Program](const FSlateBrush& Brush, const FIntPoint& DeviceSize) {
-		return Program.GetLookBuilders().FindPicture(Brush, DeviceSize);
-	});
-	FWindowShot Shot;
-	Shot.Windows.Add(Window);
-	Shot.Size = FIntPoint(static_cast<int32>(Window->GetSizeInScreen().X), static_cast<int32>(Window->GetSizeInScreen().Y));
-	Shot.Scale = Words.size() > 2 ? ParseNumber(Words[2], 0.5, 4.0, "a scale") : 1.0;
-	Shot.Pointer = Pointer;
-	const FPicture Picture = PaintWindows(Painter, Shot);
-	Window->MoveWindowTo(Place);
-	Program.TickEditor(0.0);
+	const FPicture Picture = Program.GetWindow().TakePictureOf(Window, Scale);
 
 	const std::filesystem::path File = Program.GetOutDir() / Words[1];
 	if (const std::string Problem = WritePng(Picture, File); !Problem.empty())

@@ -6,6 +6,7 @@
 #include "Host/Commands/Words.h"
 #include "Host/Console/Console.h"
 #include "Host/Editor/Panes.h"
+#include "Host/Picture/PngFile.h"
 #include "Host/Program/HostProgram.h"
 #include "Host/Program/Strings.h"
 #include "Host/Ui/KeyNames.h"

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "CoreMinimal.h"
-#include "Host/Picture/PngFile.h"
+#include "Host/Picture/Picture.h"
 #include "Templates/SharedPointer.h"
 
 #include <string>

@@ -3,8 +3,7 @@
 #pragma once
 
 #include "CoreMinimal.h"
-#include "Host/Painter/ElementPainter.h"
-#include "Host/Picture/PngFile.h"
+#include "Host/Picture/Picture.h"
 #include "StandIn/LookBuilder.h"
 #include "Templates/SharedPointer.h"
 

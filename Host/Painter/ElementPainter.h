@@ -5,28 +5,15 @@
 #include "CoreMinimal.h"
 #include "Host/Painter/ImageStore.h"
 #include "Host/Painter/TextLayouts.h"
+#include "Host/Picture/Picture.h"
 #include "Rendering/DrawElements.h"
 
-#include <functional>
 #include <memory>
 
 // Turns what Slate painted into pixels.
 
 namespace TintmillHost
 {
-/** Pixels that somebody else owns: rows packed from the top, opaque. */
-struct FPictureView
-{
-	FIntPoint Size = FIntPoint(0, 0);
-	const FColor* Pixels = nullptr;
-};
-
-/** Gives the picture of a viewport for an area of DeviceSize pixels; one of another size is stretched, no pixels leave it dark. */
-using FViewportPictures = std::function<FPictureView(const ISlateViewport& Viewport, const FIntPoint& DeviceSize)>;
-
-/** Gives the picture of a brush whose image is no file, for an area of DeviceSize pixels; no pixels mean that it is one. */
-using FBrushPictures = std::function<FPictureView(const FSlateBrush& Brush, const FIntPoint& DeviceSize)>;
-
 /** Paints lists of draw elements. */
 class FElementPainter
 {

@@ -77,6 +77,7 @@ FPicture PaintWindows(FElementPainter& Painter, const FWindowShot& Shot)
 	const FCairoSurface Surface(cairo_image_surface_create(CAIRO_FORMAT_RGB24, static_cast<int>(std::lround(Shot.Size.X * Shot.Scale)),
 		static_cast<int>(std::lround(Shot.Size.Y * Shot.Scale))));
 	const FCairoContext Context(cairo_create(Surface.get()));
+	cairo_translate(Context.get(), -std::round(Shot.Origin.X * Shot.Scale), -std::round(Shot.Origin.Y * Shot.Scale));
 	for (const TSharedRef<SWindow>& Window : Shot.Windows)
 	{
 		if (!Window->IsRegularWindow())

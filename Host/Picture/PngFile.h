@@ -2,7 +2,7 @@
 
 #pragma once
 
-#include "CoreMinimal.h"
+#include "Host/Picture/Picture.h"
 
 #include <filesystem>
 #include <string>
@@ -11,14 +11,6 @@
 
 namespace TintmillHost
 {
-/** A picture of Width x Height pixels, rows packed from the top, 8 bits a channel. */
-struct FPicture
-{
-	int32 Width = 0;
-	int32 Height = 0;
-	TArray<FColor> Pixels;
-};
-
 /** Writes the picture as an opaque PNG, folders included; alpha is ignored. Returns an empty string, or one sentence why it could not. */
 std::string WritePng(const FPicture& Picture, const std::filesystem::path& File);
 

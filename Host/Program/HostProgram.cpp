@@ -11,6 +11,7 @@
 #include "Host/Commands/UiCommands.h"
 #include "Host/Console/CommandText.h"
 #include "Host/Editor/Panes.h"
+#include "Host/Window/WindowRun.h"
 
 #include "Misc/OutputDeviceRedirector.h"
 #include "Modules/ModuleManager.h"
@@ -54,7 +55,7 @@ int FHostProgram::Run()
 
 	StartEditor();
 	RegisterCommands();
-	const bool bCommandsDone = RunCommands();
+	const bool bCommandsDone = HasUser() ? RunInWindow(*this) == 0 : RunCommands();
 	const bool bGalleryWritten = WriteGallery();
 	ExitEditor();
 	return bCommandsDone && bGalleryWritten ? 0 : 2;
@@ -110,7 +111,8 @@ FEditorWindow& FHostProgram::GetWindow()
 {
 	if (!Window)
 	{
-		Window.emplace(FIntPoint(Options.WindowWidth, Options.WindowHeight), Project.GetName());
+		Window.emplace(FIntPoint(Options.WindowWidth, Options.WindowHeight), Project.GetName(),
+			[this](const FSlateBrush& Brush, const FIntPoint& DeviceSize) { return LookBuilders->FindPicture(Brush, DeviceSize); });
 		ResizePanes();
 		// The first frame lays the panes out, the second draws them in their size.
 		TickEditor(2.0 * FrameSeconds);
@@ -129,6 +131,21 @@ void FHostProgram::RegisterCommands()
 	AddPlayCommands(Console, *this);
 	AddRecordCommands(Console);
 	AddUiCommands(Console, *this);
+}
+
+bool FHostProgram::HasUser() const
+{
+	if (Options.bHeadless || Options.bList || Options.Exec || !Options.Tour.empty())
+	{
+		return false;
+	}
+	std::string Why;
+	const bool bDisplay = FindDisplay(Why);
+	if (!bDisplay)
+	{
+		std::cerr << Why << " Running without a window.\n";
+	}
+	return bDisplay;
 }
 
 bool FHostProgram::RunCommands()

@@ -64,6 +64,7 @@ public:
 private:
 	void StartEditor();
 	void RegisterCommands();
+	bool HasUser() const;
 	bool RunCommands();
 	bool WriteGallery();
 	void ExitEditor();

@@ -2,7 +2,6 @@
 
 #include "Host/Ui/EditorWindow.h"
 
-#include "Host/Painter/WindowPainter.h"
 #include "Host/Program/Strings.h"
 #include "Host/Ui/SEditorFrame.h"
 
@@ -13,15 +12,19 @@
 
 namespace TintmillHost
 {
-FEditorWindow::FEditorWindow(const FIntPoint& InSize, const std::string& ProjectName)
-	: Layouts(std::make_shared<FTextLayouts>())
-	, Measuring(Layouts)
-	, Painter(Layouts)
+FEditorWindow::FEditorWindow(const FIntPoint& InSize, const std::string& ProjectName, FBrushPictures MoreBrushPictures)
+	: Painter(MakeDesktopPainter())
 	, Size(InSize)
 {
-	Painter.SetViewportPictures(
-		[this](const ISlateViewport& Viewport, const FIntPoint& DeviceSize) { return PanePictures.Find(Viewport, DeviceSize); });
-	Painter.SetBrushPictures([this](const FSlateBrush& Brush, const FIntPoint&) { return Thumbnails.Find(Brush); });
+	if (Painter)
+	{
+		Painter->SetPictures(
+			[this](const ISlateViewport& Viewport, const FIntPoint& DeviceSize) { return PanePictures.Find(Viewport, DeviceSize); },
+			[this, MoreBrushPictures](const FSlateBrush& Brush, const FIntPoint& DeviceSize) {
+				const FPictureView Thumbnail = Thumbnails.Find(Brush);
+				return Thumbnail.Pixels ? Thumbnail : MoreBrushPictures(Brush, DeviceSize);
+			});
+	}
 	const TSharedPtr<ILevelEditor> LevelEditor =
 		FModuleManager::GetModuleChecked<FLevelEditorModule>(TEXT("LevelEditor")).GetFirstLevelEditor();
 	// clang-format off
@@ -54,13 +57,26 @@ void FEditorWindow::Resize(const FIntPoint& NewSize)
 
 FPicture FEditorWindow::TakePicture(double Scale)
 {
-	FSlateApplication& Application = FSlateApplication::Get();
 	FWindowShot Shot;
-	Application.GetAllVisibleWindowsOrdered(Shot.Windows);
+	FSlateApplication::Get().GetAllVisibleWindowsOrdered(Shot.Windows);
 	Shot.Size = Size;
+	return Take(Shot, Scale);
+}
+
+FPicture FEditorWindow::TakePictureOf(const TSharedRef<SWindow>& Shown, double Scale)
+{
+	FWindowShot Shot;
+	Shot.Windows.Add(Shown);
+	Shot.Origin = Shown->GetPositionInScreen().IntPoint();
+	Shot.Size = Shown->GetSizeInScreen().IntPoint();
+	return Take(Shot, Scale);
+}
+
+FPicture FEditorWindow::Take(FWindowShot& Shot, double Scale)
+{
 	Shot.Scale = Scale;
-	Shot.Pointer = Application.GetCursorPos();
-	FPicture Picture = PaintWindows(Painter, Shot);
+	Shot.Pointer = FSlateApplication::Get().GetCursorPos();
+	FPicture Picture = Painter ? Painter->Paint(Shot) : FPicture();
 	PanePictures.Forget();
 	return Picture;
 }

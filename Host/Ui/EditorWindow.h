@@ -3,10 +3,7 @@
 #pragma once
 
 #include "CoreMinimal.h"
-#include "Host/Painter/ElementPainter.h"
-#include "Host/Painter/PangoFontMeasurer.h"
-#include "Host/Painter/TextLayouts.h"
-#include "Host/Picture/PngFile.h"
+#include "Host/Picture/IDesktopPainter.h"
 #include "Host/Ui/LookThumbnails.h"
 #include "Host/Ui/PanePictures.h"
 
@@ -23,8 +20,8 @@ namespace TintmillHost
 class FEditorWindow
 {
 public:
-	/** Opens the window in a size in pixels; the level editor must be open. */
-	FEditorWindow(const FIntPoint& Size, const std::string& ProjectName);
+	/** Opens the window in a size in pixels; the level editor must be open. MoreBrushPictures knows brushes that are no thumbnails. */
+	FEditorWindow(const FIntPoint& Size, const std::string& ProjectName, FBrushPictures MoreBrushPictures);
 
 	/** Closes the window with its menus; the level editor stays open. */
 	~FEditorWindow();
@@ -35,13 +32,17 @@ public:
 	/** Gives the window another size in pixels; the panes follow at the next frames. */
 	void Resize(const FIntPoint& NewSize);
 
-	/** A picture of what Slate painted last, mouse included, with Scale pixels a pixel of the window. */
+	/** A picture of what Slate painted last, mouse included, with Scale pixels a pixel of the window; empty without a painter. */
 	FPicture TakePicture(double Scale);
 
+	/** The same of one window alone, such as a look builder's. */
+	FPicture TakePictureOf(const TSharedRef<SWindow>& Shown, double Scale);
+
 private:
-	std::shared_ptr<FTextLayouts> Layouts;
-	FPangoMeasuring Measuring;
-	FElementPainter Painter;
+	FPicture Take(FWindowShot& Shot, double Scale);
+
+	/** Null where the program was built without one. */
+	std::unique_ptr<IDesktopPainter> Painter;
 	FPanePictures PanePictures;
 	FLookThumbnails Thumbnails;
 	FIntPoint Size;

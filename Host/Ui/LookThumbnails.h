@@ -5,8 +5,7 @@
 #include "AssetRegistry/AssetData.h"
 #include "CoreMinimal.h"
 #include "Delegates/IDelegateInstance.h"
-#include "Host/Painter/ElementPainter.h"
-#include "Host/Picture/PngFile.h"
+#include "Host/Picture/Picture.h"
 #include "Styling/SlateBrush.h"
 
 #include <map>

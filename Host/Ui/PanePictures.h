@@ -2,8 +2,7 @@
 
 #pragma once
 
-#include "Host/Painter/ElementPainter.h"
-#include "Host/Picture/PngFile.h"
+#include "Host/Picture/Picture.h"
 
 #include <map>
 

@@ -34,7 +34,7 @@ struct FEngineLoopOptions
 };
 
 /** The editor's start, frames and exit. */
-class UNREALED_API FEngineLoop : public IEngineLoop
+class LAUNCH_API FEngineLoop : public IEngineLoop
 {
 public:
 	FEngineLoop();
