@@ -117,7 +117,7 @@ private:
 		Loop.InitEditor();
 		const TSharedPtr<ILevelEditor> LevelEditor =
 			FModuleManager::GetModuleChecked<FLevelEditorModule>(TEXT("LevelEditor")).GetFirstLevelEditor();
-		Window = SNew(SWindow).AutoCenter(EAutoCenter::None).ClientSize(FVector2D(1200.0f, 900.0f))[LevelEditor.ToSharedRef()];
+		Window = SNew(SWindow).CreateTitleBar(false).AutoCenter(EAutoCenter::None).ClientSize(FVector2D(1200.0f, 900.0f))[LevelEditor.ToSharedRef()];
 		FSlateApplication::Get().AddWindow(Window.ToSharedRef());
 		StandIn::AdvanceTime(0.1f);
 	}

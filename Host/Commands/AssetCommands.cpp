@@ -116,38 +116,41 @@ FVector2D FindPlace(FHostProgram& Program, const FArguments& Words)
 
 void AddBuilderCommands(FConsole& Console, FHostProgram& Program)
 {
-	Console.Add("builders", "list the looks on which the look builder is open", [&Program](const FArguments&, std::ostream& Output) {
-		for (const std::string& Path : Program.GetLookBuilders().GetPaths())
-		{
-			Output << "  " << Path << ": " << ToUtf8(Program.GetLookBuilders().Show(Path)->GetValues()) << '\n';
-		}
-	});
+	Console.Add(
+		"builders", "list the looks on which the look builder is open", {"builders"}, [&Program](const FArguments&, std::ostream& Output) {
+			for (const std::string& Path : Program.GetLookBuilders().GetPaths())
+			{
+				Output << "  " << Path << ": " << ToUtf8(Program.GetLookBuilders().Show(Path)->GetValues()) << '\n';
+			}
+		});
 	Console.Add("hover-builder LOOK X Y", "point at the look builder's picture, in shares of its area, and read the values there",
-		[&Program](const FArguments& Words, std::ostream& Output) {
+		{"hover-builder TealOrange 0.5 0.5"}, [&Program](const FArguments& Words, std::ostream& Output) {
 			Program.GetPerson().Hover(FindPlace(Program, Words));
 			Output << "  " << ToUtf8(ShowBuilder(Program, Words[0])->GetValues()) << '\n';
 		});
 	Console.Add("click-builder LOOK X Y", "click into the look builder's picture, which puts its split there",
+		{"click-builder TealOrange 0.25 0.5"},
 		[&Program](const FArguments& Words, std::ostream&) { Program.GetPerson().Click(FindPlace(Program, Words)); });
-	Console.Add("zoom-builder LOOK NOTCHES", "turn the wheel over the middle of the look builder's picture",
+	Console.Add("zoom-builder LOOK NOTCHES", "turn the wheel over the middle of the look builder's picture", {"zoom-builder TealOrange 8"},
 		[&Program](const FArguments& Words, std::ostream&) {
 			Program.GetPerson().Hover(FindPlace(Program, {Words[0], "0.5", "0.5"}));
 			Program.GetPerson().TurnWheel(static_cast<float>(ParseNumber(Words[1], -40.0, 40.0, "a number of notches")));
 		});
 	Console.Add("shot-builder LOOK FILE [SCALE] [CAPTION...]", "save a picture of the look builder's window",
-		[&Program](const FArguments& Words, std::ostream& Output) {
+		{"shot-builder TealOrange builder.png 1 Before and after"}, [&Program](const FArguments& Words, std::ostream& Output) {
 			Program.GetWindow();
 			TakeBuilderShot(Program, Words, Output);
 		});
-	Console.Add("close-builders", "close all windows of the look builder",
+	Console.Add("close-builders", "close all windows of the look builder", {"close-builders"},
 		[&Program](const FArguments&, std::ostream&) { Program.GetLookBuilders().CloseAll(); });
 }
 }
 
 void AddAssetCommands(FConsole& Console, FHostProgram& Program)
 {
+	const FConsole::FGroup Group(Console, "Look assets and the look builder");
 	Console.Add("open-look LOOK...", "double-click looks in the content browser, all of them at once",
-		[&Program](const FArguments& Words, std::ostream&) {
+		{"open-look TealOrange", "open-look TealOrange Monochrome"}, [&Program](const FArguments& Words, std::ostream&) {
 			TArray<FAssetData> Looks;
 			for (const std::string& Word : Words)
 			{
@@ -159,12 +162,12 @@ void AddAssetCommands(FConsole& Console, FHostProgram& Program)
 		});
 	Console.Add("new-look NAME [FOLDER]",
 		"make a look from the new-asset menu, in /Game/Looks if no folder is given; the builder opens on it",
-		[&Program](const FArguments& Words, std::ostream& Output) {
+		{"new-look Fresh", "new-look Fresh /Game/Looks/Mine"}, [&Program](const FArguments& Words, std::ostream& Output) {
 			Program.GetWindow();
 			MakeNewLook(Words, Output);
 			Program.TickEditor(0.0);
 		});
-	Console.Add("describe-look LOOK", "print the type and the description that the tool tip of a look shows",
+	Console.Add("describe-look LOOK", "print the type and the description that the tool tip of a look shows", {"describe-look TealOrange"},
 		[](const FArguments& Words, std::ostream& Output) {
 			const FAssetData Look = FindLook(Words[0]);
 			const TSharedPtr<IAssetTypeActions> Actions =

@@ -48,14 +48,16 @@ void PrintPanes(std::ostream& Output)
 
 void AddEditorCommands(FConsole& Console, FHostProgram& Program)
 {
+	const FConsole::FGroup Group(Console, "The level editor");
 	Console.Add("layout NAME", "give the viewport tab another layout, such as OnePane or FourPanes2x2",
-		[&Program](const FArguments& Words, std::ostream&) { SetLayout(Words[0], Program); });
-	Console.Add("activate PANE", "make a pane the one that is worked in",
+		{"layout OnePane", "layout FourPanes2x2"}, [&Program](const FArguments& Words, std::ostream&) { SetLayout(Words[0], Program); });
+	Console.Add("activate PANE", "make a pane the one that is worked in", {"activate 1"},
 		[](const FArguments& Words, std::ostream&) { StandIn::ActivatePane(FindPane(Words[0])->GetConfigKey()); });
-	Console.Add("panes", "list the panes with their looks; * marks the active one",
+	Console.Add("panes", "list the panes with their looks; * marks the active one", {"panes"},
 		[](const FArguments&, std::ostream& Output) { PrintPanes(Output); });
-	Console.Add("tick [SECONDS]", "run the editor's frames, one without a time", [&Program](const FArguments& Words, std::ostream&) {
-		Program.TickEditor(Words.empty() ? 0.0 : ParseNumber(Words[0], 0.0, 3600.0, "a time in seconds"));
-	});
+	Console.Add("tick [SECONDS]", "run the editor's frames, one without a time", {"tick", "tick 0.5"},
+		[&Program](const FArguments& Words, std::ostream&) {
+			Program.TickEditor(Words.empty() ? 0.0 : ParseNumber(Words[0], 0.0, 3600.0, "a time in seconds"));
+		});
 }
 }

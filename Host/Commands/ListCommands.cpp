@@ -39,15 +39,16 @@ void PrintRegistrations(const FArguments& Words, std::ostream& Output)
 
 void AddListCommands(FConsole& Console)
 {
-	Console.Add(
-		"registered [MODULE]", "list what is registered with the engine, or what a module's object has registered", &PrintRegistrations);
-	Console.Add("notices", "show what could not be used, and why", [](const FArguments&, std::ostream& Output) {
+	const FConsole::FGroup Group(Console, "What there is");
+	Console.Add("registered [MODULE]", "list what is registered with the engine, or what a module's object has registered",
+		{"registered", "registered TintmillEditor"}, &PrintRegistrations);
+	Console.Add("notices", "show what could not be used, and why", {"notices"}, [](const FArguments&, std::ostream& Output) {
 		for (const StandIn::FNotice& Notice : StandIn::GetNotices())
 		{
 			Output << "Notice: " << ToUtf8(Notice.Text) << '\n';
 		}
 	});
-	Console.Add("settings", "show where the project's user settings are",
+	Console.Add("settings", "show where the project's user settings are", {"settings"},
 		[](const FArguments&, std::ostream& Output) { Output << ToUtf8(FPaths::ConvertRelativePathToFull(GEditorPerProjectIni)) << '\n'; });
 }
 }

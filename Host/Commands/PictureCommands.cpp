@@ -2,7 +2,9 @@
 
 #include "Host/Commands/PictureCommands.h"
 
+#include "Host/Commands/Labels.h"
 #include "Host/Console/Console.h"
+#include "Host/Editor/Looks.h"
 #include "Host/Editor/Panes.h"
 #include "Host/Editor/Play.h"
 #include "Host/Picture/PngFile.h"
@@ -12,6 +14,7 @@
 #include "LevelEditorViewport.h"
 #include "SLevelViewport.h"
 #include "StandIn/LevelEditorPanes.h"
+#include "StandIn/LookFiles.h"
 #include "TintmillDisplayConfiguration.h"
 
 #include <algorithm>
@@ -77,11 +80,7 @@ FPicture PutBeside(const FPicture& Left, const FPicture& Right)
 /** The words from the third on, or what is said without them. */
 std::string CaptionOf(const FArguments& Words, const std::string& Otherwise)
 {
-	std::string Caption;
-	for (size_t Index = 2; Index < Words.size(); ++Index)
-	{
-		Caption += (Index > 2 ? " " : "") + Words[Index];
-	}
+	const std::string Caption = JoinWordsFrom(Words, 2);
 	return Caption.empty() ? Otherwise : Caption;
 }
 
@@ -93,6 +92,33 @@ void SaveGamePicture(const FArguments& Words, FHostProgram& Program, std::ostrea
 	const std::string Name = Words.size() > 1 ? Words[1] : Words[0] + ".png";
 	Program.GetGallery().AddPicture(CaptionOf(Words, Description),
 		Save(Words[0] == "game" ? Game : PutBeside(DrawPane(*GetActivePane()), Game), Program.GetOutDir() / Name, Output));
+}
+
+/** LOOK [PANE] [FILE] [CAPTION...] */
+void CompareLook(const FArguments& Words, FHostProgram& Program, std::ostream& Output)
+{
+	UTintmillObject* const Look = LoadLook(Words[0]);
+	if (!Look)
+	{
+		throw FCommandError("There is no look '" + Words[0] + "' to compare with.");
+	}
+	const TSharedRef<SLevelViewport> Pane = Words.size() > 1 ? FindPane(Words[1]) : GetActivePane();
+	const std::string Name = Words[0].substr(Words[0].rfind('/') + 1);
+	const std::filesystem::path File = Program.GetOutDir() / (Words.size() > 2 ? Words[2] : Name + "-with-look.png");
+
+	FTintmillDisplayConfiguration& Record = GetPaneRecord(*Pane);
+	const FTintmillDisplayConfiguration Before = Record;
+	Record.LookAsset = Look;
+	Record.Intensity = 1.0f;
+	const FPicture Without = DrawPaneWithLook(*Pane, false);
+	const FPicture With = DrawPaneWithLook(*Pane, true);
+	Record = Before;
+
+	const std::filesystem::path WithoutFile = Save(Without, File.parent_path() / (File.stem().string() + "-without-look.png"), Output);
+	const std::string Caption = JoinWordsFrom(Words, 3);
+	const std::string Problem = ToUtf8(StandIn::GetLookProblem(Look));
+	Program.GetGallery().AddComparison(
+		!Caption.empty() ? Caption : Name + (Problem.empty() ? "" : " cannot be used: " + Problem), WithoutFile, Save(With, File, Output));
 }
 
 /** Saves every pane's picture without and with its look, side by side on the page. */
@@ -112,7 +138,8 @@ void SavePictures(FHostProgram& Program, std::ostream& Output)
 
 void AddPictureCommands(FConsole& Console, FHostProgram& Program)
 {
-	Console.Add("draw [PANE]", "draw a pane, or all of them", [](const FArguments& Words, std::ostream&) {
+	const FConsole::FGroup Group(Console, "Pictures");
+	Console.Add("draw [PANE]", "draw a pane, or all of them", {"draw", "draw 1"}, [](const FArguments& Words, std::ostream&) {
 		for (const TSharedPtr<SLevelViewport>& Pane : StandIn::GetPanes())
 		{
 			if (Words.empty() || Pane == FindPane(Words[0]))
@@ -123,7 +150,7 @@ void AddPictureCommands(FConsole& Console, FHostProgram& Program)
 	});
 	Console.Add("picture PANE [FILE] [CAPTION...]",
 		"draw a pane, the game, or both (the active pane beside the game), and save the picture as a PNG in the folder of --out",
-		[&Program](const FArguments& Words, std::ostream& Output) {
+		{"picture 1", "picture game game.png The game"}, [&Program](const FArguments& Words, std::ostream& Output) {
 			if (Words[0] == "game" || Words[0] == "both")
 			{
 				SaveGamePicture(Words, Program, Output);
@@ -136,7 +163,7 @@ void AddPictureCommands(FConsole& Console, FHostProgram& Program)
 				CaptionOf(Words, ToUtf8(Pane->GetConfigKey().ToString()) + ": " + DescribeRecord(GetPaneRecord(*Pane))), File);
 		});
 	Console.Add("compare PANE [FILE]", "save one picture of a pane, its left half without and its right half with the look",
-		[&Program](const FArguments& Words, std::ostream& Output) {
+		{"compare 1 halves.png"}, [&Program](const FArguments& Words, std::ostream& Output) {
 			const TSharedRef<SLevelViewport> Pane = FindPane(Words[0]);
 			const std::string Name = Words.size() > 1 ? Words[1] : MakeFileStem(Pane->GetConfigKey()) + "-halves.png";
 			const FPicture Joined = JoinHalves(DrawPaneWithLook(*Pane, false), DrawPaneWithLook(*Pane, true));
@@ -144,7 +171,11 @@ void AddPictureCommands(FConsole& Console, FHostProgram& Program)
 				ToUtf8(Pane->GetConfigKey().ToString()) + ": without and with " + DescribeRecord(GetPaneRecord(*Pane)),
 				Save(Joined, Program.GetOutDir() / Name, Output));
 		});
-	Console.Add("pictures", "save every pane's picture without and with its look",
+	Console.Add("compare-look LOOK [PANE] [FILE] [CAPTION...]",
+		"save pictures of a pane, the active one if none is named, without any look and with this one at full intensity; the pane keeps its own",
+		{"compare-look TealOrange", "compare-look TealOrange 1 teal.png Teal shadows"},
+		[&Program](const FArguments& Words, std::ostream& Output) { CompareLook(Words, Program, Output); });
+	Console.Add("pictures", "save every pane's picture without and with its look", {"pictures"},
 		[&Program](const FArguments&, std::ostream& Output) { SavePictures(Program, Output); });
 }
 }

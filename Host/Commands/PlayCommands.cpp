@@ -121,16 +121,18 @@ void RunMapCommand(const FArguments& Words, FHostProgram& Program, std::ostream&
 
 void AddPlayCommands(FConsole& Console, FHostProgram& Program)
 {
-	Console.Add("play [pane|window]", "play from the active pane, in it or in a window; play that runs ends first",
+	const FConsole::FGroup Group(Console, "Play and maps");
+	Console.Add("play [pane|window]", "play from the active pane, in it or in a window; play that runs ends first", {"play", "play window"},
 		[&Program](const FArguments& Words, std::ostream& Output) { StartPlay(ParseWay(Words), Program, Output); });
-	Console.Add("simulate", "simulate in the active pane, which keeps its own view",
+	Console.Add("simulate", "simulate in the active pane, which keeps its own view", {"simulate"},
 		[&Program](const FArguments&, std::ostream& Output) { StartPlay(EPlayWay::Simulate, Program, Output); });
-	Console.Add("stop", "end play", [&Program](const FArguments&, std::ostream&) { StopPlay(Program); });
-	Console.Add("playing", "show where play runs and what the game displays",
+	Console.Add("stop", "end play", {"stop"}, [&Program](const FArguments&, std::ostream&) { StopPlay(Program); });
+	Console.Add("playing", "show where play runs and what the game displays", {"playing"},
 		[](const FArguments&, std::ostream& Output) { Output << (IsPlaying() ? DescribeGame() : "Nothing is being played.") << '\n'; });
 	Console.Add("camera PANE|game own|chart|PANE", "let a pane or the game see its own view, a flat chart, or what a pane sees",
+		{"camera 1 chart", "camera game 1", "camera 1 own"},
 		[&Program](const FArguments& Words, std::ostream&) { SetCamera(Words[0], Words[1], Program); });
-	Console.Add("map [new|open] [NAME]", "show the map, make a new one, or open one by its name",
+	Console.Add("map [new|open] [NAME]", "show the map, make a new one, or open one by its name", {"map", "map open Stage"},
 		[&Program](const FArguments& Words, std::ostream& Output) { RunMapCommand(Words, Program, Output); });
 }
 }

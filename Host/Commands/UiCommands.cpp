@@ -2,20 +2,21 @@
 
 #include "Host/Commands/UiCommands.h"
 
+#include "Host/Commands/Labels.h"
 #include "Host/Commands/UiExpectations.h"
+#include "Host/Commands/WindowCommands.h"
 #include "Host/Commands/Words.h"
 #include "Host/Console/Console.h"
 #include "Host/Editor/Panes.h"
-#include "Host/Picture/PngFile.h"
 #include "Host/Program/HostProgram.h"
 #include "Host/Program/Strings.h"
 #include "Host/Ui/KeyNames.h"
-#include "Host/Ui/Sight.h"
 
 #include "Framework/Application/SlateApplication.h"
 #include "LevelEditorViewport.h"
 #include "SLevelViewport.h"
 #include "TintmillDisplayConfiguration.h"
+#include "TintmillObject.h"
 
 #include <algorithm>
 
@@ -26,59 +27,15 @@ namespace
 /** More Escapes than menus can be open, each after one that clears a text. */
 constexpr int MaxEscapes = 32;
 
-constexpr double MaxShotScale = 4.0;
-
 constexpr double MinWindowLength = 160.0;
 constexpr double MaxWindowLength = 8192.0;
 
 /** Time for the panes to take their new size and to be drawn in it. */
 constexpr double SettleSeconds = 3.0 / 60.0;
 
-/** The labels of a path "View > Tintmill". */
-std::vector<std::string> SplitPath(const std::string& Path)
-{
-	std::vector<std::string> Labels;
-	size_t Start = 0;
-	for (size_t Mark = Path.find(" > "); Mark != std::string::npos; Mark = Path.find(" > ", Start))
-	{
-		Labels.push_back(Path.substr(Start, Mark - Start));
-		Start = Mark + 3;
-	}
-	Labels.push_back(Path.substr(Start));
-	return Labels;
-}
-
-/** What a label names; an asset that its list has to be scrolled for is brought into sight. */
-FSeen Find(FPerson& Person, const std::string& Label)
-{
-	FSeen Thing = FindOrComplain(LookAround(), Label);
-	if (Thing.ScrollRows != 0)
-	{
-		Person.Hover(Thing.ListCenter);
-		Person.TurnWheel(static_cast<float>(-Thing.ScrollRows));
-		Thing = FindOrComplain(LookAround(), Label);
-	}
-	return Thing;
-}
-
-/** Rests on all labels of a path but the last, so that their submenus open, and returns what the last one names. */
-FSeen FollowPath(FPerson& Person, const std::string& Path)
-{
-	const std::vector<std::string> Labels = SplitPath(Path);
-	for (size_t Index = 0; Index + 1 < Labels.size(); ++Index)
-	{
-		Person.Hover(Find(Person, Labels[Index]).Center);
-	}
-	return Find(Person, Labels.back());
-}
-
-void CheckEnabled(const FSeen& Thing)
-{
-	if (!Thing.bEnabled)
-	{
-		throw FCommandError("'" + Thing.Label + "' cannot be clicked now: it is grayed out.");
-	}
-}
+/** How long something is waited for: so many times so long. */
+constexpr int MaxWaits = 50;
+constexpr double WaitSeconds = 0.1;
 
 void OpenMenu(FPerson& Person, const std::string& Pane, const std::string& Menu)
 {
@@ -94,16 +51,6 @@ void OpenMenu(FPerson& Person, const std::string& Pane, const std::string& Menu)
 	}
 }
 
-void ClickPane(FPerson& Person, const std::string& Word)
-{
-	const TSharedRef<SLevelViewport> Pane = FindPane(Word);
-	if (!Pane->IsVisible())
-	{
-		throw FCommandError("Pane " + Word + " cannot be clicked: it is not in sight.");
-	}
-	Person.Click(Pane->GetCachedGeometry().GetAbsolutePositionAtCoordinates(FVector2D(0.5f, 0.5f)));
-}
-
 void CloseMenus(FPerson& Person)
 {
 	for (int Escapes = 0; FSlateApplication::Get().AnyMenusVisible() && Escapes < MaxEscapes; ++Escapes)
@@ -116,48 +63,59 @@ void CloseMenus(FPerson& Person)
 	}
 }
 
-/** FILE [SCALE] [CAPTION...] */
-void TakeShot(FHostProgram& Program, FArguments Words, std::ostream& Output)
+/** Chooses a look for a pane in its View menu and switches its display on, as a person does. */
+void ChooseLook(FPerson& Person, const std::string& Word, const std::string& Look)
 {
-	const std::filesystem::path File = Program.GetOutDir() / Words[0];
-	Words.erase(Words.begin());
-	double Scale = 1.0;
-	if (!Words.empty() && Words[0].find_first_not_of("0123456789.") == std::string::npos)
+	const FTintmillDisplayConfiguration& Record = GetPaneRecord(*FindPane(Word));
+	const std::string Row = Record.LookAsset ? ToUtf8(Record.LookAsset->GetName()) : "Select a TML Asset";
+	Person.Click(FindPaneCenter(Word));
+	OpenMenu(Person, Word, "View");
+	Person.Hover(FindOrComplain(LookAround(), "Tintmill").Center);
+	const FSeen Switch = FindOrComplain(LookAround(), "Enable Display");
+	if (!Switch.bChecked)
 	{
-		Scale = ParseNumber(Words[0], 0.5, MaxShotScale, "a scale");
-		Words.erase(Words.begin());
+		Person.Click(Switch.CheckCenter);
 	}
-	Program.TickEditor(0.0);
-	if (const std::string Problem = WritePng(Program.GetWindow().TakePicture(Scale), File); !Problem.empty())
+	if (Row != Look)
 	{
-		throw FCommandError(Problem);
+		const FSeen Choice = FollowPath(Person, Row + " > " + (Look == "none" ? "Clear" : Look));
+		Person.Click(Choice.Center);
 	}
-	Output << "  " << File.string() << '\n';
-	Program.GetGallery().AddPicture(Words.empty() ? File.stem().string() : JoinWords(Words), File);
-}
+	CloseMenus(Person);
 }
 
-void AddUiCommands(FConsole& Console, FHostProgram& Program)
+void WaitFor(FHostProgram& Program, const std::string& What, const std::string& Value)
 {
-	const auto Add = [&Console, &Program](const std::string& Usage, const std::string& Summary, auto Body) {
-		Console.Add(Usage, Summary, [&Program, Body](const FArguments& Words, std::ostream& Output) {
-			Program.GetWindow();
-			Body(Words, Output);
-		});
-	};
-	FPerson& Person = Program.GetPerson();
+	for (int Wait = 0; Wait < MaxWaits; ++Wait)
+	{
+		try
+		{
+			CheckExpectation(What, Value);
+			return;
+		}
+		catch (const FCommandError&)
+		{
+			Program.TickEditor(WaitSeconds);
+		}
+	}
+	CheckExpectation(What, Value);
+}
 
-	Add("open PANE MENU...", "click a button of a pane's tool bar (View is the one that reads Lit)",
-		[&Person](
-			const FArguments& Words, std::ostream&) { OpenMenu(Person, Words[0], JoinWords(FArguments(Words.begin() + 1, Words.end()))); });
-	Add("hover LABEL...", "rest the mouse on something; 'A > B' rests on A first",
+void AddPointingCommands(const FWindowCommands& Commands, FPerson& Person)
+{
+	Commands.Add("open PANE MENU...", "click a button of a pane's tool bar (View is the one that reads Lit)",
+		{"open 1 View", "open 0 Perspective"},
+		[&Person](const FArguments& Words, std::ostream&) { OpenMenu(Person, Words[0], JoinWordsFrom(Words, 1)); });
+	Commands.Add("hover LABEL...", "rest the mouse on something; 'A > B' rests on A first",
+		{"hover Tintmill", "hover Tintmill > Select a TML Asset"},
 		[&Person](const FArguments& Words, std::ostream&) { Person.Hover(FollowPath(Person, JoinWords(Words)).Center); });
-	Add("click LABEL...", "click something; 'A > B' rests on A first", [&Person](const FArguments& Words, std::ostream&) {
-		const FSeen Thing = FollowPath(Person, JoinWords(Words));
-		CheckEnabled(Thing);
-		Person.Click(Thing.Center);
-	});
-	Add("click-box LABEL...", "click the check box of a menu's row, which leaves the menu open",
+	Commands.Add("click LABEL...", "click something; 'A > B' rests on A first", {"click TealOrange", "click Tintmill > Enable Display"},
+		[&Person](const FArguments& Words, std::ostream&) {
+			const FSeen Thing = FollowPath(Person, JoinWords(Words));
+			CheckEnabled(Thing);
+			Person.Click(Thing.Center);
+		});
+	Commands.Add("click-box LABEL...", "click the check box of a menu's row, which leaves the menu open", {"click-box Enable Display"},
 		[&Person](const FArguments& Words, std::ostream&) {
 			const FSeen Thing = FollowPath(Person, JoinWords(Words));
 			CheckEnabled(Thing);
@@ -167,32 +125,59 @@ void AddUiCommands(FConsole& Console, FHostProgram& Program)
 			}
 			Person.Click(Thing.CheckCenter);
 		});
-	Add("click-pane PANE", "click a pane's picture, which makes it the one that is worked in",
-		[&Person](const FArguments& Words, std::ostream&) { ClickPane(Person, Words[0]); });
-	Add("type TEXT...", "type a text where the keyboard's input goes", [&Person](const FArguments& Words, std::ostream&) {
-		if (!Person.Type(FromUtf8(JoinWords(Words))))
-		{
-			throw FCommandError("Nothing takes the text '" + JoinWords(Words) + "': click a text box first.");
-		}
-	});
-	Add("press KEY...", "press keys one after the other, such as Escape, Down or Ctrl+A",
+	Commands.Add("choose-look PANE LOOK",
+		"choose a look in a pane's View menu, or none, and switch the pane's display on: some clicks in one command",
+		{"choose-look 1 TealOrange", "choose-look 1 none"},
+		[&Person](const FArguments& Words, std::ostream&) { ChooseLook(Person, Words[0], Words[1]); });
+	Commands.Add("click-pane PANE", "click a pane's picture, which makes it the one that is worked in", {"click-pane 1"},
+		[&Person](const FArguments& Words, std::ostream&) { Person.Click(FindPaneCenter(Words[0])); });
+}
+
+void AddKeyCommands(const FWindowCommands& Commands, FPerson& Person)
+{
+	Commands.Add(
+		"type TEXT...", "type a text where the keyboard's input goes", {"type warm"}, [&Person](const FArguments& Words, std::ostream&) {
+			if (!Person.Type(FromUtf8(JoinWords(Words))))
+			{
+				throw FCommandError("Nothing takes the text '" + JoinWords(Words) + "': click a text box first.");
+			}
+		});
+	Commands.Add("press KEY...", "press keys one after the other", {"press Escape", "press Down Down Enter", "press Ctrl+A"},
 		[&Person](const FArguments& Words, std::ostream&) {
 			for (const std::string& Word : Words)
 			{
 				Person.Press(ParseKeys(Word));
 			}
 		});
-	Add("close-menus", "press Escape until no menu is open", [&Person](const FArguments&, std::ostream&) { CloseMenus(Person); });
-	Add("window WIDTH HEIGHT", "give the window another size in pixels", [&Program](const FArguments& Words, std::ostream&) {
-		const double Width = ParseNumber(Words[0], MinWindowLength, MaxWindowLength, "a width in pixels");
-		const double Height = ParseNumber(Words[1], MinWindowLength, MaxWindowLength, "a height in pixels");
-		Program.GetWindow().Resize(FIntPoint(static_cast<int32>(Width), static_cast<int32>(Height)));
-		Program.TickEditor(SettleSeconds);
-	});
-	Add("shot FILE [SCALE] [CAPTION...]", "save a picture of the window as a PNG in the folder of --out, at 1 to 4 pixels a pixel",
-		[&Program](const FArguments& Words, std::ostream& Output) { TakeShot(Program, Words, Output); });
-	Add("expect WHAT VALUE...",
+	Commands.Add("close-menus", "press Escape until no menu is open", {"close-menus"},
+		[&Person](const FArguments&, std::ostream&) { CloseMenus(Person); });
+}
+
+void AddWindowCommands(const FWindowCommands& Commands, FHostProgram& Program)
+{
+	Commands.Add("window WIDTH HEIGHT", "give the window another size in pixels", {"window 1680 945"},
+		[&Program](const FArguments& Words, std::ostream&) {
+			const double Width = ParseNumber(Words[0], MinWindowLength, MaxWindowLength, "a width in pixels");
+			const double Height = ParseNumber(Words[1], MinWindowLength, MaxWindowLength, "a height in pixels");
+			Program.GetWindow().Resize(FIntPoint(static_cast<int32>(Width), static_cast<int32>(Height)));
+			Program.TickEditor(SettleSeconds);
+		});
+	Commands.Add("expect WHAT VALUE...",
 		"end the run unless: visible|absent|checked|unchecked|enabled|disabled|focused|tooltip LABEL, active PANE, menus NUMBER, PANE.FIELD VALUE",
-		[](const FArguments& Words, std::ostream&) { CheckExpectation(Words[0], JoinWords(FArguments(Words.begin() + 1, Words.end()))); });
+		{"expect visible Enable Display", "expect menus 0", "expect 1.look TealOrange", "expect 1.enable on"},
+		[](const FArguments& Words, std::ostream&) { CheckExpectation(Words[0], JoinWordsFrom(Words, 1)); });
+	Commands.Add("wait-for WHAT VALUE...", "wait until what expect would say holds, five seconds of the editor's time at most",
+		{"wait-for visible WarmPrint"},
+		[&Program](const FArguments& Words, std::ostream&) { WaitFor(Program, Words[0], JoinWordsFrom(Words, 1)); });
+}
+}
+
+void AddUiCommands(FConsole& Console, FHostProgram& Program)
+{
+	const FConsole::FGroup Group(Console, "The window, as a person uses it");
+	const FWindowCommands Commands(Console, Program);
+	AddPointingCommands(Commands, Program.GetPerson());
+	AddKeyCommands(Commands, Program.GetPerson());
+	AddWindowCommands(Commands, Program);
 }
 }

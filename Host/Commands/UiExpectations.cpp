@@ -2,6 +2,7 @@
 
 #include "Host/Commands/UiExpectations.h"
 
+#include "Host/Commands/Labels.h"
 #include "Host/Commands/Words.h"
 #include "Host/Console/Console.h"
 #include "Host/Editor/Panes.h"
@@ -102,23 +103,6 @@ void CheckField(const std::string& PaneAndField, const std::string& Value)
 	const std::string Actual = DescribeField(GetPaneRecord(*FindPane(Pane)), Field);
 	Require(Actual == Value, "The field " + Field + " of pane " + Pane + " was expected to be " + Value + ", and it is " + Actual + ".");
 }
-}
-
-std::string JoinWords(const std::vector<std::string>& Words)
-{
-	std::string Text;
-	for (const std::string& Word : Words)
-	{
-		Text += (Text.empty() ? "" : " ") + Word;
-	}
-	return Text;
-}
-
-FSeen FindOrComplain(const std::vector<FSeen>& Things, const std::string& Label)
-{
-	const FSeen* const Thing = FindSeen(Things, Label);
-	Require(Thing != nullptr, "Nothing in sight is labeled '" + Label + "'; there is " + NameLabels(Things) + ".");
-	return *Thing;
 }
 
 void CheckExpectation(const std::string& What, const std::string& Value)

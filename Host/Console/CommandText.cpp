@@ -8,6 +8,11 @@ namespace
 {
 constexpr std::string_view Blanks = " \t\r";
 
+bool IsQuote(char Character)
+{
+	return Character == '"' || Character == '\'';
+}
+
 std::string Trimmed(std::string_view Text)
 {
 	const size_t First = Text.find_first_not_of(Blanks);
@@ -19,17 +24,18 @@ std::string Trimmed(std::string_view Text)
 }
 }
 
-std::vector<std::string> SplitCommands(std::string_view Text)
+std::vector<FNumberedCommand> SplitNumberedCommands(std::string_view Text)
 {
-	std::vector<std::string> Commands;
+	std::vector<FNumberedCommand> Commands;
 	std::string Current;
 	char Quote = 0;
 	bool bComment = false;
+	int Line = 1;
 
 	const auto Finish = [&] {
 		if (std::string Command = Trimmed(Current); !Command.empty())
 		{
-			Commands.push_back(std::move(Command));
+			Commands.push_back({Line, std::move(Command)});
 		}
 		Current.clear();
 		Quote = 0;
@@ -41,6 +47,7 @@ std::vector<std::string> SplitCommands(std::string_view Text)
 		{
 			Finish();
 			bComment = false;
+			++Line;
 		}
 		else if (bComment)
 		{
@@ -61,11 +68,22 @@ std::vector<std::string> SplitCommands(std::string_view Text)
 		}
 		else
 		{
+			const bool bWordStarts = Current.empty() || Blanks.find(Current.back()) != std::string_view::npos;
 			Current += Character;
-			Quote = Character == '"' || Character == '\'' ? Character : 0;
+			Quote = bWordStarts && IsQuote(Character) ? Character : 0;
 		}
 	}
 	Finish();
+	return Commands;
+}
+
+std::vector<std::string> SplitCommands(std::string_view Text)
+{
+	std::vector<std::string> Commands;
+	for (FNumberedCommand& Command : SplitNumberedCommands(Text))
+	{
+		Commands.push_back(std::move(Command.Text));
+	}
 	return Commands;
 }
 
@@ -89,7 +107,7 @@ std::vector<std::string> SplitWords(std::string_view Command)
 				Current += Character;
 			}
 		}
-		else if (Character == '"' || Character == '\'')
+		else if (!bInWord && IsQuote(Character))
 		{
 			Quote = Character;
 			bInWord = true;

@@ -3,8 +3,10 @@
 #include "Host/Console/Console.h"
 
 #include "Host/Console/CommandText.h"
+#include "Host/Console/NearestWord.h"
 
 #include <iomanip>
+#include <utility>
 
 namespace TintmillHost
 {
@@ -29,14 +31,39 @@ std::pair<size_t, size_t> CountWords(const std::string& Usage)
 }
 }
 
+FConsole::FGroup::FGroup(FConsole& InConsole, const std::string& Title)
+	: Console(InConsole)
+	, GroupBefore(std::exchange(InConsole.CurrentGroup, Title))
+{}
+
+FConsole::FGroup::~FGroup()
+{
+	Console.CurrentGroup = GroupBefore;
+}
+
 FConsole::FConsole()
 {
-	Add("help", "list the commands", [this](const FArguments&, std::ostream& Output) { PrintHelp(Output); });
+	Add("help [COMMAND]", "list the commands, or explain one", {"help", "help shot"},
+		[this](const FArguments& Words, std::ostream& Output) {
+			if (Words.empty())
+			{
+				PrintHelp(Output);
+			}
+			else
+			{
+				PrintHelpFor(Words[0], Output);
+			}
+		});
 }
 
 void FConsole::Add(const std::string& Usage, const std::string& Summary, FCommandBody Body)
 {
-	Commands[SplitWords(Usage).front()] = {Usage, Summary, std::move(Body)};
+	Add(Usage, Summary, {}, std::move(Body));
+}
+
+void FConsole::Add(const std::string& Usage, const std::string& Summary, FCommandExamples Examples, FCommandBody Body)
+{
+	Commands[SplitWords(Usage).front()] = {Usage, Summary, CurrentGroup, std::move(Examples), std::move(Body)};
 }
 
 void FConsole::Run(std::string_view Command, std::ostream& Output) const
@@ -46,20 +73,16 @@ void FConsole::Run(std::string_view Command, std::ostream& Output) const
 	{
 		return;
 	}
+	FindFor(Command, Words).Body(Words, Output);
+}
 
-	const auto Found = Commands.find(Words.front());
-	if (Found == Commands.end())
+void FConsole::Check(std::string_view Command) const
+{
+	FArguments Words = SplitWords(Command);
+	if (!Words.empty())
 	{
-		throw FCommandError("There is no command '" + Words.front() + "'; there are " + NamesOfCommands() + ".");
+		FindFor(Command, Words);
 	}
-
-	Words.erase(Words.begin());
-	const auto [Fewest, Most] = CountWords(Found->second.Usage);
-	if (Words.size() < Fewest || Words.size() > Most)
-	{
-		throw FCommandError("'" + std::string(Command) + "' has the wrong number of words; the command is: " + Found->second.Usage + ".");
-	}
-	Found->second.Body(Words, Output);
 }
 
 void FConsole::PrintHelp(std::ostream& Output) const
@@ -68,6 +91,45 @@ void FConsole::PrintHelp(std::ostream& Output) const
 	{
 		Output << "  " << std::left << std::setw(40) << Command.Usage << Command.Summary << '\n';
 	}
+}
+
+void FConsole::PrintHelpFor(const std::string& Name, std::ostream& Output) const
+{
+	const FConsoleCommand& Command = Find(Name);
+	Output << "  " << Command.Usage << "\n      " << Command.Summary << '\n';
+	for (const std::string& Example : Command.Examples)
+	{
+		Output << "        " << Example << '\n';
+	}
+}
+
+const FConsoleCommand& FConsole::Find(const std::string& Name) const
+{
+	const auto Found = Commands.find(Name);
+	if (Found != Commands.end())
+	{
+		return Found->second;
+	}
+	std::vector<std::string> Names;
+	for (const auto& [Known, Command] : Commands)
+	{
+		Names.push_back(Known);
+	}
+	const std::string Nearest = FindNearestWord(Name, Names);
+	throw FCommandError("There is no command '" + Name + "'"
+		+ (Nearest.empty() ? "; there are " : "; did you mean " + Nearest + "? There are ") + NamesOfCommands() + ".");
+}
+
+const FConsoleCommand& FConsole::FindFor(std::string_view Command, FArguments& OutWords) const
+{
+	const FConsoleCommand& Found = Find(OutWords.front());
+	OutWords.erase(OutWords.begin());
+	const auto [Fewest, Most] = CountWords(Found.Usage);
+	if (OutWords.size() < Fewest || OutWords.size() > Most)
+	{
+		throw FCommandError("'" + std::string(Command) + "' has the wrong number of words; the command is: " + Found.Usage + ".");
+	}
+	return Found;
 }
 
 std::string FConsole::NamesOfCommands() const

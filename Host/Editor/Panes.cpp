@@ -60,6 +60,16 @@ TSharedRef<SLevelViewport> GetActivePane()
 	return Pane.ToSharedRef();
 }
 
+FVector2D FindPaneCenter(const std::string& Word)
+{
+	const TSharedRef<SLevelViewport> Pane = FindPane(Word);
+	if (!Pane->IsVisible())
+	{
+		throw FCommandError("Pane " + Word + " cannot be clicked: it is not in sight.");
+	}
+	return Pane->GetCachedGeometry().GetAbsolutePositionAtCoordinates(FVector2D(0.5f, 0.5f));
+}
+
 void SetPaneSize(const FIntPoint& Size)
 {
 	for (const TSharedPtr<SLevelViewport>& Pane : StandIn::GetPanes())
@@ -76,6 +86,20 @@ void RedrawChangedPanes()
 		if (Viewport.WouldDrawSomethingElse())
 		{
 			Viewport.GetClient()->RedrawRequested(&Viewport);
+		}
+	}
+}
+
+void DrawResizedPanes()
+{
+	for (const TSharedPtr<SLevelViewport>& Pane : StandIn::GetPanes())
+	{
+		FViewport& Viewport = GetEditorViewport(*Pane);
+		if (Pane->GetLevelViewportClient().IsVisible() && Viewport.GetPresentedSurface().Size != Viewport.GetSizeXY()
+			&& Viewport.GetClient() != nullptr)
+		{
+			Pane->GetLevelViewportClient().bNeedsRedraw = false;
+			Viewport.Draw();
 		}
 	}
 }

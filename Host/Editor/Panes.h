@@ -21,11 +21,17 @@ TSharedRef<SLevelViewport> FindPane(const std::string& Word);
 /** The pane that is worked in. Throws FCommandError when there is none. */
 TSharedRef<SLevelViewport> GetActivePane();
 
+/** The middle of a pane's picture on the desktop. Throws FCommandError when the pane is not in sight. */
+FVector2D FindPaneCenter(const std::string& Word);
+
 /** Gives every pane the same size in pixels, whatever the window's; 0 by 0 lets panes follow their widgets. */
 void SetPaneSize(const FIntPoint& Size);
 
 /** Asks for a new picture of every pane that would look different now, as those that are not drawn all the time have to be asked for. */
 void RedrawChangedPanes();
+
+/** Draws now those panes whose picture has another size than they have; a frame resizes them after it has drawn them. */
+void DrawResizedPanes();
 
 /** The pane's live display configuration. */
 FTintmillDisplayConfiguration& GetPaneRecord(SLevelViewport& Pane);

@@ -6,13 +6,16 @@
 
 #include <map>
 
+class FEditorViewportClient;
+class FViewport;
 class FViewportClient;
+struct FKey;
 
 // What each viewport sees of the scene.
 
 namespace TintmillHost
 {
-/** Paints the scene for all viewports while it lives; every viewport keeps its own camera. */
+/** Paints the scene for all viewports while it lives; every viewport keeps its own camera, which the mouse moves in the editor's. */
 class FSceneViews
 {
 public:
@@ -28,6 +31,8 @@ public:
 	void ResetCamera(FViewportClient& Client) { Cameras.erase(&Client); }
 
 private:
+	bool MoveCamera(FEditorViewportClient& Client, FViewport& Viewport, const FKey& Axis, float Delta);
+
 	std::map<const FViewportClient*, FSceneCamera> Cameras;
 };
 }

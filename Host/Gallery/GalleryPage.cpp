@@ -2,6 +2,9 @@
 
 #include "Host/Gallery/GalleryPage.h"
 
+#include "Host/Gallery/GalleryHtml.h"
+#include "Host/Gallery/Packing.h"
+
 #include <algorithm>
 #include <cerrno>
 #include <cstring>
@@ -12,114 +15,166 @@ namespace TintmillHost
 {
 namespace
 {
-constexpr const char* Head = R"(<!doctype html>
-<html lang="en"><meta charset="utf-8"><meta name="viewport" content="width=device-width">
-<style>
-body { background: #2b2b2b; color: #ddd; font: 15px/1.5 Roboto, "Segoe UI", sans-serif; margin: 2rem auto; max-width: 1320px; padding: 0 1rem }
-h1 { font-size: 1.4rem; font-weight: 500 }
-main { display: grid; grid-template-columns: repeat(auto-fill, minmax(min(100%, 560px), 1fr)); gap: 1.5rem }
-figure { margin: 0; background: #383838; border: 1px solid #1c1c1c; border-radius: 4px; overflow: hidden }
-figcaption { padding: .6rem .9rem }
-img { display: block; width: 100% }
-.split { position: relative }
-.split .with { position: absolute; inset: 0; clip-path: inset(0 0 0 var(--at)) }
-.split input { position: absolute; inset: 0; width: 100%; height: 100%; margin: 0; opacity: 0; cursor: ew-resize }
-.split i { position: absolute; top: 0; bottom: 0; left: var(--at); width: 2px; background: #dea30a; pointer-events: none }
-.split b { position: absolute; bottom: .4rem; padding: 0 .4rem; background: #0008; font-weight: 400; font-size: .8rem; pointer-events: none }
-pre { background: #1e1e1e; padding: 1rem; overflow: auto; font-size: .8rem; border-radius: 4px }
-</style>
-)";
-
-/** Text as it must stand in HTML. */
-std::string Escaped(const std::string& Text)
+std::string ReadBytes(const std::filesystem::path& File)
 {
-	std::string Result;
-	for (const char Character : Text)
-	{
-		switch (Character)
-		{
-		case '&':
-			Result += "&amp;";
-			break;
-		case '<':
-			Result += "&lt;";
-			break;
-		case '>':
-			Result += "&gt;";
-			break;
-		case '"':
-			Result += "&quot;";
-			break;
-		default:
-			Result += Character;
-			break;
-		}
-	}
-	return Result;
-}
-
-/** The file's bytes as a data address; empty when it cannot be read. */
-std::string DataAddress(const std::filesystem::path& File)
-{
-	constexpr const char* Digits = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/";
 	std::ifstream Stream(File, std::ios::binary);
-	const std::string Bytes((std::istreambuf_iterator<char>(Stream)), std::istreambuf_iterator<char>());
-
-	std::string Result = "data:image/png;base64,";
-	for (size_t Index = 0; Index < Bytes.size(); Index += 3)
-	{
-		const size_t Count = std::min<size_t>(3, Bytes.size() - Index);
-		unsigned Group = 0;
-		for (size_t Offset = 0; Offset < 3; ++Offset)
-		{
-			Group = Group << 8 | (Offset < Count ? static_cast<unsigned char>(Bytes[Index + Offset]) : 0u);
-		}
-		for (size_t Digit = 0; Digit < 4; ++Digit)
-		{
-			Result += Digit <= Count ? Digits[Group >> (18 - 6 * Digit) & 63u] : '=';
-		}
-	}
-	return Result;
+	return std::string((std::istreambuf_iterator<char>(Stream)), std::istreambuf_iterator<char>());
 }
+
+std::string CannotWrite(const std::filesystem::path& File, const std::string& Reason)
+{
+	return "Cannot write the page " + File.string() + ": " + Reason + ". Choose another folder with --out.";
+}
+}
+
+double FGalleryStep::CountSeconds() const
+{
+	double Seconds = 0.0;
+	for (const FGalleryCommand& Command : Commands)
+	{
+		Seconds += Command.Seconds;
+	}
+	return Seconds;
+}
+
+std::string FGalleryStep::GetProblem() const
+{
+	return Commands.empty() ? std::string() : Commands.back().Problem;
+}
+
+void FGalleryPage::BeginChapter(const std::string& Heading)
+{
+	Chapter = Heading;
 }
 
 void FGalleryPage::AddPicture(const std::string& Caption, const std::filesystem::path& Picture)
 {
-	Steps.push_back({Caption, Picture, {}});
+	AddStep({Chapter, Caption, ReadBytes(Picture), {}, {}});
 }
 
 void FGalleryPage::AddComparison(const std::string& Caption, const std::filesystem::path& Without, const std::filesystem::path& With)
 {
-	Steps.push_back({Caption, With, Without});
+	AddStep({Chapter, Caption, ReadBytes(With), ReadBytes(Without), {}});
 }
 
-std::string FGalleryPage::Write(const std::filesystem::path& File, const std::string& Title, const std::string& Log) const
+void FGalleryPage::NoteCommand(const FGalleryCommand& Command)
 {
-	std::ofstream Page(File, std::ios::binary);
-	Page << Head << "<title>" << Escaped(Title) << "</title>\n<h1>" << Escaped(Title) << "</h1>\n<main>\n";
-	for (const FStep& Step : Steps)
+	Pending.push_back(Command);
+	if (FirstNewStep < Steps.size())
 	{
-		Page << "<figure>";
-		if (Step.Without.empty())
-		{
-			Page << "<img alt=\"\" src=\"" << DataAddress(Step.Picture) << "\">";
-		}
-		else
-		{
-			Page << "<div class=split style=\"--at:50%\"><img alt=\"\" src=\"" << DataAddress(Step.Without)
-				 << "\"><img alt=\"\" class=with src=\"" << DataAddress(Step.Picture)
-				 << "\"><i></i><b style=\"left:.4rem\">without</b><b style=\"right:.4rem\">with the look</b>"
-				 << "<input type=range aria-label=\"Compare\" min=0 max=100 value=50 "
-				 << "oninput=\"this.parentNode.style.setProperty('--at',this.value+'%')\"></div>";
-		}
-		Page << "<figcaption>" << Escaped(Step.Caption) << "</figcaption></figure>\n";
+		Steps[FirstNewStep].Commands = std::move(Pending);
+		Pending.clear();
+		FirstNewStep = Steps.size();
 	}
-	Page << "</main>\n<h1>Log</h1>\n<pre>" << Escaped(Log) << "</pre>\n</html>\n";
-	Page.flush();
-	if (!Page)
+}
+
+bool FGalleryPage::IsEmpty() const
+{
+	return std::none_of(Steps.begin(), Steps.end(), [](const FGalleryStep& Step) { return !Step.Picture.empty(); });
+}
+
+std::vector<FGalleryStep> FGalleryPage::GetSteps() const
+{
+	std::vector<FGalleryStep> All = Steps;
+	if (!Pending.empty())
 	{
-		return "Cannot write the page " + File.string() + ": " + std::strerror(errno) + ". Choose another folder with --out.";
+		All.push_back({Chapter, {}, {}, {}, Pending});
 	}
-	return {};
+	return All;
+}
+
+std::string FGalleryPage::Write(
+	const std::filesystem::path& File, const std::string& TitleOtherwise, const std::vector<FGalleryLogLine>& Log) const
+{
+	std::error_code Error;
+	if (File.has_parent_path())
+	{
+		std::filesystem::create_directories(File.parent_path(), Error);
+	}
+	const std::filesystem::path Unfinished = File.string() + ".new";
+	{
+		std::ofstream Page(Unfinished, std::ios::binary);
+		WriteGalleryHtml(Page, Title.empty() ? TitleOtherwise : Title, GetSteps(), Log);
+		Page.flush();
+		if (!Page)
+		{
+			const std::string Reason = std::strerror(errno);
+			Page.close();
+			std::filesystem::remove(Unfinished, Error);
+			return CannotWrite(File, Reason);
+		}
+	}
+	std::filesystem::rename(Unfinished, File, Error);
+	return Error ? CannotWrite(File, Error.message()) : std::string();
+}
+
+void FGalleryPage::Save(std::ostream& Stream) const
+{
+	PackText(Stream, Title);
+	PackText(Stream, Chapter);
+	const std::vector<FGalleryStep> All = GetSteps();
+	PackNumber(Stream, static_cast<double>(All.size()));
+	for (const FGalleryStep& Step : All)
+	{
+		for (const std::string* const Text : {&Step.Chapter, &Step.Caption, &Step.Picture, &Step.Without})
+		{
+			PackText(Stream, *Text);
+		}
+		PackNumber(Stream, static_cast<double>(Step.Commands.size()));
+		for (const FGalleryCommand& Command : Step.Commands)
+		{
+			for (const std::string* const Text : {&Command.Place, &Command.Text, &Command.Problem})
+			{
+				PackText(Stream, *Text);
+			}
+			PackNumber(Stream, Command.Seconds);
+		}
+	}
+}
+
+bool FGalleryPage::Load(std::istream& Stream)
+{
+	FGalleryPage Page;
+	Page.Title = UnpackText(Stream);
+	Page.Chapter = UnpackText(Stream);
+	const double StepCount = UnpackNumber(Stream);
+	for (double StepIndex = 0.0; Stream && StepIndex < StepCount; ++StepIndex)
+	{
+		FGalleryStep Step;
+		for (std::string* const Text : {&Step.Chapter, &Step.Caption, &Step.Picture, &Step.Without})
+		{
+			*Text = UnpackText(Stream);
+		}
+		const double CommandCount = UnpackNumber(Stream);
+		for (double CommandIndex = 0.0; Stream && CommandIndex < CommandCount; ++CommandIndex)
+		{
+			FGalleryCommand Command;
+			for (std::string* const Text : {&Command.Place, &Command.Text, &Command.Problem})
+			{
+				*Text = UnpackText(Stream);
+			}
+			Command.Seconds = UnpackNumber(Stream);
+			Step.Commands.push_back(std::move(Command));
+		}
+		Page.Steps.push_back(std::move(Step));
+	}
+	if (!Stream)
+	{
+		return false;
+	}
+	// What came after the last picture still waits for the next one.
+	if (!Page.Steps.empty() && Page.Steps.back().Picture.empty() && Page.Steps.back().Caption.empty())
+	{
+		Page.Pending = std::move(Page.Steps.back().Commands);
+		Page.Steps.pop_back();
+	}
+	Page.FirstNewStep = Page.Steps.size();
+	*this = std::move(Page);
+	return true;
+}
+
+void FGalleryPage::AddStep(FGalleryStep Step)
+{
+	Steps.push_back(std::move(Step));
 }
 }

@@ -56,10 +56,10 @@ public:
 	/** What an area of this many pixels shows: before the split the captured picture, after it the graded one. */
 	FPicture Compose(const FIntPoint& Area, const FBuilderView& View) const;
 
-private:
 	/** Pixels of the area a pixel of the picture. */
 	float GetScale(const FVector2D& Area, const FBuilderView& View) const;
 
+private:
 	FPicture Captured;
 	FPicture Graded;
 };

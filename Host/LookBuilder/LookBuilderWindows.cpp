@@ -44,7 +44,7 @@ void FLookBuilderWindows::Open(const StandIn::FLookBuilderRequest& Request)
 	{
 		// clang-format off
 		Builder.Window = SNew(SWindow)
-			.Title(FText::FromString(Request.Asset->GetName()))
+			.Title(FText::FromString(TEXT("Look Builder - ") + Request.Asset->GetName()))
 			.AutoCenter(EAutoCenter::None)
 			.ScreenPosition(FirstPlace + FVector2D(Offset, Offset))
 			.ClientSize(WindowSize)
@@ -53,6 +53,7 @@ void FLookBuilderWindows::Open(const StandIn::FLookBuilderRequest& Request)
 				.Look(Request.Asset)
 			];
 		// clang-format on
+		Builder.Window->SetOnWindowClosed(FOnWindowClosed::CreateLambda([this, Path](const TSharedRef<SWindow>&) { Builders.erase(Path); }));
 		FSlateApplication::Get().AddWindow(Builder.Window.ToSharedRef());
 	}
 	Builder.Content->SetPicture(FBuilderPicture(Request));
@@ -61,6 +62,7 @@ void FLookBuilderWindows::Open(const StandIn::FLookBuilderRequest& Request)
 
 void FLookBuilderWindows::Close(FBuilder& Builder)
 {
+	Builder.Window->SetOnWindowClosed(FOnWindowClosed());
 	Builder.Window->SetContent(SNullWidget::NullWidget);
 	if (FSlateApplication::IsInitialized())
 	{

@@ -4,6 +4,7 @@
 
 #include "Brushes/SlateColorBrush.h"
 #include "Brushes/SlateImageBrush.h"
+#include "Fonts/FontMeasure.h"
 #include "Rendering/DrawElements.h"
 #include "StandIn/LookBuilder.h"
 #include "StandIn/LookFiles.h"
@@ -98,8 +99,9 @@ FString SLookBuilder::GetValues() const
 		return FString();
 	}
 	const FIntPoint Size = Picture->GetSize();
+	const float Scale = Picture->GetScale(GetAreaSize(GetCachedGeometry().GetLocalSize()), View);
 	const FString Facts =
-		FString::Printf(TEXT("%d x %d pixels, zoom %d %%"), Size.X, Size.Y, static_cast<int32>(std::lround(View.Zoom * 100.0f)));
+		FString::Printf(TEXT("%d x %d pixels, zoom %d %%"), Size.X, Size.Y, static_cast<int32>(std::lround(Scale * 100.0f)));
 	if (!bHoversPixel)
 	{
 		return Facts;
@@ -199,8 +201,10 @@ int32 SLookBuilder::OnPaint(const FPaintArgs&, const FGeometry& AllottedGeometry
 	};
 
 	Box(LayerId, FVector2D(0.0f, 0.0f), Size, PanelColor);
-	Text(FVector2D(Inset, 5.0f), Look.IsValid() ? Look->GetName() : FString(), BoldFont, TextColor);
-	Text(FVector2D(180.0f, 6.0f), GetTitle(), Font, DimTextColor);
+	const FString Name = Look.IsValid() ? Look->GetName() : FString();
+	const float NameWidth = FSlateFontMeasure().Measure(Name, BoldFont).X;
+	Text(FVector2D(Inset, 5.0f), Name, BoldFont, TextColor);
+	Text(FVector2D(2.0f * Inset + NameWidth, 6.0f), GetTitle(), Font, DimTextColor);
 	Text(FVector2D(Inset, HeaderHeight + Area.Y + 4.0f), GetValues(), Font, TextColor);
 	if (Picture->IsEmpty())
 	{

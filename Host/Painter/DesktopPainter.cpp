@@ -16,6 +16,7 @@ public:
 		: Layouts(std::make_shared<FTextLayouts>())
 		, Measuring(Layouts)
 		, Painter(Layouts)
+		, KeptPicture(Painter)
 	{}
 
 	virtual void SetPictures(FViewportPictures ViewportPictures, FBrushPictures BrushPictures) override
@@ -26,10 +27,16 @@ public:
 
 	virtual FPicture Paint(const FWindowShot& Shot) override { return PaintWindows(Painter, Shot); }
 
+	virtual TArray<FIntRect> Update(const FWindowShot& Shot, FPicture& InOutPicture) override
+	{
+		return KeptPicture.Update(Shot, InOutPicture);
+	}
+
 private:
 	std::shared_ptr<FTextLayouts> Layouts;
 	FPangoMeasuring Measuring;
 	FElementPainter Painter;
+	FKeptPicture KeptPicture;
 };
 }
 

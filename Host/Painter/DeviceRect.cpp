@@ -15,6 +15,15 @@ FDeviceRect ToDeviceRect(const FSlateRect& Rect, double Scale)
 	return {Left, Top, std::round(Rect.Right * Scale) - Left, std::round(Rect.Bottom * Scale) - Top};
 }
 
+FIntRect ToPixels(const FDeviceRect& Rect)
+{
+	// Far beyond any picture, and still within the numbers that whole pixels are counted in.
+	constexpr double Limit = 1e6;
+	const auto ToPixel = [&](double Value) { return static_cast<int32>(std::clamp(Value, -Limit, Limit)); };
+	return FIntRect(ToPixel(std::floor(Rect.X)), ToPixel(std::floor(Rect.Y)), ToPixel(std::ceil(Rect.X + std::max(0.0, Rect.Width))),
+		ToPixel(std::ceil(Rect.Y + std::max(0.0, Rect.Height))));
+}
+
 void AddRoundedRect(cairo_t* Context, const FDeviceRect& Rect, double Radius)
 {
 	const double Corner = std::min({Radius, Rect.Width / 2.0, Rect.Height / 2.0});

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "Layout/SlateRect.h"
+#include "Math/IntRect.h"
 
 #include <cairo.h>
 
@@ -27,6 +28,9 @@ struct FDeviceRect
 
 /** The pixels of a desktop rectangle at Scale pixels a unit; edges go to the nearest pixel's, so neighbors stay neighbors. */
 FDeviceRect ToDeviceRect(const FSlateRect& Rect, double Scale);
+
+/** The whole pixels that an area touches. */
+FIntRect ToPixels(const FDeviceRect& Rect);
 
 /** Adds the outline of the area with rounded corners to Cairo's path. */
 void AddRoundedRect(cairo_t* Context, const FDeviceRect& Rect, double Radius);

@@ -26,6 +26,20 @@ void PaintPicture(cairo_t* Context, const FPictureView& Picture, const FDeviceRe
 	PaintImage(Context, Surface.get(), FSlateBrush(), Rect, 1.0, Opacity);
 }
 
+/** The pixels that a line of a width in pixels may touch, with the tips of its sharpest corners. */
+FIntRect FindLineBounds(const TArray<FVector2D>& Points, double Scale, double Width)
+{
+	FVector2D Least = Points[0];
+	FVector2D Most = Points[0];
+	for (const FVector2D& Point : Points)
+	{
+		Least = FVector2D(std::min(Least.X, Point.X), std::min(Least.Y, Point.Y));
+		Most = FVector2D(std::max(Most.X, Point.X), std::max(Most.Y, Point.Y));
+	}
+	const FDeviceRect Rect{Least.X * Scale, Least.Y * Scale, (Most.X - Least.X) * Scale, (Most.Y - Least.Y) * Scale};
+	return ToPixels(Rect.Shrunk(-(5.0 * Width + 2.0)));
+}
+
 /** Whether every part of the line goes straight across or down. */
 bool IsStraight(const TArray<FVector2D>& Points)
 {
@@ -48,17 +62,21 @@ void FElementPainter::Paint(cairo_t* Context, const FSlateWindowElementList& Ele
 {
 	for (const int32 Index : ElementList.GetDrawOrder())
 	{
-		const FSlateDrawElement& Element = ElementList.GetElements()[Index];
-		cairo_save(Context);
-		if (Element.GetClipRect().IsSet())
-		{
-			const FDeviceRect Clip = ToDeviceRect(Element.GetClipRect().GetValue(), Scale);
-			cairo_rectangle(Context, Clip.X, Clip.Y, std::max(0.0, Clip.Width), std::max(0.0, Clip.Height));
-			cairo_clip(Context);
-		}
-		PaintElement(Context, Element, Scale);
-		cairo_restore(Context);
+		Paint(Context, ElementList.GetElements()[Index], Scale);
 	}
+}
+
+void FElementPainter::Paint(cairo_t* Context, const FSlateDrawElement& Element, double Scale)
+{
+	cairo_save(Context);
+	if (Element.GetClipRect().IsSet())
+	{
+		const FDeviceRect Clip = ToDeviceRect(Element.GetClipRect().GetValue(), Scale);
+		cairo_rectangle(Context, Clip.X, Clip.Y, std::max(0.0, Clip.Width), std::max(0.0, Clip.Height));
+		cairo_clip(Context);
+	}
+	PaintElement(Context, Element, Scale);
+	cairo_restore(Context);
 }
 
 void FElementPainter::PaintElement(cairo_t* Context, const FSlateDrawElement& Element, double Scale)
@@ -103,7 +121,7 @@ void FElementPainter::PaintBox(cairo_t* Context, const FSlateDrawElement& Elemen
 		PaintShape(Context, Shape);
 		return;
 	}
-	if (const FPictureView Picture = BrushPictures ? BrushPictures(Brush, SizeOf(Rect)) : FPictureView(); Picture.Pixels != nullptr)
+	if (const FPictureView Picture = FindPicture(Element, Scale); Picture.Pixels != nullptr)
 	{
 		PaintPicture(Context, Picture, Rect, Color.Alpha);
 		return;
@@ -163,8 +181,7 @@ void FElementPainter::PaintViewport(cairo_t* Context, const FSlateDrawElement& E
 		return;
 	}
 	const FPaintColor Color = ToPaintColor(Element.GetTint(), Element.IsDisabled());
-	const FPictureView Picture =
-		ViewportPictures && Element.GetViewport().IsValid() ? ViewportPictures(*Element.GetViewport(), SizeOf(Rect)) : FPictureView();
+	const FPictureView Picture = FindPicture(Element, Scale);
 	if (Picture.Pixels == nullptr || Picture.Size.X <= 0 || Picture.Size.Y <= 0)
 	{
 		FPaintColor{0.1, 0.1, 0.1, Color.Alpha}.Use(Context);
@@ -173,5 +190,85 @@ void FElementPainter::PaintViewport(cairo_t* Context, const FSlateDrawElement& E
 		return;
 	}
 	PaintPicture(Context, Picture, Rect, Color.Alpha);
+}
+
+FPictureView FElementPainter::FindPicture(const FSlateDrawElement& Element, double Scale) const
+{
+	const FIntPoint Size = SizeOf(ToDeviceRect(Element.GetRect(), Scale));
+	if (Element.GetElementType() == EElementType::ET_Viewport)
+	{
+		return ViewportPictures && Element.GetViewport().IsValid() ? ViewportPictures(*Element.GetViewport(), Size) : FPictureView();
+	}
+	const bool bNamed = Element.GetElementType() == EElementType::ET_Box
+		&& !(Element.GetBrush().GetResourceName().IsNone() && Element.GetBrush().GetResourceObject() == nullptr);
+	return bNamed && BrushPictures ? BrushPictures(Element.GetBrush(), Size) : FPictureView();
+}
+
+void FElementPainter::AddPicture(FFingerprint& InOutFingerprint, const FSlateDrawElement& Element, double Scale)
+{
+	const bool bViewport = Element.GetElementType() == EElementType::ET_Viewport;
+	if (bViewport && Element.GetViewport().IsValid())
+	{
+		FSeenViewport& Seen = SeenViewports[Element.GetViewport().Get()];
+		if (!Seen.Viewport.IsValid())
+		{
+			Seen = {Element.GetViewport(), ++LastViewportNumber};
+		}
+		InOutFingerprint.Add(Seen.Number);
+	}
+	const FPictureView Picture = FindPicture(Element, Scale);
+	if (Picture.Pixels == nullptr)
+	{
+		return;
+	}
+	InOutFingerprint.Add(Picture.Size.X).Add(Picture.Size.Y).Add(Picture.Revision);
+	if (Picture.Revision == 0)
+	{
+		InOutFingerprint.AddBytes(Picture.Pixels, static_cast<size_t>(Picture.Size.X) * static_cast<size_t>(Picture.Size.Y) * sizeof(FColor));
+	}
+}
+
+FIntRect FElementPainter::FindTextBounds(const FSlateDrawElement& Element, double Scale)
+{
+	const FSlateFontInfo& Font = Element.GetFontInfo();
+	const double FontScale = Scale * Element.GetPaintGeometry().DrawScale;
+	const FVector2D Position = Element.GetPaintGeometry().DrawPosition;
+	PangoRectangle Ink;
+	PangoLayout* const Layout = Layouts->Find(ToUtf8(Element.GetText()), Font, FontScale);
+	pango_layout_line_get_extents(pango_layout_get_line_readonly(Layout, 0), &Ink, nullptr);
+	const FDeviceRect Rect{std::round(Position.X * Scale) + pango_units_to_double(Ink.x),
+		std::round(Position.Y * Scale) + Layouts->GetAscent(Font, FontScale) + pango_units_to_double(Ink.y), pango_units_to_double(Ink.width),
+		pango_units_to_double(Ink.height)};
+	// The ink of hinted letters may lie a little beside that of their outlines.
+	return ToPixels(Rect.Shrunk(-2.0));
+}
+
+FIntRect FElementPainter::FindBounds(const FSlateDrawElement& Element, double Scale)
+{
+	const FDeviceRect Rect = ToDeviceRect(Element.GetRect(), Scale);
+	const double UnitScale = Scale * Element.GetPaintGeometry().DrawScale;
+	FIntRect Bounds = ToPixels(Rect);
+	switch (Element.GetElementType())
+	{
+	case EElementType::ET_Box:
+		if (const StandIn::EBrushShape Kind = StandIn::GetBrushShape(Element.GetBrush()); Kind != StandIn::EBrushShape::None)
+		{
+			Bounds = ToPixels(Rect.Shrunk(-ReachOfShape(Kind, UnitScale)));
+		}
+		break;
+	case EElementType::ET_Text:
+		Bounds = FindTextBounds(Element, Scale);
+		break;
+	case EElementType::ET_Line:
+		Bounds = FindLineBounds(Element.GetPoints(), Scale, std::max(1.0, std::round(static_cast<double>(Element.GetThickness()) * UnitScale)));
+		break;
+	case EElementType::ET_Viewport:
+		break;
+	}
+	if (Element.GetClipRect().IsSet())
+	{
+		Bounds.Clip(ToPixels(ToDeviceRect(Element.GetClipRect().GetValue(), Scale)));
+	}
+	return Bounds;
 }
 }

@@ -3,11 +3,13 @@
 #pragma once
 
 #include "CoreMinimal.h"
+#include "Host/Painter/Fingerprint.h"
 #include "Host/Painter/ImageStore.h"
 #include "Host/Painter/TextLayouts.h"
 #include "Host/Picture/Picture.h"
 #include "Rendering/DrawElements.h"
 
+#include <map>
 #include <memory>
 
 // Turns what Slate painted into pixels.
@@ -30,7 +32,18 @@ public:
 	/** Paints all elements from the lowest layer to the highest, at Scale pixels of the surface a pixel of the desktop. */
 	void Paint(cairo_t* Context, const FSlateWindowElementList& ElementList, double Scale);
 
+	/** Paints one element. */
+	void Paint(cairo_t* Context, const FSlateDrawElement& Element, double Scale);
+
+	/** The pixels of the surface that painting an element may touch. */
+	FIntRect FindBounds(const FSlateDrawElement& Element, double Scale);
+
+	/** Takes the picture that an element shows, if it shows one, into the element's fingerprint. */
+	void AddPicture(FFingerprint& InOutFingerprint, const FSlateDrawElement& Element, double Scale);
+
 private:
+	FPictureView FindPicture(const FSlateDrawElement& Element, double Scale) const;
+	FIntRect FindTextBounds(const FSlateDrawElement& Element, double Scale);
 	void PaintElement(cairo_t* Context, const FSlateDrawElement& Element, double Scale);
 	void PaintBox(cairo_t* Context, const FSlateDrawElement& Element, double Scale);
 	void PaintText(cairo_t* Context, const FSlateDrawElement& Element, double Scale);
@@ -41,5 +54,14 @@ private:
 	FImageStore Images;
 	FViewportPictures ViewportPictures;
 	FBrushPictures BrushPictures;
+
+	/** A number for every viewport that was painted: a new one at an old address gets another. */
+	struct FSeenViewport
+	{
+		TWeakPtr<const ISlateViewport> Viewport;
+		uint64 Number = 0;
+	};
+	std::map<const ISlateViewport*, FSeenViewport> SeenViewports;
+	uint64 LastViewportNumber = 0;
 };
 }

@@ -2,6 +2,9 @@
 
 #include "Host/Painter/ShapePainter.h"
 
+#include "Host/Painter/IconPainter.h"
+#include "Host/Painter/ViewModeIcons.h"
+
 #include <algorithm>
 #include <cmath>
 #include <initializer_list>
@@ -12,6 +15,9 @@ namespace TintmillHost
 namespace
 {
 using StandIn::EBrushShape;
+
+/** How far the shadow that a brush names reaches, in units. */
+constexpr double BrushShadowReach = 8.0;
 
 struct FPoint
 {
@@ -127,6 +133,24 @@ void PaintMagnifier(cairo_t* Context, const FShape& Shape)
 	Stroke(Context, Shape, 1.6 * Shape.Scale);
 }
 
+void PaintFolder(cairo_t* Context, const FShape& Shape)
+{
+	FShape Back = Shape;
+	Back.Color = Shape.Color.Darkened(0.75);
+	FillPolygon(Context, Back, {{0.06, 0.2}, {0.4, 0.2}, {0.47, 0.3}, {0.94, 0.3}, {0.94, 0.82}, {0.06, 0.82}});
+	FillPolygon(Context, Shape, {{0.06, 0.38}, {0.94, 0.38}, {0.94, 0.82}, {0.06, 0.82}});
+}
+
+void PaintWarning(cairo_t* Context, const FShape& Shape)
+{
+	FShape Edge = Shape;
+	Edge.Color = FPaintColor{0.0, 0.0, 0.0, 0.8 * Shape.Color.Alpha};
+	FillPolygon(Context, Edge, {{0.5, 0.0}, {1.0, 0.94}, {0.0, 0.94}});
+	FillPolygon(Context, Shape, {{0.5, 0.12}, {0.91, 0.88}, {0.09, 0.88}});
+	FillPolygon(Context, Edge, {{0.44, 0.36}, {0.56, 0.36}, {0.54, 0.65}, {0.46, 0.65}});
+	FillPolygon(Context, Edge, {{0.44, 0.7}, {0.56, 0.7}, {0.56, 0.81}, {0.44, 0.81}});
+}
+
 void PaintCheckerboard(cairo_t* Context, const FShape& Shape)
 {
 	const double Cell = std::max(1.0, std::round(8.0 * Shape.Scale));
@@ -144,6 +168,18 @@ void PaintCheckerboard(cairo_t* Context, const FShape& Shape)
 	Shape.Color.Darkened(0.5).Use(Context);
 	cairo_fill(Context);
 }
+}
+
+double ReachOfShape(EBrushShape Kind, double Scale)
+{
+	// Lines with round ends near an edge reach over it by half their width.
+	const double LineReach = std::ceil(2.0 * Scale) + 1.0;
+	return Kind == EBrushShape::Shadow ? ReachOfShadow({Kind, {}, {}, 0.0, Scale}, BrushShadowReach) : LineReach;
+}
+
+double ReachOfShadow(const FShape& Shape, double Reach)
+{
+	return std::max(1.0, std::round(Reach * Shape.Scale)) + std::round(2.0 * Shape.Scale) + 1.0;
 }
 
 void PaintShadow(cairo_t* Context, const FShape& Shape, double Reach)
@@ -191,7 +227,7 @@ void PaintShape(cairo_t* Context, const FShape& Shape)
 		PaintFrame(Context, Shape, Shape.Color.Darkened(0.5));
 		break;
 	case EBrushShape::Shadow:
-		PaintShadow(Context, Shape, 8.0);
+		PaintShadow(Context, Shape, BrushShadowReach);
 		break;
 	case EBrushShape::Tick:
 		PaintTick(Context, Shape);
@@ -221,6 +257,35 @@ void PaintShape(cairo_t* Context, const FShape& Shape)
 		break;
 	case EBrushShape::Checkerboard:
 		PaintCheckerboard(Context, Shape);
+		break;
+	case EBrushShape::Folder:
+		PaintFolder(Context, Shape);
+		break;
+	case EBrushShape::Warning:
+		PaintWarning(Context, Shape);
+		break;
+	case EBrushShape::Maximize:
+	case EBrushShape::FourPanes:
+	case EBrushShape::Play:
+	case EBrushShape::Stop:
+	case EBrushShape::PlayInWindow:
+	case EBrushShape::Simulate:
+	case EBrushShape::Map:
+	case EBrushShape::Layers:
+		PaintIcon(Context, Shape);
+		break;
+	case EBrushShape::ViewLit:
+	case EBrushShape::ViewUnlit:
+	case EBrushShape::ViewWireframe:
+	case EBrushShape::ViewDetailLighting:
+	case EBrushShape::ViewLightingOnly:
+	case EBrushShape::ViewReflections:
+	case EBrushShape::ViewOptimization:
+	case EBrushShape::ViewBuffers:
+	case EBrushShape::ViewLevelOfDetail:
+	case EBrushShape::ViewPlayerCollision:
+	case EBrushShape::ViewVisibilityCollision:
+		PaintViewModeIcon(Context, Shape);
 		break;
 	}
 }

@@ -23,6 +23,12 @@ struct FShape
 /** Draws a shape; None draws nothing. */
 void PaintShape(cairo_t* Context, const FShape& Shape);
 
+/** How far outside of its area a shape may draw, in pixels. */
+double ReachOfShape(StandIn::EBrushShape Kind, double Scale);
+
+/** How far outside of its area a shadow of Reach units draws, in pixels. */
+double ReachOfShadow(const FShape& Shape, double Reach);
+
 /** Draws a soft shadow of Reach units around and a little below an area, as a shape's color has it at its darkest. */
 void PaintShadow(cairo_t* Context, const FShape& Shape, double Reach);
 }

@@ -2,94 +2,131 @@
 
 #include "Host/Painter/WindowPainter.h"
 
-#include "Host/Painter/ShapePainter.h"
+#include "Host/Painter/Damage.h"
+#include "Host/Painter/PaintList.h"
 
-#include "Styling/CoreStyle.h"
-
-#include <array>
 #include <cmath>
-#include <cstring>
 
 namespace TintmillHost
 {
 namespace
 {
-/** How far a pop-up's shadow reaches, in units. */
-constexpr double ShadowReach = 8.0;
-
-void PaintPopupShadow(cairo_t* Context, const SWindow& Window, double Scale)
+/** Paints what lies in an area, from nothing. */
+void PaintArea(const FPaintList& List, const FIntRect& Area, FPicture& Picture)
 {
-	const FSlateBrush* const Brush = FCoreStyle::Get().GetBrush("Menu.Shadow");
-	FLinearColor Color = Brush->TintColor.GetSpecifiedColor();
-	Color.A *= Window.GetRenderOpacity();
-	FShape Shadow;
-	Shadow.Rect = ToDeviceRect(Window.GetRectInScreen(), Scale);
-	Shadow.Color = ToPaintColor(Color);
-	Shadow.Scale = Scale * Window.GetDPIScaleFactor();
-	PaintShadow(Context, Shadow, ShadowReach);
+	const FCairoSurface Surface(cairo_image_surface_create_for_data(
+		reinterpret_cast<unsigned char*>(Picture.Pixels.GetData()), CAIRO_FORMAT_RGB24, Picture.Width, Picture.Height, Picture.Width * 4));
+	const FCairoContext Context(cairo_create(Surface.get()));
+	cairo_rectangle(Context.get(), Area.Min.X, Area.Min.Y, Area.Width(), Area.Height());
+	cairo_clip(Context.get());
+	cairo_set_source_rgb(Context.get(), 0.0, 0.0, 0.0);
+	cairo_paint(Context.get());
+	cairo_translate(Context.get(), -List.GetOrigin().X, -List.GetOrigin().Y);
+	for (const FPaintItem& Item : List.GetItems())
+	{
+		if (Item.Bounds.Intersect(Area))
+		{
+			List.Paint(Context.get(), Item);
+		}
+	}
+	cairo_surface_flush(Surface.get());
+	// The fourth byte is whatever Cairo left there.
+	for (int32 Row = Area.Min.Y; Row < Area.Max.Y; ++Row)
+	{
+		FColor* const Pixels = Picture.Pixels.GetData() + static_cast<size_t>(Row) * Picture.Width;
+		for (int32 Column = Area.Min.X; Column < Area.Max.X; ++Column)
+		{
+			Pixels[Column].A = 255;
+		}
+	}
 }
 
-/** The usual arrow, its tip at the mouse's position. */
-void PaintPointer(cairo_t* Context, const FVector2D& Position, double Scale)
+/** What changed between the items of two pictures. */
+std::vector<FIntRect> FindChanges(FPaintList& List, const std::vector<FIntRect>& Before, const std::vector<std::ptrdiff_t>& Matches)
 {
-	constexpr std::array<std::array<double, 2>, 7> Outline = {
-		{{0.0, 0.0}, {0.0, 16.0}, {3.7, 12.6}, {6.2, 18.2}, {8.6, 17.1}, {6.2, 11.7}, {11.2, 11.3}}};
-	cairo_save(Context);
-	cairo_translate(Context, std::round(Position.X * Scale), std::round(Position.Y * Scale));
-	cairo_scale(Context, Scale, Scale);
-	for (const std::array<double, 2>& Point : Outline)
+	std::vector<FPaintItem>& Items = List.GetItems();
+	std::vector<FIntRect> Changes;
+	std::vector<bool> Stays(Before.size(), false);
+	for (size_t Item = 0; Item < Items.size(); ++Item)
 	{
-		cairo_line_to(Context, Point[0], Point[1]);
+		if (Matches[Item] == NoItem)
+		{
+			List.FindBounds(Items[Item]);
+			Changes.push_back(Items[Item].Bounds);
+			continue;
+		}
+		Items[Item].Bounds = Before[static_cast<size_t>(Matches[Item])];
+		Stays[static_cast<size_t>(Matches[Item])] = true;
 	}
-	cairo_close_path(Context);
-	FPaintColor{1.0, 1.0, 1.0, 1.0}.Use(Context);
-	cairo_fill_preserve(Context);
-	FPaintColor{0.0, 0.0, 0.0, 1.0}.Use(Context);
-	cairo_set_line_width(Context, 1.0);
-	cairo_stroke(Context);
-	cairo_restore(Context);
-}
-
-FPicture CopyPixels(cairo_surface_t* Surface)
-{
-	cairo_surface_flush(Surface);
-	FPicture Picture;
-	Picture.Width = cairo_image_surface_get_width(Surface);
-	Picture.Height = cairo_image_surface_get_height(Surface);
-	Picture.Pixels.SetNumUninitialized(Picture.Width * Picture.Height);
-	const unsigned char* const Rows = cairo_image_surface_get_data(Surface);
-	const ptrdiff_t Stride = cairo_image_surface_get_stride(Surface);
-	for (int32 Row = 0; Row < Picture.Height; ++Row)
+	for (size_t Place = 0; Place < Before.size(); ++Place)
 	{
-		std::memcpy(Picture.Pixels.GetData() + static_cast<size_t>(Row) * Picture.Width, Rows + Row * Stride,
-			static_cast<size_t>(Picture.Width) * 4);
+		if (!Stays[Place])
+		{
+			Changes.push_back(Before[Place]);
+		}
 	}
-	for (FColor& Pixel : Picture.Pixels)
-	{
-		Pixel.A = 255;
-	}
-	return Picture;
+	return Changes;
 }
 }
 
 FPicture PaintWindows(FElementPainter& Painter, const FWindowShot& Shot)
 {
-	const FCairoSurface Surface(cairo_image_surface_create(CAIRO_FORMAT_RGB24, static_cast<int>(std::lround(Shot.Size.X * Shot.Scale)),
-		static_cast<int>(std::lround(Shot.Size.Y * Shot.Scale))));
-	const FCairoContext Context(cairo_create(Surface.get()));
-	cairo_translate(Context.get(), -std::round(Shot.Origin.X * Shot.Scale), -std::round(Shot.Origin.Y * Shot.Scale));
-	for (const TSharedRef<SWindow>& Window : Shot.Windows)
+	FPicture Picture;
+	FKeptPicture(Painter).Update(Shot, Picture);
+	return Picture;
+}
+
+FKeptPicture::FKeptPicture(FElementPainter& InPainter)
+	: Painter(InPainter)
+{}
+
+TArray<FIntRect> FKeptPicture::Update(const FWindowShot& Shot, FPicture& InOutPicture)
+{
+	const int32 Width = std::max(1, static_cast<int32>(std::lround(Shot.Size.X * Shot.Scale)));
+	const int32 Height = std::max(1, static_cast<int32>(std::lround(Shot.Size.Y * Shot.Scale)));
+	const FIntRect Whole(0, 0, Width, Height);
+	const bool bOther = InOutPicture.Width != Width || InOutPicture.Height != Height || Scale != Shot.Scale || Origin != Shot.Origin;
+	if (bOther)
 	{
-		if (!Window->IsRegularWindow())
-		{
-			PaintPopupShadow(Context.get(), *Window, Shot.Scale);
-		}
-		Painter.Paint(Context.get(), Window->GetElementList(), Shot.Scale);
+		InOutPicture.Width = Width;
+		InOutPicture.Height = Height;
+		InOutPicture.Pixels.SetNumUninitialized(Width * Height);
+		Scale = Shot.Scale;
+		Origin = Shot.Origin;
+		Fingerprints.clear();
+		Bounds.clear();
 	}
-	if (Shot.Pointer.IsSet())
+
+	FPaintList List(Painter, Shot);
+	std::vector<FPaintItem>& Items = List.GetItems();
+	std::vector<std::uint64_t> Current(Items.size());
+	for (size_t Item = 0; Item < Items.size(); ++Item)
 	{
-		PaintPointer(Context.get(), Shot.Pointer.GetValue(), Shot.Scale);
+		List.Fingerprint(Items[Item]);
+		Current[Item] = Items[Item].Fingerprint;
 	}
-	return CopyPixels(Surface.get());
+	std::vector<FIntRect> Changes = FindChanges(List, Bounds, MatchInOrder(Fingerprints, Current));
+	if (bOther)
+	{
+		Changes = {Whole};
+	}
+	for (FIntRect& Change : Changes)
+	{
+		Change.Clip(Whole);
+	}
+
+	TArray<FIntRect> Painted;
+	for (const FIntRect& Area : JoinAreas(Changes))
+	{
+		PaintArea(List, Area, InOutPicture);
+		Painted.Add(Area);
+	}
+	Fingerprints = std::move(Current);
+	Bounds.resize(Items.size());
+	for (size_t Item = 0; Item < Items.size(); ++Item)
+	{
+		Bounds[Item] = Items[Item].Bounds;
+	}
+	return Painted;
 }
 }

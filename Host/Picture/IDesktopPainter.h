@@ -41,6 +41,12 @@ public:
 
 	/** Paints windows one above the other; menus and tool tips throw a shadow. */
 	virtual FPicture Paint(const FWindowShot& Shot) = 0;
+
+	/**
+	 * Does what Paint does in the one picture that Update filled last, which nobody else may change; returns the areas that were
+	 * painted again because something there changed, all of the picture after a change of size.
+	 */
+	virtual TArray<FIntRect> Update(const FWindowShot& Shot, FPicture& InOutPicture) = 0;
 };
 
 /** The painter of this program; null where it was built without one. */

@@ -26,6 +26,9 @@ struct FPictureView
 {
 	FIntPoint Size = FIntPoint(0, 0);
 	const FColor* Pixels = nullptr;
+
+	/** Tells pictures of one source apart; 0 where only the pixels do. */
+	uint64 Revision = 0;
 };
 
 /** Gives the picture of a viewport for an area of DeviceSize pixels; one of another size is stretched, no pixels leave it dark. */

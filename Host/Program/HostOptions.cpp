@@ -35,10 +35,15 @@ std::variant<FHostOptions, FHostExit> ParseCommandLine(const std::vector<std::st
 	std::string Exec;
 
 	CLI::App App("Opens a project of look files in an editor and shows its looks on the viewports.", "tintmill-editor");
-	App.add_option("PROJECT,--project", Options.Project, "Folder of the project; the demo project if left out");
+	App.add_option("PROJECT,--project", Options.Project, "Folder of look files, or a .uproject file; the demo project if left out");
 	App.add_flag("--headless", Options.bHeadless, "Run without a window");
+	App.add_flag(
+		"--last-session", Options.bLastSession, "Without a window too, begin with the layout and map of the last session and keep them");
 	CLI::Option* const ExecOption = App.add_option("--exec", Exec, "Console commands to run, separated by semicolons ('help' lists them)");
 	App.add_option("--tour", Options.Tour, "Tour file to play: console commands, one a line");
+	App.add_flag("--help-tours", Options.bHelpTours, "Print how tours are written and all their commands, and end");
+	App.add_flag("--times", Options.bTimes, "Print at the end how long the start and every command took");
+	CLI::Option* const ResumeOption = App.add_option("--resume", Options.Resume)->group("");
 	App.add_option("--out", Options.OutDir, "Folder for pictures and pages")->capture_default_str();
 	App.add_option("--size", Size, "Size of one pane in pixels")->capture_default_str();
 	App.add_option("--window", WindowSize, "Size of the editor's window in pixels")->capture_default_str();
@@ -64,6 +69,12 @@ std::variant<FHostOptions, FHostExit> ParseCommandLine(const std::vector<std::st
 		return FHostExit{2, std::string(Error.what()) + "\n"};
 	}
 
+	Options.Arguments = Arguments;
+	if (ResumeOption->count() > 0)
+	{
+		// The program itself adds the two at the end.
+		Options.Arguments.resize(Options.Arguments.size() - 2);
+	}
 	if (ExecOption->count() > 0)
 	{
 		Options.Exec = Exec;

@@ -21,6 +21,9 @@ struct FHostOptions
 	/** Run without a window. */
 	bool bHeadless = false;
 
+	/** Begin where the last session ended, and keep where this one goes, without a window too. */
+	bool bLastSession = false;
+
 	/** Folder for pictures and pages; created when the first one is written. */
 	std::filesystem::path OutDir = "out";
 
@@ -29,6 +32,18 @@ struct FHostOptions
 
 	/** Tour file to play; empty means none. */
 	std::filesystem::path Tour;
+
+	/** Print at the end how long the start and every command took. */
+	bool bTimes = false;
+
+	/** Print the commands of tours, and end. */
+	bool bHelpTours = false;
+
+	/** What another run of the same tour has left for this one to go on with; empty means none. */
+	std::filesystem::path Resume;
+
+	/** The arguments as they were given, without those about resuming. */
+	std::vector<std::string> Arguments;
 
 	/** Size of one pane's picture in pixels, as long as no window is open for the panes to fill. */
 	int Width = 640;

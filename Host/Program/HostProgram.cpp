@@ -4,24 +4,36 @@
 
 #include "Host/Commands/AssetCommands.h"
 #include "Host/Commands/EditorCommands.h"
+#include "Host/Commands/FileCommands.h"
 #include "Host/Commands/ListCommands.h"
+#include "Host/Commands/MouseCommands.h"
 #include "Host/Commands/PictureCommands.h"
 #include "Host/Commands/PlayCommands.h"
 #include "Host/Commands/RecordCommands.h"
+#include "Host/Commands/ShotCommands.h"
+#include "Host/Commands/TourCommands.h"
 #include "Host/Commands/UiCommands.h"
-#include "Host/Console/CommandText.h"
+#include "Host/Editor/Looks.h"
 #include "Host/Editor/Panes.h"
+#include "Host/Program/HostState.h"
+#include "Host/Program/Progress.h"
+#include "Host/Program/QuitRequest.h"
+#include "Host/Program/ScanProgress.h"
+#include "Host/TourRun/ProjectRoad.h"
+#include "Host/TourRun/TourHelp.h"
+#include "Host/TourRun/TourListener.h"
+#include "Host/TourRun/TourTimes.h"
+#include "Host/Picture/PngFile.h"
 #include "Host/Window/WindowRun.h"
 
+#include "Misc/ConfigCacheIni.h"
 #include "Misc/OutputDeviceRedirector.h"
 #include "Modules/ModuleManager.h"
-#include "StandIn/LookFiles.h"
 
 #include <algorithm>
 #include <cmath>
 #include <fstream>
 #include <iostream>
-#include <iterator>
 
 namespace TintmillHost
 {
@@ -29,6 +41,8 @@ namespace
 {
 /** What a run without a window does when nothing else was asked for. */
 constexpr const char* DefaultCommands = "registered TintmillEditor; panes; pictures; notices";
+/** What a run does that nothing was asked of and that can save no pictures. */
+constexpr const char* DefaultCommandsWithoutPictures = "registered TintmillEditor; panes; draw; notices";
 
 constexpr double FrameSeconds = 1.0 / 60.0;
 }
@@ -47,36 +61,73 @@ FHostProgram::~FHostProgram()
 
 int FHostProgram::Run()
 {
+	if (Options.bHelpTours)
+	{
+		RegisterCommands();
+		PrintTourHelp(Console, std::cout);
+		return 0;
+	}
 	if (const std::string Problem = Project.Open(Options.Project); !Problem.empty())
 	{
 		std::cerr << Problem << '\n';
 		return 2;
 	}
 
+	const bool bHasUser = HasUser();
+	bKeepsState = bHasUser || Options.bLastSession;
 	StartEditor();
 	RegisterCommands();
-	const bool bCommandsDone = HasUser() ? RunInWindow(*this) == 0 : RunCommands();
+	const bool bCommandsDone = bHasUser ? RunInWindow(*this) == 0 : RunCommands();
 	const bool bGalleryWritten = WriteGallery();
 	ExitEditor();
-	return bCommandsDone && bGalleryWritten ? 0 : 2;
+	const bool bTourFinished = FinishTour();
+	Project.Close();
+	if (!bHasUser && FQuitRequest::IsRequested())
+	{
+		return FQuitRequest::GetExitCode();
+	}
+	return bCommandsDone && bGalleryWritten && bTourFinished ? 0 : 2;
+}
+
+void FHostProgram::PollFiles(double Seconds)
+{
+	const TArray<UTintmillObject*> ChangedLooks = ContentWatch->Poll(Seconds);
+	if (LookBuilders && ChangedLooks.Num() > 0)
+	{
+		LookBuilders->Regrade(ChangedLooks);
+	}
+}
+
+void FHostProgram::TickFrame(double Seconds)
+{
+	RedrawChangedPanes();
+	EngineLoop.TickFrame(static_cast<float>(Seconds));
+	DrawResizedPanes();
+	KeepState();
 }
 
 void FHostProgram::TickEditor(double Seconds)
 {
-	const TArray<UTintmillObject*> ChangedLooks = StandIn::PollLookFiles();
-	if (LookBuilders)
-	{
-		LookBuilders->Regrade(ChangedLooks);
-	}
-	if (Window)
-	{
-		RedrawChangedPanes();
-	}
 	const int Frames = std::max(1, static_cast<int>(std::lround(Seconds / FrameSeconds)));
 	for (int Frame = 0; Frame < Frames; ++Frame)
 	{
+		PollFiles(FrameSeconds);
+		if (Window)
+		{
+			RedrawChangedPanes();
+		}
 		EngineLoop.TickFrame(static_cast<float>(FrameSeconds));
 	}
+	KeepState();
+}
+
+void FHostProgram::KeepState()
+{
+	if (bKeepsState)
+	{
+		EditorState.Keep();
+	}
+	TickState();
 }
 
 void FHostProgram::StartEditor()
@@ -85,17 +136,34 @@ void FHostProgram::StartEditor()
 
 	StandIn::FEngineLoopOptions LoopOptions;
 	LoopOptions.MaximizedPane = NAME_None;
+	if (GConfig == nullptr)
+	{
+		FConfigCacheIni::InitializeConfigSystem();
+	}
+	if (bKeepsState)
+	{
+		EditorState.Restore(LoopOptions);
+	}
 	StartClock.EndPhase("program and project");
 	EngineLoop.PreInit(LoopOptions);
 	// The plug-in loaded it already. If it could not, the program has nothing to show and says so as the engine does.
 	FModuleManager::Get().LoadModuleChecked(TEXT("TintmillEditor"));
 	StartClock.EndPhase("object system, modules, settings, looks");
-	EngineLoop.Init();
-	StartClock.EndPhase("engine object");
+	{
+		const FScanProgress Progress;
+		EngineLoop.Init();
+	}
+	StartClock.EndPhase("engine object, assets found");
+	ContentWatch.emplace(Project.GetContentFolder());
+	OtherAssets.emplace();
 	SceneViews.emplace();
 	LookBuilders.emplace();
 	PlayScene.emplace(*SceneViews);
 	EngineLoop.InitEditor();
+	if (bKeepsState)
+	{
+		EditorState.FinishRestoring();
+	}
 	StartClock.EndPhase("level editor, panes restored");
 	ResizePanes();
 	TickEditor(FrameSeconds);
@@ -122,14 +190,16 @@ FEditorWindow& FHostProgram::GetWindow()
 
 void FHostProgram::RegisterCommands()
 {
-	Console.Add("times", "show how long the start took, phase by phase",
-		[this](const FArguments&, std::ostream& Output) { StartClock.Print(Output); });
 	AddAssetCommands(Console, *this);
 	AddEditorCommands(Console, *this);
+	AddFileCommands(Console, *this);
 	AddListCommands(Console);
+	AddMouseCommands(Console, *this);
 	AddPictureCommands(Console, *this);
 	AddPlayCommands(Console, *this);
 	AddRecordCommands(Console);
+	AddShotCommands(Console, *this);
+	AddTourCommands(Console, *this);
 	AddUiCommands(Console, *this);
 }
 
@@ -148,59 +218,124 @@ bool FHostProgram::HasUser() const
 	return bDisplay;
 }
 
-bool FHostProgram::RunCommands()
+FTour FHostProgram::ChooseTour(std::string& OutProblem) const
 {
-	std::string Commands = Options.bList ? "registered" : Options.Exec.value_or(DefaultCommands);
+	FTour Tour;
 	if (!Options.Tour.empty())
 	{
-		std::ifstream Tour(Options.Tour);
-		if (!Tour)
-		{
-			std::cerr << "The tour " << Options.Tour.string() << " cannot be read; give a text file of console commands with --tour.\n";
-			return false;
-		}
-		Commands.assign(std::istreambuf_iterator<char>(Tour), std::istreambuf_iterator<char>());
+		OutProblem = ReadTour(Options.Tour, Tour);
+		return Tour;
 	}
-
-	for (const std::string& Command : SplitCommands(Commands))
+	if (Options.bList || Options.Exec)
 	{
-		try
+		return MakeTour("", Options.bList ? "registered" : *Options.Exec);
+	}
+	if (!HasPngFiles())
+	{
+		return MakeTour("", DefaultCommandsWithoutPictures);
+	}
+	if (Project.IsDemo())
+	{
+		OutProblem = ReadTour(ShortenPath(FProject::GetDemoTour()), Tour);
+		return Tour;
+	}
+	return MakeTour("", MakeProjectRoad(Project.GetName(), ListLooks()));
+}
+
+bool FHostProgram::RunCommands()
+{
+	std::string Problem;
+	const FTour Tour = ChooseTour(Problem);
+	if (!Problem.empty())
+	{
+		std::cerr << Problem << '\n';
+		return false;
+	}
+	if (!Options.Resume.empty())
+	{
+		std::ifstream State(Options.Resume, std::ios::binary);
+		if (!TourRun.TakeOver(State))
 		{
-			Console.Run(Command, std::cout);
-			std::cout.flush();
-		}
-		catch (const FCommandError& Error)
-		{
-			std::cerr << Error.what() << '\n';
+			std::cerr << "The tour cannot go on: " << Options.Resume.string() << " does not hold what the run before has left.\n";
 			return false;
 		}
+		State.close();
+		std::error_code Ignored;
+		std::filesystem::remove(Options.Resume, Ignored);
 	}
+	TourRun.SetListener(MakeTourListener(*this));
+	return TourRun.Play(Tour, std::cout, std::cerr);
+}
+
+bool FHostProgram::FinishTour()
+{
+	if (TourRun.WantsRestart())
+	{
+		return HandTourOver();
+	}
+	TourRun.GetFiles().RemoveAll();
+	const std::string Problem = TourRun.GetKeptSettings().PutBack();
+	if (!Problem.empty())
+	{
+		std::cerr << Problem << '\n';
+	}
+	if (Options.bTimes)
+	{
+		StartClock.Print(std::cout);
+		PrintTourTimes(std::cout, TourRun.GetCommands());
+	}
+	if (!WrittenPage.empty())
+	{
+		std::cout << "All pictures: " << WrittenPage.string() << std::endl;
+	}
+	return Problem.empty();
+}
+
+bool FHostProgram::HandTourOver()
+{
+	const std::filesystem::path File = Options.OutDir / "tour-to-go-on.tmp";
+	std::error_code Error;
+	std::filesystem::create_directories(Options.OutDir, Error);
+	std::ofstream State(File, std::ios::binary);
+	TourRun.HandOver(State);
+	if (!State.flush())
+	{
+		std::cerr << "The tour cannot go on after the restart: " << File.string()
+				  << " cannot be written. Choose another folder with --out.\n";
+		return false;
+	}
+	ArgumentsToGoOn = Options.Arguments;
+	ArgumentsToGoOn.insert(ArgumentsToGoOn.end(), {"--resume", File.string()});
 	return true;
 }
 
 bool FHostProgram::WriteGallery()
 {
-	if (Gallery.IsEmpty())
+	if (Gallery.IsEmpty() || TourRun.WantsRestart())
 	{
 		return true;
 	}
+	const FProgress Progress("Writing the page");
 	const std::filesystem::path File = Options.OutDir / "index.html";
-	if (const std::string Problem = Gallery.Write(File, Project.GetName(), Log.GetText()); !Problem.empty())
+	if (const std::string Problem = Gallery.Write(File, Project.GetName(), TourRun.MakeLog()); !Problem.empty())
 	{
 		std::cerr << Problem << '\n';
 		return false;
 	}
-	std::cout << "All pictures: " << File.string() << '\n';
+	WrittenPage = File;
 	return true;
 }
 
 void FHostProgram::ExitEditor()
 {
+	FlushState();
+	ContentWatch.reset();
 	LookBuilders.reset();
 	Window.reset();
 	EngineLoop.CloseMainFrame();
 	PlayScene.reset();
 	SceneViews.reset();
+	OtherAssets.reset();
 	EngineLoop.Exit();
 }
 }

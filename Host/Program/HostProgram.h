@@ -2,15 +2,19 @@
 
 #pragma once
 
+#include "Host/Assets/TextureAssets.h"
 #include "Host/Console/Console.h"
 #include "Host/Editor/PlayScene.h"
 #include "Host/Editor/SceneViews.h"
 #include "Host/Gallery/GalleryPage.h"
 #include "Host/LookBuilder/LookBuilderWindows.h"
+#include "Host/Program/ContentWatch.h"
+#include "Host/Program/EditorState.h"
 #include "Host/Program/HostLog.h"
 #include "Host/Program/HostOptions.h"
 #include "Host/Program/PhaseClock.h"
 #include "Host/Program/Project.h"
+#include "Host/TourRun/TourRun.h"
 #include "Host/Ui/EditorWindow.h"
 #include "Host/Ui/Person.h"
 
@@ -55,19 +59,44 @@ public:
 	/** The folder for pictures and pages. */
 	const std::filesystem::path& GetOutDir() const { return Options.OutDir; }
 
+	/** The tour that is being carried out: the commands of the run, wherever they come from. */
+	FTourRun& GetTourRun() { return TourRun; }
+
+	/** How long the start took. */
+	const FPhaseClock& GetStartClock() const { return StartClock; }
+
+	/** The folder that holds the project's looks. */
+	std::filesystem::path GetContentFolder() const { return Project.GetContentFolder(); }
+
+	/** Whether the editor's window is open. */
+	bool IsWindowOpen() const { return Window.has_value(); }
+
+	/** The arguments for another run that goes on where this one has ended; empty if none is to go on. Valid after Run. */
+	const std::vector<std::string>& GetArgumentsToGoOn() const { return ArgumentsToGoOn; }
+
 	/** The page that the run leaves behind. */
 	FGalleryPage& GetGallery() { return Gallery; }
 
 	/** Runs frames of the editor, for Seconds at 60 frames a second, at least one. */
 	void TickEditor(double Seconds);
 
+	/** Follows what has changed in the content folder since the last call, Seconds ago. */
+	void PollFiles(double Seconds);
+
+	/** Runs one frame of the editor that lasts Seconds; the panes are drawn in the size they have at its end. */
+	void TickFrame(double Seconds);
+
 private:
 	void StartEditor();
 	void RegisterCommands();
 	bool HasUser() const;
+	FTour ChooseTour(std::string& OutProblem) const;
 	bool RunCommands();
+	bool FinishTour();
+	bool HandTourOver();
 	bool WriteGallery();
 	void ExitEditor();
+	void KeepState();
 
 	FPhaseClock StartClock;
 	FHostOptions Options;
@@ -76,7 +105,15 @@ private:
 	FProject Project;
 	FConsole Console;
 	FGalleryPage Gallery;
+	FTourRun TourRun{Console, Gallery, Log};
+	std::vector<std::string> ArgumentsToGoOn;
+	std::filesystem::path WrittenPage;
+	FTextureFiles TextureFiles;
+	FEditorState EditorState;
+	bool bKeepsState = false;
 	StandIn::FEngineLoop EngineLoop;
+	std::optional<FContentWatch> ContentWatch;
+	std::optional<FOtherAssets> OtherAssets;
 	std::optional<FSceneViews> SceneViews;
 	std::optional<FPlayScene> PlayScene;
 	std::optional<FEditorWindow> Window;

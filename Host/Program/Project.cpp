@@ -7,38 +7,102 @@
 #include "Misc/App.h"
 #include "Misc/Paths.h"
 #include "StandIn/AssetFiles.h"
+#include "StandIn/AtomicFile.h"
+#include "StandIn/Notices.h"
 
+#include <iostream>
 #include <system_error>
 
 namespace TintmillHost
 {
-std::string FProject::Open(const std::filesystem::path& InFolder)
+namespace
 {
-	const std::filesystem::path Wanted = InFolder.empty() ? std::filesystem::path(TINTMILL_DEMO_PROJECT) : InFolder;
-	std::error_code Error;
-	const std::filesystem::file_status Status = std::filesystem::status(Wanted, Error);
-	if (!std::filesystem::exists(Status))
+constexpr const char* WhatToGive = "give the folder that holds your look files with --project.";
+
+/** The longest name of a project that the engine takes, in UTF-8. */
+constexpr size_t MaxNameLength = 63;
+
+/** The beginning of a text, cut between two characters. */
+std::string CutText(std::string Text, size_t MaxLength)
+{
+	if (Text.size() > MaxLength)
 	{
-		return "There is no project folder " + Wanted.string() + ": give the folder that holds your look files with --project.";
+		while (MaxLength > 0 && (static_cast<unsigned char>(Text[MaxLength]) & 0xC0) == 0x80)
+		{
+			--MaxLength;
+		}
+		Text.resize(MaxLength);
+	}
+	return Text;
+}
+}
+
+std::string FProject::Open(const std::filesystem::path& FolderOrFile)
+{
+	std::filesystem::path Wanted = FolderOrFile.empty() ? std::filesystem::path(TINTMILL_DEMO_PROJECT) : FolderOrFile;
+	std::filesystem::path Preferred;
+	std::error_code Error;
+	std::filesystem::file_status Status = std::filesystem::status(Wanted, Error);
+	if (std::filesystem::is_regular_file(Status) && Wanted.extension() == ".uproject")
+	{
+		Wanted = std::filesystem::absolute(Wanted, Error);
+		Preferred = Wanted.filename();
+		Wanted = Wanted.parent_path();
+		Status = std::filesystem::status(Wanted, Error);
+	}
+	const std::string Name = PathToUtf8(Wanted);
+	if (Status.type() == std::filesystem::file_type::not_found)
+	{
+		return "There is no project folder " + Name + ": " + WhatToGive;
+	}
+	if (Status.type() == std::filesystem::file_type::none)
+	{
+		return "The project folder " + Name + " cannot be reached: " + Error.message() + ".";
 	}
 	if (!std::filesystem::is_directory(Status))
 	{
-		return Wanted.string() + " is not a folder: give the folder that holds your look files with --project.";
+		return Name + " is not a folder: " + WhatToGive;
 	}
 	std::filesystem::directory_iterator(Wanted, Error);
 	if (Error)
 	{
-		return "The project folder " + Wanted.string() + " cannot be read: " + Error.message() + ".";
+		return "The project folder " + Name + " cannot be read: " + Error.message() + ".";
 	}
 	Folder = std::filesystem::canonical(Wanted, Error);
+	FindProjectFile(Preferred);
+	TakeLock();
 	return {};
 }
 
 void FProject::Mount() const
 {
-	FPaths::SetProjectFilePath(FromUtf8(FindProjectFile().string()));
-	FApp::SetProjectName(*FromUtf8(GetName().substr(0, 63)));
-	StandIn::RegisterMountPoint(TEXT("/Game/"), FromUtf8(GetContentFolder().string()) + TEXT("/"));
+	FPaths::SetProjectFilePath(PathToEngine(ProjectFile));
+	FApp::SetProjectName(*FromUtf8(CutText(GetName(), MaxNameLength)));
+	// In a plain folder of looks, the settings are among them.
+	StandIn::RegisterMountPoint(TEXT("/Game/"), PathToEngine(GetContentFolder()), {PathToEngine(Folder / "Saved")});
+	StandIn::AllowSaves();
+	if (!ReadOnlySentence.empty())
+	{
+		StandIn::RefuseSaves(PathToEngine(Folder), FromUtf8(ReadOnlyReason));
+		StandIn::AddNotice(TEXT("Project.ReadOnly"), FromUtf8(ReadOnlySentence));
+		std::cerr << ReadOnlySentence << '\n';
+	}
+}
+
+void FProject::Close()
+{
+	Lock.reset();
+}
+
+bool FProject::IsDemo() const
+{
+	std::error_code Error;
+	return std::filesystem::equivalent(Folder, TINTMILL_DEMO_PROJECT, Error);
+}
+
+std::filesystem::path FProject::GetDemoTour()
+{
+	return std::filesystem::path(TINTMILL_DEMO_PROJECT).parent_path() / "Tours" / "demo.tour";
 }
 
 std::filesystem::path FProject::GetContentFolder() const
@@ -50,19 +114,55 @@ std::filesystem::path FProject::GetContentFolder() const
 
 std::string FProject::GetName() const
 {
-	return FindProjectFile().stem().string();
+	return PathToUtf8(ProjectFile.stem());
 }
 
-std::filesystem::path FProject::FindProjectFile() const
+void FProject::FindProjectFile(const std::filesystem::path& Preferred)
 {
-	std::error_code Error;
-	for (const std::filesystem::directory_entry& Entry : std::filesystem::directory_iterator(Folder, Error))
+	if (!Preferred.empty())
 	{
-		if (Entry.path().extension() == ".uproject")
+		ProjectFile = Folder / Preferred;
+		return;
+	}
+	ProjectFile.clear();
+	std::error_code Error;
+	for (std::filesystem::directory_iterator It(Folder, Error), End; !Error && It != End; It.increment(Error))
+	{
+		// Of several, the first by name, in whatever order the system lists them.
+		if (It->path().extension() == ".uproject" && (ProjectFile.empty() || It->path() < ProjectFile))
 		{
-			return Entry.path();
+			ProjectFile = It->path();
 		}
 	}
-	return Folder / (Folder.filename().string() + ".uproject");
+	if (ProjectFile.empty())
+	{
+		const std::filesystem::path Name = Folder.has_filename() ? Folder.filename() : std::filesystem::path("Root");
+		ProjectFile = Folder / Name;
+		ProjectFile += ".uproject";
+	}
+}
+
+void FProject::TakeLock()
+{
+	std::string Why;
+	Lock = std::make_unique<FProjectLock>();
+	ReadOnlySentence.clear();
+	ReadOnlyReason.clear();
+	switch (Lock->Take(Folder, Why))
+	{
+	case EProjectLock::HeldByOther:
+		ReadOnlyReason = "the project is open in another editor";
+		ReadOnlySentence = "The project " + GetName()
+			+ " is open in another Tintmill editor; this one shows it and saves nothing. Close the other one and "
+			  "start again to save.";
+		break;
+	case EProjectLock::NotWritable:
+		ReadOnlyReason = "the project's folder cannot be written to: " + Why;
+		ReadOnlySentence = "Nothing can be saved in the project's folder " + PathToUtf8(Folder) + " (" + Why
+			+ "), so changes last until the editor is closed.";
+		break;
+	case EProjectLock::Held:
+		break;
+	}
 }
 }

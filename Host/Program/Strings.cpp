@@ -2,6 +2,8 @@
 
 #include "Host/Program/Strings.h"
 
+#include <algorithm>
+
 namespace TintmillHost
 {
 std::string ToUtf8(const FString& String)
@@ -13,5 +15,31 @@ std::string ToUtf8(const FString& String)
 FString FromUtf8(const std::string& String)
 {
 	return FString(UTF8_TO_TCHAR(String.c_str()));
+}
+
+std::string PathToUtf8(const std::filesystem::path& Path)
+{
+	const std::u8string Text = Path.u8string();
+	return std::string(Text.begin(), Text.end());
+}
+
+FString PathToEngine(const std::filesystem::path& Path)
+{
+	const std::u8string Text = Path.generic_u8string();
+	return FromUtf8(std::string(Text.begin(), Text.end()));
+}
+
+std::string ToLowerCase(const std::string& String)
+{
+	if (std::any_of(String.begin(), String.end(), [](char Character) { return static_cast<unsigned char>(Character) >= 0x80; }))
+	{
+		return ToUtf8(FromUtf8(String).ToLower());
+	}
+	std::string Lowered = String;
+	for (char& Character : Lowered)
+	{
+		Character = Character >= 'A' && Character <= 'Z' ? static_cast<char>(Character + ('a' - 'A')) : Character;
+	}
+	return Lowered;
 }
 }

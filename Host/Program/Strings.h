@@ -4,6 +4,7 @@
 
 #include "CoreMinimal.h"
 
+#include <filesystem>
 #include <string>
 
 // Between the engine's strings and the standard library's, which hold UTF-8 here.
@@ -15,4 +16,13 @@ std::string ToUtf8(const FString& String);
 
 /** UTF-8 as an engine string. */
 FString FromUtf8(const std::string& String);
+
+/** A path as UTF-8, with the system's own slashes. */
+std::string PathToUtf8(const std::filesystem::path& Path);
+
+/** A path as the engine writes paths: with forward slashes. */
+FString PathToEngine(const std::filesystem::path& Path);
+
+/** UTF-8 in lower case, for comparing whatever the case. */
+std::string ToLowerCase(const std::string& String);
 }

@@ -21,7 +21,7 @@ FEditorWindow::FEditorWindow(const FIntPoint& InSize, const std::string& Project
 		Painter->SetPictures(
 			[this](const ISlateViewport& Viewport, const FIntPoint& DeviceSize) { return PanePictures.Find(Viewport, DeviceSize); },
 			[this, MoreBrushPictures](const FSlateBrush& Brush, const FIntPoint& DeviceSize) {
-				const FPictureView Thumbnail = Thumbnails.Find(Brush);
+				const FPictureView Thumbnail = Thumbnails.Find(Brush, DeviceSize);
 				return Thumbnail.Pixels ? Thumbnail : MoreBrushPictures(Brush, DeviceSize);
 			});
 	}
@@ -30,6 +30,7 @@ FEditorWindow::FEditorWindow(const FIntPoint& InSize, const std::string& Project
 	// clang-format off
 	Window = SNew(SWindow)
 		.AutoCenter(EAutoCenter::None)
+		.CreateTitleBar(false)
 		.ClientSize(FVector2D(static_cast<float>(Size.X), static_cast<float>(Size.Y)))
 		[
 			SNew(SEditorFrame)
@@ -37,11 +38,14 @@ FEditorWindow::FEditorWindow(const FIntPoint& InSize, const std::string& Project
 			.LevelEditor(LevelEditor)
 		];
 	// clang-format on
+	Window->GetOnWindowActivatedEvent().AddRaw(this, &FEditorWindow::StayBehind);
 	FSlateApplication::Get().AddWindow(Window.ToSharedRef());
+	Resize(Size);
 }
 
 FEditorWindow::~FEditorWindow()
 {
+	Window->GetOnWindowActivatedEvent().RemoveAll(this);
 	Window->SetContent(SNullWidget::NullWidget);
 	if (FSlateApplication::IsInitialized())
 	{
@@ -52,7 +56,21 @@ FEditorWindow::~FEditorWindow()
 void FEditorWindow::Resize(const FIntPoint& NewSize)
 {
 	Size = NewSize;
-	Window->Resize(FVector2D(static_cast<float>(Size.X), static_cast<float>(Size.Y)));
+	const FVector2D Area(static_cast<float>(Size.X), static_cast<float>(Size.Y));
+	Window->Resize(Area);
+	FSlateApplication::Get().SetWorkArea(FSlateRect::FromPointAndExtent(FVector2D(0.0f, 0.0f), Area));
+}
+
+void FEditorWindow::StayBehind()
+{
+	const TArray<TSharedRef<SWindow>> Others = FSlateApplication::Get().GetInteractiveTopLevelWindows();
+	for (const TSharedRef<SWindow>& Other : Others)
+	{
+		if (Other != Window)
+		{
+			Other->BringToFront();
+		}
+	}
 }
 
 FPicture FEditorWindow::TakePicture(double Scale)
@@ -70,6 +88,16 @@ FPicture FEditorWindow::TakePictureOf(const TSharedRef<SWindow>& Shown, double S
 	Shot.Origin = Shown->GetPositionInScreen().IntPoint();
 	Shot.Size = Shown->GetSizeInScreen().IntPoint();
 	return Take(Shot, Scale);
+}
+
+TArray<FIntRect> FEditorWindow::UpdatePicture(FPicture& InOutPicture)
+{
+	FWindowShot Shot;
+	FSlateApplication::Get().GetAllVisibleWindowsOrdered(Shot.Windows);
+	Shot.Size = Size;
+	const TArray<FIntRect> Changes = Painter ? Painter->Update(Shot, InOutPicture) : TArray<FIntRect>();
+	PanePictures.Forget();
+	return Changes;
 }
 
 FPicture FEditorWindow::Take(FWindowShot& Shot, double Scale)

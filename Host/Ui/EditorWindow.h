@@ -38,7 +38,16 @@ public:
 	/** The same of one window alone, such as a look builder's. */
 	FPicture TakePictureOf(const TSharedRef<SWindow>& Shown, double Scale);
 
+	/** Brings a picture of the window without the mouse, which UpdatePicture filled last, up to date; returns the areas that changed. */
+	TArray<FIntRect> UpdatePicture(FPicture& InOutPicture);
+
+	/** The window as Slate knows it. */
+	TSharedRef<SWindow> GetSlateWindow() const { return Window.ToSharedRef(); }
+
 private:
+	/** The window fills the desktop: in front it would hide all others. */
+	void StayBehind();
+
 	FPicture Take(FWindowShot& Shot, double Scale);
 
 	/** Null where the program was built without one. */

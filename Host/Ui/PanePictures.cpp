@@ -59,11 +59,15 @@ FPictureView FPanePictures::Find(const ISlateViewport& Viewport, const FIntPoint
 	const bool bFiner = DeviceSize.X > OnScreen.Size.X && DeviceSize.Y > OnScreen.Size.Y;
 	if (!bFiner || Shown->GetClient() == nullptr)
 	{
-		return {OnScreen.Size, OnScreen.Pixels.GetData()};
+		return {OnScreen.Size, OnScreen.Pixels.GetData(), OnScreen.Revision};
 	}
 
 	// Drawn beside the viewport, which neither changes its size nor fires an event.
 	FPicture& Picture = Drawn[&Viewport];
+	if (Picture.Width == DeviceSize.X && Picture.Height == DeviceSize.Y)
+	{
+		return {DeviceSize, Picture.Pixels.GetData()};
+	}
 	Picture.Width = DeviceSize.X;
 	Picture.Height = DeviceSize.Y;
 	Picture.Pixels.SetNumZeroed(DeviceSize.X * DeviceSize.Y);

@@ -3,7 +3,6 @@
 #include "Host/Ui/Person.h"
 
 #include "Framework/Application/SlateApplication.h"
-#include "InputCoreTypes.h"
 
 namespace TintmillHost
 {
@@ -11,6 +10,9 @@ namespace
 {
 /** Longer than a tool tip's delay and fading in, and than an open submenu gives way to another. */
 constexpr double HoverSeconds = 0.6;
+
+/** A drag is seen by what it passes. */
+constexpr int DragSteps = 12;
 }
 
 FPerson::FPerson(std::function<void(double)> InWait)
@@ -19,7 +21,7 @@ FPerson::FPerson(std::function<void(double)> InWait)
 
 FPointerEvent FPerson::MakeEvent(const FVector2D& Place, const FKey& Button, float Wheel) const
 {
-	return FPointerEvent(0, Place, FSlateApplication::Get().GetCursorPos(), PressedButtons, Button, Wheel, FModifierKeysState());
+	return FPointerEvent(0, Place, FSlateApplication::Get().GetCursorPos(), PressedButtons, Button, Wheel, Modifiers);
 }
 
 void FPerson::MoveTo(const FVector2D& Place)
@@ -34,14 +36,54 @@ void FPerson::Hover(const FVector2D& Place)
 	Wait(HoverSeconds);
 }
 
-void FPerson::Click(const FVector2D& Place)
+void FPerson::PushButton(const FVector2D& Place, const FKey& Button, bool bDoubleClick)
+{
+	FSlateApplication& Application = FSlateApplication::Get();
+	PressedButtons.Add(Button);
+	if (bDoubleClick)
+	{
+		Application.ProcessMouseButtonDoubleClickEvent(nullptr, MakeEvent(Place, Button));
+	}
+	else
+	{
+		Application.ProcessMouseButtonDownEvent(nullptr, MakeEvent(Place, Button));
+	}
+}
+
+void FPerson::ReleaseButton(const FVector2D& Place, const FKey& Button)
+{
+	PressedButtons.Remove(Button);
+	FSlateApplication::Get().ProcessMouseButtonUpEvent(MakeEvent(Place, Button));
+}
+
+void FPerson::Click(const FVector2D& Place, const FKey& Button)
 {
 	MoveTo(Place);
-	FSlateApplication& Application = FSlateApplication::Get();
-	PressedButtons.Add(EKeys::LeftMouseButton);
-	Application.ProcessMouseButtonDownEvent(nullptr, MakeEvent(Place, EKeys::LeftMouseButton));
-	PressedButtons.Remove(EKeys::LeftMouseButton);
-	Application.ProcessMouseButtonUpEvent(MakeEvent(Place, EKeys::LeftMouseButton));
+	PushButton(Place, Button, false);
+	ReleaseButton(Place, Button);
+	Wait(0.0);
+}
+
+void FPerson::DoubleClick(const FVector2D& Place)
+{
+	MoveTo(Place);
+	for (const bool bSecond : {false, true})
+	{
+		PushButton(Place, EKeys::LeftMouseButton, bSecond);
+		ReleaseButton(Place, EKeys::LeftMouseButton);
+	}
+	Wait(0.0);
+}
+
+void FPerson::Drag(const FVector2D& From, const FVector2D& To, const FKey& Button)
+{
+	MoveTo(From);
+	PushButton(From, Button, false);
+	for (int Step = 1; Step <= DragSteps; ++Step)
+	{
+		MoveTo(From + (To - From) * (static_cast<float>(Step) / DragSteps));
+	}
+	ReleaseButton(To, Button);
 	Wait(0.0);
 }
 
@@ -54,10 +96,10 @@ void FPerson::TurnWheel(float Notches)
 
 bool FPerson::Press(const FInputChord& Chord)
 {
-	const FModifierKeysState Modifiers(Chord.bShift, false, Chord.bCtrl, false, Chord.bAlt, false, Chord.bCmd, false, false);
+	const FModifierKeysState Keys(Chord.bShift, false, Chord.bCtrl, false, Chord.bAlt, false, Chord.bCmd, false, false);
 	FSlateApplication& Application = FSlateApplication::Get();
-	const bool bDown = Application.ProcessKeyDownEvent(FKeyEvent(Chord.Key, Modifiers, 0, false, 0, 0));
-	const bool bUp = Application.ProcessKeyUpEvent(FKeyEvent(Chord.Key, Modifiers, 0, false, 0, 0));
+	const bool bDown = Application.ProcessKeyDownEvent(FKeyEvent(Chord.Key, Keys, 0, false, 0, 0));
+	const bool bUp = Application.ProcessKeyUpEvent(FKeyEvent(Chord.Key, Keys, 0, false, 0, 0));
 	Wait(0.0);
 	return bDown || bUp;
 }

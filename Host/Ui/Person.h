@@ -6,6 +6,7 @@
 #include "Containers/Set.h"
 #include "Framework/Commands/InputChord.h"
 #include "Input/Events.h"
+#include "InputCoreTypes.h"
 
 #include <functional>
 #include <string>
@@ -24,8 +25,17 @@ public:
 	/** Moves the mouse to a place and rests there until tool tips and submenus have come. */
 	void Hover(const FVector2D& Place);
 
-	/** Presses and releases the left button at a place. */
-	void Click(const FVector2D& Place);
+	/** Presses and releases a button at a place, the left one if none is named. */
+	void Click(const FVector2D& Place, const FKey& Button = EKeys::LeftMouseButton);
+
+	/** Clicks with the left button twice, so fast that it counts as a double click. */
+	void DoubleClick(const FVector2D& Place);
+
+	/** Presses a button at a place, moves the mouse to another in small steps, and releases the button there. */
+	void Drag(const FVector2D& From, const FVector2D& To, const FKey& Button = EKeys::LeftMouseButton);
+
+	/** Sets the modifier keys that are held while the mouse is used, until they are set anew. */
+	void HoldModifiers(const FModifierKeysState& InModifiers) { Modifiers = InModifiers; }
 
 	/** Turns the wheel by notches, positive away from the person, where the mouse is. */
 	void TurnWheel(float Notches);
@@ -38,9 +48,12 @@ public:
 
 private:
 	void MoveTo(const FVector2D& Place);
+	void PushButton(const FVector2D& Place, const FKey& Button, bool bDoubleClick);
+	void ReleaseButton(const FVector2D& Place, const FKey& Button);
 	FPointerEvent MakeEvent(const FVector2D& Place, const FKey& Button, float Wheel = 0.0f) const;
 
 	std::function<void(double)> Wait;
 	TSet<FKey> PressedButtons;
+	FModifierKeysState Modifiers;
 };
 }

@@ -2,6 +2,9 @@
 
 #include "Host/Ui/Sight.h"
 
+#include "Host/ContentBrowser/AssetWords.h"
+#include "Host/ContentBrowser/SContentBrowser.h"
+#include "Host/OutputLog/SLogLines.h"
 #include "Host/Program/Strings.h"
 
 #include "Framework/Application/SlateApplication.h"
@@ -27,6 +30,14 @@ FVector2D CenterOf(const SWidget& Widget)
 	return Widget.GetCachedGeometry().GetAbsolutePositionAtCoordinates(FVector2D(0.5f, 0.5f));
 }
 
+/** The name of a widget's class, whatever namespace it was named with. */
+FName GetShortType(const SWidget& Widget)
+{
+	const FString Type = Widget.GetType().ToString();
+	int32 Colon = INDEX_NONE;
+	return Type.FindLastChar(TEXT(':'), Colon) ? FName(*Type.RightChop(Colon + 1)) : Widget.GetType();
+}
+
 bool IsButton(const FName& Type)
 {
 	static const FName Types[] = {"SButton", "SEditorViewportToolbarMenu", "SEditorViewportViewMenu", "SLevelEditorViewportViewMenu"};
@@ -47,7 +58,7 @@ public:
 		{
 			return;
 		}
-		const FName Type = Widget->GetType();
+		const FName Type = GetShortType(*Widget);
 		const bool bNowEnabled = bEnabled && Widget->IsEnabled();
 		if (Type == "SMenuEntryRow")
 		{
@@ -61,6 +72,10 @@ public:
 			}
 			return;
 		}
+		else if (Type == "SContentBrowser")
+		{
+			NoteTiles(StaticCastSharedRef<SContentBrowser>(Widget));
+		}
 		else if (Type == "SAssetPickerList")
 		{
 			NoteAssets(Widget);
@@ -73,6 +88,19 @@ public:
 		else if (Type == "SEditableText")
 		{
 			NoteTextBox(Widget, bNowEnabled);
+		}
+		else if (Type == "SSplitter")
+		{
+			NoteHandles(Widget);
+		}
+		else if (Type == "SLogLines")
+		{
+			NoteLogLines(Widget, bNowEnabled);
+		}
+		else if (IsButton(Type) && Widget->GetTag() != NAME_None)
+		{
+			// One that shows a picture is known by its name.
+			Note(ESeenKind::Button, Widget->GetTag().ToString(), *Widget, bNowEnabled);
 		}
 		// The texts of a menu row are the row's label already.
 		FChildren* const Children = Widget->GetChildren();
@@ -138,6 +166,19 @@ private:
 		}
 	}
 
+	void NoteTiles(const TSharedRef<SContentBrowser>& Browser)
+	{
+		for (const FTilePlace& Place : Browser->GetPlaces())
+		{
+			FSeen& Thing = Note(ESeenKind::Tile, Place.Item->Label, *Browser, true);
+			Thing.Center = Place.Center;
+			Thing.bChecked = Place.bSelected;
+			Thing.bMarked = Place.Notches == 0 && !GetAssetProblem(*Place.Item).IsEmpty();
+			Thing.ScrollRows = -Place.Notches;
+			Thing.ListCenter = Browser->GetTilesCenter();
+		}
+	}
+
 	void NoteTextBox(const TSharedRef<SWidget>& Widget, bool bEnabled)
 	{
 		const TSharedRef<SEditableText> Box = StaticCastSharedRef<SEditableText>(Widget);
@@ -150,8 +191,41 @@ private:
 		}
 	}
 
+	void NoteLogLines(const TSharedRef<SWidget>& Widget, bool bEnabled)
+	{
+		for (const FSeenLogLine& Line : StaticCastSharedRef<SLogLines>(Widget)->ListSeen())
+		{
+			Note(ESeenKind::Text, FromUtf8(Line.Text), *Widget, bEnabled).Center = Line.Place;
+		}
+	}
+
+	/** The gaps between neighbors that are in sight. */
+	void NoteHandles(const TSharedRef<SWidget>& Splitter)
+	{
+		FChildren* const Children = Splitter->GetChildren();
+		const SWidget* Before = nullptr;
+		for (int32 Index = 0; Index < Children->Num(); ++Index)
+		{
+			const TSharedRef<SWidget> Child = Children->GetChildAt(Index);
+			if (!Child->GetVisibility().IsVisible())
+			{
+				continue;
+			}
+			if (Before != nullptr)
+			{
+				const FVector2D End = Before->GetCachedGeometry().GetAbsolutePositionAtCoordinates(FVector2D(1.0f, 1.0f));
+				const FVector2D Start = Child->GetCachedGeometry().GetAbsolutePositionAtCoordinates(FVector2D(0.0f, 0.0f));
+				FSeen& Thing = Note(ESeenKind::Splitter, FromUtf8("splitter " + std::to_string(++SplitterCount)), *Splitter, true);
+				Thing.Center = (End.X <= Start.X) ? FVector2D((End.X + Start.X) / 2.0f, CenterOf(*Splitter).Y)
+												  : FVector2D(CenterOf(*Splitter).X, (End.Y + Start.Y) / 2.0f);
+			}
+			Before = &Child.Get();
+		}
+	}
+
 	std::vector<FSeen>& Things;
 	FSeen Nameless;
+	int SplitterCount = 0;
 };
 
 std::string Lowered(const std::string& Text)
@@ -206,8 +280,8 @@ const FSeen* FindSeen(const std::vector<FSeen>& Things, const std::string& Label
 	const std::string LoweredLabel = Lowered(Label);
 	for (const bool bAnyCase : {false, true})
 	{
-		for (const ESeenKind Kind : {ESeenKind::MenuRow, ESeenKind::AssetRow, ESeenKind::Button, ESeenKind::TextBox, ESeenKind::Text,
-				 ESeenKind::Heading, ESeenKind::ToolTip})
+		for (const ESeenKind Kind : {ESeenKind::MenuRow, ESeenKind::AssetRow, ESeenKind::Tile, ESeenKind::Button, ESeenKind::TextBox,
+				 ESeenKind::Text, ESeenKind::Heading, ESeenKind::ToolTip, ESeenKind::Splitter})
 		{
 			const FSeen* const Thing = FindFirst(Things, [&](const FSeen& Candidate) {
 				return Candidate.Kind == Kind && (bAnyCase ? Lowered(Candidate.Label) == LoweredLabel : Candidate.Label == Label);

@@ -18,11 +18,15 @@ enum class ESeenKind
 {
 	MenuRow,
 	AssetRow,
+	/** A tile of the content browser. */
+	Tile,
 	Button,
 	TextBox,
 	Text,
 	Heading,
-	ToolTip
+	ToolTip,
+	/** The handle between two places of a splitter: "splitter 1" and so on, outer ones first. */
+	Splitter
 };
 
 /** Something on the screen with a label. Places are in pixels of the desktop. */
@@ -34,7 +38,7 @@ struct FSeen
 	/** Where to point at it. */
 	FVector2D Center = FVector2D(0.0f, 0.0f);
 
-	/** Of rows with a check mark: whether it is set, and where the mark is. */
+	/** Of rows with a check mark: whether it is set, and where the mark is. Of tiles: whether it is selected. */
 	bool bHasCheck = false;
 	bool bChecked = false;
 	FVector2D CheckCenter = FVector2D(0.0f, 0.0f);
@@ -45,7 +49,10 @@ struct FSeen
 	/** Whether the keyboard's input goes to it. */
 	bool bFocused = false;
 
-	/** Of asset rows: whether the list has to be scrolled first, how far in rows, and where its middle is. */
+	/** Of tiles: whether it bears the mark of what cannot be used. */
+	bool bMarked = false;
+
+	/** Of asset rows and tiles: whether the list has to be scrolled first, how far in rows, and where its middle is. */
 	int ScrollRows = 0;
 	FVector2D ListCenter = FVector2D(0.0f, 0.0f);
 };

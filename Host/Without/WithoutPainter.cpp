@@ -17,6 +17,11 @@ std::unique_ptr<IDesktopPainter> MakeDesktopPainter()
 	return nullptr;
 }
 
+bool HasPngFiles()
+{
+	return false;
+}
+
 std::string WritePng(const FPicture&, const std::filesystem::path&)
 {
 	return NoPainter;
@@ -25,5 +30,15 @@ std::string WritePng(const FPicture&, const std::filesystem::path&)
 std::string ReadPng(const std::filesystem::path&, FPicture&)
 {
 	return NoPainter;
+}
+
+std::string EncodePng(const FPicture&)
+{
+	return {};
+}
+
+FPicture DecodePng(const std::string&)
+{
+	return {};
 }
 }

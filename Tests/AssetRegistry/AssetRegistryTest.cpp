@@ -227,9 +227,63 @@ TEST_F(AssetRegistry, SaysOnceThatFilesAreLoaded)
 TEST_F(AssetRegistry, GivesANoticeForFilesThatCannotBeAssets)
 {
 	Folder.Write("Content/Looks/Has blanks.look", "");
+	Folder.Write("Content/Looks/Has_blanks.look", "");
 	Registry().SearchAllAssets(true);
 	ASSERT_EQ(StandIn::GetNotices().Num(), 1);
 	EXPECT_NE(ToStd(StandIn::GetNotices()[0].Text).find("Has blanks.look"), std::string::npos);
+}
+
+TEST_F(AssetRegistry, ListsFilesAndFoldersUnderNamesThatAssetsMayHave)
+{
+	Folder.Write("Content/My looks (old)/Film stock 2383.look", "");
+	TArray<FAssetData> Assets;
+	Registry().GetAssetsByPath(TEXT("/Game/My_looks_old"), Assets);
+	EXPECT_EQ(Paths(Assets), "/Game/My_looks_old/Film_stock_2383.Film_stock_2383 ");
+	EXPECT_TRUE(Registry().PathExists(TEXT("/Game/My_looks_old")));
+	EXPECT_EQ(StandIn::GetNotices().Num(), 0);
+}
+
+TEST_F(AssetRegistry, ScansAFolderByItsPathWhateverItsNameOnDisk)
+{
+	Folder.Write("Content/My looks/A.look", "");
+	Registry().SearchAllAssets(true);
+	Folder.Write("Content/My looks/B.look", "");
+	Registry().ScanPathsSynchronous({TEXT("/Game/My_looks")}, true);
+	EXPECT_TRUE(Registry().GetAssetByObjectPath(TEXT("/Game/My_looks/B.B")).IsValid());
+}
+
+TEST_F(AssetRegistry, DoesNotListFoldersThatAreLeftOut)
+{
+	Folder.Write("Content/Saved/Old.look", "");
+	Folder.Write("Content/.trash/Old.look", "");
+	StandIn::RegisterMountPoint(TEXT("/Game/"), Folder.Path("Content"), {Folder.Path("Content/Saved")});
+	TArray<FString> SubPaths;
+	Registry().GetSubPaths(TEXT("/Game"), SubPaths, true);
+	EXPECT_EQ(SubPaths, TArray<FString>({TEXT("/Game/Looks"), TEXT("/Game/Looks/Deep")}));
+}
+
+TEST_F(AssetRegistry, DoesNotListALoadedAssetWhoseFileIsGone)
+{
+	const UObject* Asset = LoadObject<UObject>(nullptr, TEXT("/Game/Looks/Warm.Warm"));
+	ASSERT_NE(Asset, nullptr);
+	Registry().SearchAllAssets(true);
+	std::filesystem::remove(Folder.NativePath("Content/Looks/Warm.look"));
+	Registry().ScanModifiedAssetFiles({Folder.Path("Content/Looks/Warm.look")});
+	TArray<FAssetData> Assets;
+	Registry().GetAssetsByPath(TEXT("/Game/Looks"), Assets);
+	EXPECT_EQ(Paths(Assets).find("Warm"), std::string::npos);
+	EXPECT_FALSE(Registry().GetAssetByObjectPath(TEXT("/Game/Looks/Warm.Warm")).IsValid());
+}
+
+TEST_F(AssetRegistry, ListsALoadedAssetAgainWhenItsFileComesBack)
+{
+	LoadObject<UObject>(nullptr, TEXT("/Game/Looks/Warm.Warm"));
+	Registry().SearchAllAssets(true);
+	std::filesystem::remove(Folder.NativePath("Content/Looks/Warm.look"));
+	Registry().ScanModifiedAssetFiles({Folder.Path("Content/Looks/Warm.look")});
+	Folder.Write("Content/Looks/Warm.look", "");
+	Registry().ScanModifiedAssetFiles({Folder.Path("Content/Looks/Warm.look")});
+	EXPECT_TRUE(Registry().GetAssetByObjectPath(TEXT("/Game/Looks/Warm.Warm")).IsValid());
 }
 
 TEST_F(AssetRegistry, ScansTwentyThousandFilesQuickly)

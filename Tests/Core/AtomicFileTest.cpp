@@ -144,3 +144,30 @@ TEST(AtomicFile, SweepTakesOwnLeftOversThatAreNotBeingWritten)
 	Folder.Write("a.ini.tmp-" + std::to_string(FPlatformProcess::GetCurrentProcessId()) + "-999999", "half");
 	EXPECT_EQ(1, StandIn::SweepTemporaries(Folder.Path("a.ini")));
 }
+
+TEST(AtomicFile, BelowARefusedFolderNothingIsSavedAndTheReasonIsGiven)
+{
+	const FTestFolder Folder;
+	StandIn::RefuseSaves(Folder.Path(), TEXT("another editor has it open"));
+	const std::string Reason = Save(Folder.Path("Saved/a.ini"), "new");
+	StandIn::AllowSaves();
+	EXPECT_EQ("another editor has it open", Reason);
+	EXPECT_TRUE(Folder.List().empty());
+}
+
+TEST(AtomicFile, ARefusedFolderDoesNotRefuseOneThatStartsLikeIt)
+{
+	const FTestFolder Folder;
+	Folder.Write("Project2/a.ini", "old");
+	StandIn::RefuseSaves(Folder.Path("Project"), TEXT("another editor has it open"));
+	EXPECT_EQ("", Save(Folder.Path("Project2/a.ini"), "new"));
+	StandIn::AllowSaves();
+}
+
+TEST(AtomicFile, SavesWorkAgainOnceTheyAreAllowed)
+{
+	const FTestFolder Folder;
+	StandIn::RefuseSaves(Folder.Path(), TEXT("another editor has it open"));
+	StandIn::AllowSaves();
+	EXPECT_EQ("", Save(Folder.Path("a.ini"), "new"));
+}

@@ -211,6 +211,30 @@ TEST_F(ConfigTrouble, FileThatCouldNotBeSavedStaysInMemoryWhenTheRestIsDropped)
 	EXPECT_EQ(FTexts({"1"}), Get(TEXT("S"), TEXT("K")));
 }
 
+TEST_F(ConfigTrouble, WhereSavesAreRefusedAChangeIsOneNoticeAndNothingIsWritten)
+{
+	WriteFile("[S]\nK=old\n");
+	StandIn::RefuseSaves(Folder.Path(), TEXT("another editor has it open"));
+	Set(TEXT("S"), TEXT("K"), {"new"});
+	Cache.Flush(false, File());
+	Cache.Flush(false, File());
+	StandIn::AllowSaves();
+	ASSERT_EQ(1u, Notices().size());
+	EXPECT_NE(std::string::npos, Notices()[0].find("another editor has it open")) << Notices()[0];
+	EXPECT_EQ("[S]\nK=old\n", ReadFile());
+	EXPECT_EQ(1u, Folder.List().size());
+}
+
+TEST_F(ConfigTrouble, AnUnreadableFileIsNotMovedAsideWhereSavesAreRefused)
+{
+	Folder.Write("User.ini/in the way", "");
+	StandIn::RefuseSaves(Folder.Path(), TEXT("another editor has it open"));
+	Set(TEXT("S"), TEXT("K"), {"new"});
+	Cache.Flush(false, File());
+	StandIn::AllowSaves();
+	EXPECT_EQ(FTexts({"User.ini"}), Folder.List());
+}
+
 TEST_F(ConfigTrouble, RandomDamageNeverLosesAByteOfWhatWasThere)
 {
 	std::mt19937 Random(42);

@@ -42,6 +42,14 @@ TEST_F(Notices, NoticeIsLoggedAsAWarning)
 	EXPECT_EQ("100% sure.", Capture.Lines[0].Text);
 }
 
+TEST_F(Notices, NoticeOfAnErrorIsLoggedAsOne)
+{
+	const FLogCapture Capture;
+	StandIn::AddNotice(TEXT("Key"), TEXT("Lost."), StandIn::ENoticeKind::Error);
+	ASSERT_EQ(1u, Capture.Lines.size());
+	EXPECT_EQ(ELogVerbosity::Error, Capture.Lines[0].Verbosity);
+}
+
 TEST_F(Notices, EventFiresOnlyForNoticesThatWereAdded)
 {
 	int32 NumFired = 0;

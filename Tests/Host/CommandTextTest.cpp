@@ -22,7 +22,7 @@ TEST(CommandText, EmptyCommandsAreLeftOut)
 
 TEST(CommandText, ASemicolonInQuotesIsPartOfTheWord)
 {
-	EXPECT_EQ(SplitCommands("picture 0 'a;b.png'"), (FStrings{"picture 0 'a;b.png'"}));
+	EXPECT_EQ(SplitCommands("picture 0 'a;b'"), (FStrings{"picture 0 'a;b'"}));
 }
 
 TEST(CommandText, ACommentEndsWithItsLine)
@@ -32,7 +32,7 @@ TEST(CommandText, ACommentEndsWithItsLine)
 
 TEST(CommandText, ANumberSignInQuotesIsNoComment)
 {
-	EXPECT_EQ(SplitCommands("picture 0 \"#1.png\""), (FStrings{"picture 0 \"#1.png\""}));
+	EXPECT_EQ(SplitCommands("picture 0 \"#1\""), (FStrings{"picture 0 \"#1\""}));
 }
 
 TEST(CommandText, AnOpenQuoteEndsWithItsLine)

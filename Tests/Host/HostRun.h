@@ -3,25 +3,26 @@
 #pragma once
 
 #include "Host/Picture/PngFile.h"
+
+#include "HAL/Platform.h"
+#include "Support/ProgramRun.h"
 #include "Support/TestFolder.h"
 
-#include <array>
-#include <cstdio>
 #include <filesystem>
 #include <gtest/gtest.h>
 #include <string>
-#include <sys/wait.h>
+#include <vector>
+
+/** The user settings, in a project's folder. */
+static const char* const HostSettingsFile = PLATFORM_WINDOWS ? "Project/Saved/Config/Windows/EditorPerProjectUserSettings.ini"
+															 : "Project/Saved/Config/Linux/EditorPerProjectUserSettings.ini";
 
 /** The real program on a copy of the demo project; the copy takes the settings that a run writes. */
 class FHostRun
 {
 public:
 	/** How a run ended. */
-	struct FResult
-	{
-		int Code = -1;
-		std::string Output;
-	};
+	typedef FProgramResult FResult;
 
 	FHostRun()
 	{
@@ -32,18 +33,11 @@ public:
 	/** Runs the program without a window, with small panes; both streams come back as one text. */
 	FResult Run(const std::string& Arguments) const
 	{
-		const std::string Command = std::string(TINTMILL_EDITOR) + " --headless --size 320x180 --project '" + Path("Project").string()
-			+ "' --out '" + Path("out").string() + "' " + Arguments + " 2>&1";
-		FResult Result;
-		std::FILE* const Pipe = popen(Command.c_str(), "r");
-		std::array<char, 4096> Buffer;
-		while (const size_t Count = std::fread(Buffer.data(), 1, Buffer.size(), Pipe))
-		{
-			Result.Output.append(Buffer.data(), Count);
-		}
-		const int Status = pclose(Pipe);
-		Result.Code = WIFEXITED(Status) ? WEXITSTATUS(Status) : 128 + WTERMSIG(Status);
-		return Result;
+		std::vector<std::string> Words{
+			"--headless", "--size", "320x180", "--project", Path("Project").string(), "--out", Path("out").string()};
+		const std::vector<std::string> More = SplitCommandLine(Arguments);
+		Words.insert(Words.end(), More.begin(), More.end());
+		return RunProgram(TINTMILL_EDITOR, Words);
 	}
 
 	/** Runs console commands. */
@@ -58,7 +52,7 @@ public:
 	}
 
 	/** The copy's user settings. */
-	std::string ReadSettings() const { return Folder.Read("Project/Saved/Config/Linux/EditorPerProjectUserSettings.ini"); }
+	std::string ReadSettings() const { return Folder.Read(HostSettingsFile); }
 
 	/** Something in the run's folder. */
 	std::filesystem::path Path(const std::string& Leaf) const { return Folder.NativePath(Leaf); }

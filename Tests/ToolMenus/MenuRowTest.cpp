@@ -377,3 +377,21 @@ TEST_F(FMenuRowTest, ARightClickOnARowDoesNotRunIt)
 	User.PressAndRelease(EKeys::RightMouseButton);
 	EXPECT_EQ(Runs, 0);
 }
+
+TEST_F(FMenuRowTest, ARowThatComesUnderARestingMouseOpensNoSubMenu)
+{
+	AddSub(Builder, TEXT("One"), TEXT("InOne"));
+	User.MoveTo(FVector2D(60.0f, 34.0f));
+	Open(Builder);
+	User.Wait(1.0f);
+	EXPECT_TRUE(User.FindRow(TEXT("One")).bHighlighted && !User.FindRow(TEXT("One")).bSubMenuOpen);
+}
+
+TEST_F(FMenuRowTest, ARowThatCameUnderARestingMouseOpensItsSubMenuWhenTheMouseMoves)
+{
+	AddSub(Builder, TEXT("One"), TEXT("InOne"));
+	User.MoveTo(FVector2D(60.0f, 34.0f));
+	Open(Builder);
+	User.MoveTo(FVector2D(61.0f, 34.0f));
+	EXPECT_TRUE(User.FindRow(TEXT("One")).bSubMenuOpen);
+}

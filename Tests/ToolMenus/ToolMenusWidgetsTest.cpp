@@ -296,8 +296,8 @@ TEST_F(UToolMenusWidgetsTest, ApplyTheContextsExtender)
 	EXPECT_TRUE(IsText(User.GetLabels(), TEXT("A|Extra")));
 }
 
-TEST_F(UToolMenusWidgetsTest, OfAToolBarAreRefused)
+TEST_F(UToolMenusWidgetsTest, OfAVerticalToolBarAreRefused)
 {
-	UToolMenus::Get()->RegisterMenu("Bar", NAME_None, EMultiBoxType::ToolBar);
+	UToolMenus::Get()->RegisterMenu("Bar", NAME_None, EMultiBoxType::VerticalToolBar);
 	EXPECT_DEATH(UToolMenus::Get()->GenerateWidget("Bar", FToolMenuContext()), "not in this stand-in");
 }

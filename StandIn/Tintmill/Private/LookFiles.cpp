@@ -12,6 +12,7 @@
 #include "TintmillObject.h"
 
 #include <string>
+#include <unordered_set>
 
 namespace LookFilesPrivate
 {
@@ -60,6 +61,11 @@ static void MakeReady(
 	StandIn::ClearNotice(StandIn::GetLookNoticeKey(Asset));
 }
 
+static std::filesystem::path PathOf(const FString& FileName)
+{
+	return std::filesystem::path(*FPaths::ConvertRelativePathToFull(FileName));
+}
+
 /** Reads the file that the look names, whatever came of it before. */
 static void ReadFile(const UTintmillObject* Asset, FTintmillLook& Look)
 {
@@ -86,6 +92,30 @@ static void ReadFile(const UTintmillObject* Asset, FTintmillLook& Look)
 	}
 	MakeReady(Asset, Look, std::move(Grader), File.ContentHash);
 }
+
+/** Looks at the files of the looks that are meant; returns the assets whose look is now another. */
+template <typename PredicateType>
+static TArray<UTintmillObject*> Poll(const PredicateType& IsMeant)
+{
+	TArray<UTintmillObject*> Changed;
+	// A copy, for whoever hears of a notice may load another look.
+	const TArray<UTintmillObject*> Assets = TintmillLookAssets::GetAll();
+	for (UTintmillObject* Asset : Assets)
+	{
+		FTintmillLook* Look = LookOf(Asset);
+		if (Look == nullptr || !IsMeant(*Look) || FTintmillFileStamp::Of(Look->Path) == Look->Stamp)
+		{
+			continue;
+		}
+		const std::uint64_t Revision = Look->Revision;
+		ReadFile(Asset, *Look);
+		if (Look->Revision != Revision)
+		{
+			Changed.Add(Asset);
+		}
+	}
+	return Changed;
+}
 }
 
 namespace StandIn
@@ -95,37 +125,40 @@ bool LoadLookFile(UTintmillObject* Asset, const FString& FileName)
 	check(Asset);
 	Asset->Look = MakeShared<FTintmillLook>();
 	Asset->Look->FileName = FileName;
-	Asset->Look->Path = std::filesystem::path(*FPaths::ConvertRelativePathToFull(FileName));
+	Asset->Look->Path = LookFilesPrivate::PathOf(FileName);
 	LookFilesPrivate::ReadFile(Asset, *Asset->Look);
 	return Asset->Look->State == ELookState::Ready;
 }
 
 TArray<UTintmillObject*> PollLookFiles()
 {
-	TArray<UTintmillObject*> Changed;
-	// A copy, for whoever hears of a notice may load another look.
-	const TArray<UTintmillObject*> Assets = TintmillLookAssets::GetAll();
-	for (UTintmillObject* Asset : Assets)
+	return LookFilesPrivate::Poll([](const FTintmillLook&) { return true; });
+}
+
+TArray<UTintmillObject*> PollLookFiles(const TArray<FString>& FileNames)
+{
+	if (FileNames.Num() == 0)
 	{
-		FTintmillLook* Look = LookFilesPrivate::LookOf(Asset);
-		if (Look == nullptr || FTintmillFileStamp::Of(Look->Path) == Look->Stamp)
-		{
-			continue;
-		}
-		const std::uint64_t Revision = Look->Revision;
-		LookFilesPrivate::ReadFile(Asset, *Look);
-		if (Look->Revision != Revision)
-		{
-			Changed.Add(Asset);
-		}
+		return {};
 	}
-	return Changed;
+	std::unordered_set<std::filesystem::path::string_type> Paths;
+	for (const FString& FileName : FileNames)
+	{
+		Paths.insert(LookFilesPrivate::PathOf(FileName).native());
+	}
+	return LookFilesPrivate::Poll([&Paths](const FTintmillLook& Look) { return Paths.count(Look.Path.native()) != 0; });
 }
 
 ELookState GetLookState(const UTintmillObject* Asset)
 {
 	const FTintmillLook* Look = LookFilesPrivate::LookOf(Asset);
 	return Look != nullptr ? Look->State : ELookState::None;
+}
+
+uint64 GetLookRevision(const UTintmillObject* Asset)
+{
+	const FTintmillLook* Look = LookFilesPrivate::LookOf(Asset);
+	return Look != nullptr ? Look->Revision : 0;
 }
 
 FString GetLookProblem(const UTintmillObject* Asset)

@@ -121,9 +121,64 @@ TEST_F(AssetFiles, ReportFilesThatCannotBeAssets)
 {
 	Folder.Write("Content/Good.coretest", "");
 	Folder.Write("Content/Not good.coretest", "");
+	Folder.Write("Content/Not_good.coretest", "");
 	StandIn::FAssetScanReport Report;
-	Scan(Folder.Path("Content"), Report);
+	EXPECT_EQ(Scan(Folder.Path("Content"), Report), "/Game/Good /Game/Not_good ");
 	EXPECT_EQ(Report.SkippedFiles, TArray<FString>({Folder.Path("Content/Not good.coretest")}));
+}
+
+TEST_F(AssetFiles, GiveNamesThatAssetsMayHave)
+{
+	EXPECT_EQ(ToStd(StandIn::MakeAssetName(TEXT("Teal_2"))), "Teal_2");
+	EXPECT_EQ(ToStd(StandIn::MakeAssetName(TEXT("Film stock 2383 (v2.1)"))), "Film_stock_2383_v2_1");
+	EXPECT_EQ(ToStd(StandIn::MakeAssetName(TEXT("  a  &  b  "))), "a_b");
+	EXPECT_EQ(ToStd(StandIn::MakeAssetName(TEXT("Gr\u00fcn"))), "Gr\xc3\xbcn");
+	EXPECT_EQ(ToStd(StandIn::MakeAssetName(TEXT("..."))), "_");
+}
+
+TEST_F(AssetFiles, LoadAFileByTheNameThatItsOwnGives)
+{
+	Folder.Write("Content/My looks/Film stock.coretest", "");
+	const UCoreTestAsset* Asset = LoadObject<UCoreTestAsset>(nullptr, TEXT("/Game/My_looks/Film_stock.Film_stock"));
+	ASSERT_NE(Asset, nullptr);
+	EXPECT_TRUE(Asset->LoadedFrom == Folder.Path("Content/My looks/Film stock.coretest"));
+}
+
+TEST_F(AssetFiles, PreferAFileThatHasTheNameAsItIs)
+{
+	Folder.Write("Content/Film stock.coretest", "");
+	Folder.Write("Content/Film_stock.coretest", "");
+	const UCoreTestAsset* Asset = LoadObject<UCoreTestAsset>(nullptr, TEXT("/Game/Film_stock.Film_stock"));
+	ASSERT_NE(Asset, nullptr);
+	EXPECT_TRUE(Asset->LoadedFrom == Folder.Path("Content/Film_stock.coretest"));
+}
+
+TEST_F(AssetFiles, LeaveHiddenFilesAndFoldersOut)
+{
+	Folder.Write("Content/._Teal.coretest", "");
+	Folder.Write("Content/.git/A.coretest", "");
+	Folder.Write("Content/Teal.coretest", "");
+	StandIn::FAssetScanReport Report;
+	EXPECT_EQ(Scan(Folder.Path("Content"), Report), "/Game/Teal ");
+	EXPECT_EQ(Report.SkippedFiles.Num(), 0);
+}
+
+TEST_F(AssetFiles, LeaveOutTheFoldersOfAMountPointThatHoldNone)
+{
+	Folder.Write("Content/Saved/A.coretest", "");
+	Folder.Write("Content/SavedLooks/B.coretest", "");
+	StandIn::RegisterMountPoint(TEXT("/Game/"), Folder.Path("Content"), {Folder.Path("Content/Saved")});
+	StandIn::FAssetScanReport Report;
+	EXPECT_EQ(Scan(Folder.Path("Content"), Report), "/Game/SavedLooks/B ");
+}
+
+TEST_F(AssetFiles, FindAFolderByItsPath)
+{
+	Folder.Write("Content/My looks/Deep/A.coretest", "");
+	FString Found;
+	ASSERT_TRUE(StandIn::FindAssetFolder(TEXT("/Game/my_looks/Deep"), Found));
+	EXPECT_TRUE(Found == Folder.Path("Content/My looks/Deep/"));
+	EXPECT_FALSE(StandIn::FindAssetFolder(TEXT("/Game/None"), Found));
 }
 
 TEST_F(AssetFiles, ReportAMissingFolder)

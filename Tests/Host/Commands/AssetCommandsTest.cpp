@@ -75,10 +75,4 @@ TEST_F(FAssetCommands, AnUnknownLookIsRefused)
 {
 	EXPECT_EQ(Host.Execute("open-look Nothing").Code, 2);
 }
-
-TEST_F(FAssetCommands, ThePictureOfABuilderIsSaved)
-{
-	Host.Execute("open-look TealOrange; shot-builder TealOrange builder.png");
-	EXPECT_EQ(Host.ReadPicture("builder.png").Width, 960);
-}
 }

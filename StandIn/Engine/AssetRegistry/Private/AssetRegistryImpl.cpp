@@ -82,7 +82,10 @@ void FAssetRegistryImpl::VisitAssets(bool bIncludeOnlyOnDiskAssets, TFunctionRef
 			if (It->IsAsset())
 			{
 				FAssetData Data(*It);
-				InMemory[Data.ObjectPath] = Data;
+				if (!It->HasAnyFlags(RF_WasLoaded) || !GoneAssets.Contains(Data.ObjectPath))
+				{
+					InMemory[Data.ObjectPath] = Data;
+				}
 			}
 		}
 	}
@@ -179,9 +182,10 @@ FAssetData FAssetRegistryImpl::GetAssetByObjectPath(const FName ObjectPath, bool
 	if (!bIncludeOnlyOnDiskAssets && UObjectInitialized() && !ObjectPath.IsNone())
 	{
 		const UObject* Asset = StaticFindObject(UObject::StaticClass(), nullptr, *ObjectPath.ToString());
-		if (Asset != nullptr && Asset->IsAsset())
+		const FAssetData Data = Asset != nullptr && Asset->IsAsset() ? FAssetData(Asset) : FAssetData();
+		if (Data.IsValid() && (!Asset->HasAnyFlags(RF_WasLoaded) || !GoneAssets.Contains(Data.ObjectPath)))
 		{
-			return FAssetData(Asset);
+			return Data;
 		}
 	}
 	const auto Found = DiskAssets.find(ObjectPath);

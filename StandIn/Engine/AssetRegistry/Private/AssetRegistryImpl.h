@@ -3,6 +3,7 @@
 #pragma once
 
 #include "AssetRegistry/IAssetRegistry.h"
+#include "Containers/Set.h"
 #include "FolderStamps.h"
 #include "StandIn/AssetFiles.h"
 
@@ -66,6 +67,8 @@ private:
 	void ScanPath(const FString& Path, const FString& Folder);
 	void PutAsset(const FAssetData& Data);
 	void DropAsset(FName ObjectPath);
+	/** Drops an asset whose file is gone; what is still in memory of it is no asset until there is a file again. */
+	void DropGoneAsset(FName ObjectPath);
 	void PutPath(const FString& Path);
 	/** Calls back with all assets in the order of their paths until false comes back. */
 	void VisitAssets(bool bIncludeOnlyOnDiskAssets, TFunctionRef<bool(const FAssetData&)> Callback) const;
@@ -74,6 +77,7 @@ private:
 	void ReportTrouble(const FString& Folder, const StandIn::FAssetScanReport& Report) const;
 
 	FAssetMap DiskAssets;
+	TSet<FName> GoneAssets;
 	std::set<FName, FNameLess> Paths;
 	/** Mount points that have been scanned. */
 	TArray<StandIn::FMountPoint> ScannedMountPoints;

@@ -21,6 +21,19 @@ FAssetData MakeAssetData(const StandIn::FAssetFile& File)
 		FName(*FPackageName::GetShortName(File.PackageName)), File.ClassName);
 }
 
+// The path of a folder below the one of a path, by the names that the files in it have.
+FString MakePath(const FString& Path, const FString& Below)
+{
+	TArray<FString> Parts;
+	Below.ParseIntoArray(Parts, TEXT("/"));
+	FString Result = AssetPaths::WithoutSlash(Path);
+	for (const FString& Part : Parts)
+	{
+		Result += TEXT("/") + StandIn::MakeAssetName(Part);
+	}
+	return Result;
+}
+
 bool IsSameMountPoint(const StandIn::FMountPoint& A, const StandIn::FMountPoint& B)
 {
 	return A.RootPath == B.RootPath && A.Directory.Equals(B.Directory);
@@ -42,16 +55,18 @@ void FAssetRegistryImpl::PutPath(const FString& Path)
 
 void FAssetRegistryImpl::PutAsset(const FAssetData& Data)
 {
-	PutPath(Data.PackagePath.ToString());
-	const auto Found = DiskAssets.find(Data.ObjectPath);
-	if (Found == DiskAssets.end())
+	GoneAssets.Remove(Data.ObjectPath);
+	const FNameLess Less;
+	const auto Place = DiskAssets.lower_bound(Data.ObjectPath);
+	if (Place == DiskAssets.end() || Less(Data.ObjectPath, Place->first))
 	{
-		DiskAssets[Data.ObjectPath] = Data;
+		PutPath(Data.PackagePath.ToString());
+		DiskAssets.emplace_hint(Place, Data.ObjectPath, Data);
 		AssetAddedEvent.Broadcast(Data);
 	}
-	else if (Found->second.AssetClass != Data.AssetClass)
+	else if (Place->second.AssetClass != Data.AssetClass)
 	{
-		Found->second = Data;
+		Place->second = Data;
 		AssetUpdatedEvent.Broadcast(Data);
 	}
 }
@@ -65,6 +80,12 @@ void FAssetRegistryImpl::DropAsset(FName ObjectPath)
 		DiskAssets.erase(Found);
 		AssetRemovedEvent.Broadcast(Data);
 	}
+}
+
+void FAssetRegistryImpl::DropGoneAsset(FName ObjectPath)
+{
+	GoneAssets.Add(ObjectPath);
+	DropAsset(ObjectPath);
 }
 
 bool FAssetRegistryImpl::AddPath(const FString& PathToAdd)
@@ -130,8 +151,8 @@ void FAssetRegistryImpl::ReportTrouble(const FString& Folder, const StandIn::FAs
 	if (Report.SkippedFiles.Num() > 0)
 	{
 		StandIn::AddNotice(SkippedKey,
-			FString::Printf(TEXT("%d asset files are not listed, because their names differ from others in case or extension only or have "
-								 "characters that asset names may not have; the first one is %s. Rename them."),
+			FString::Printf(TEXT("%d asset files are not listed, because their names differ from others in case, extension or characters "
+								 "that asset names may not have only, or are too long; the first one is %s. Rename them."),
 				Report.SkippedFiles.Num(), *Report.SkippedFiles[0]));
 	}
 }
@@ -156,29 +177,30 @@ void FAssetRegistryImpl::ScanPath(const FString& Path, const FString& Folder)
 	});
 	bScanning = false;
 	PutPath(Path);
-	std::set<FName, FNameLess> Found;
+	TSet<FName> Found;
+	Found.Reserve(Files.Num());
 	for (const StandIn::FAssetFile& File : Files)
 	{
 		const FAssetData Data = AssetRegistryPrivate::MakeAssetData(File);
-		Found.insert(Data.ObjectPath);
+		Found.Add(Data.ObjectPath);
 		PutAsset(Data);
 	}
 	TArray<FName> Gone;
 	for (const auto& Entry : DiskAssets)
 	{
-		if (Found.count(Entry.first) == 0 && AssetPaths::IsAtOrBelow(Entry.second.PackagePath.ToString(), Path))
+		if (!Found.Contains(Entry.first) && AssetPaths::IsAtOrBelow(Entry.second.PackagePath.ToString(), Path))
 		{
 			Gone.Add(Entry.first);
 		}
 	}
 	for (const FName& ObjectPath : Gone)
 	{
-		DropAsset(ObjectPath);
+		DropGoneAsset(ObjectPath);
 	}
 	std::set<FName, FNameLess> FoundPaths;
 	for (const FString& FoundFolder : Report.Folders)
 	{
-		const FString FoundPath = AssetPaths::WithoutSlash(Path + TEXT("/") + FoundFolder.RightChop(Folder.Len()));
+		const FString FoundPath = AssetRegistryPrivate::MakePath(Path, FoundFolder.RightChop(Folder.Len()));
 		FoundPaths.insert(FName(*FoundPath));
 		PutPath(FoundPath);
 	}
@@ -259,7 +281,7 @@ void FAssetRegistryImpl::ScanPathsSynchronous(const TArray<FString>& InPaths, bo
 								const StandIn::FMountPoint& MountPoint) { return AssetPaths::WithoutSlash(MountPoint.RootPath) == Path; };
 		const bool bScannedJustNow = ScannedMountPoints.ContainsByPredicate(IsRoot) && !ScannedBefore.ContainsByPredicate(IsRoot);
 		FString Folder;
-		if (bForceRescan && !bScannedJustNow && FPackageName::TryConvertLongPackageNameToFilename(Path + TEXT("/"), Folder))
+		if (bForceRescan && !bScannedJustNow && StandIn::FindAssetFolder(Path, Folder))
 		{
 			ScanPath(Path, Folder);
 		}
@@ -290,7 +312,7 @@ void FAssetRegistryImpl::ScanModifiedAssetFiles(const TArray<FString>& InFilePat
 		}
 		else
 		{
-			DropAsset(AssetRegistryPrivate::MakeAssetData(File).ObjectPath);
+			DropGoneAsset(AssetRegistryPrivate::MakeAssetData(File).ObjectPath);
 		}
 	}
 }

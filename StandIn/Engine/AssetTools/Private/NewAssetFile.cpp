@@ -41,6 +41,11 @@ bool FNewAssetFile::Write(const FString& PackageName, const UClass* Class)
 	{
 		return true;
 	}
+	FString Folder;
+	if (StandIn::FindAssetFolder(FPackageName::GetLongPackagePath(PackageName), Folder))
+	{
+		WantedName = Folder + FPackageName::GetShortName(PackageName) + TEXT(".") + Found->Extension;
+	}
 	StandIn::FAssetFile Present;
 	if (StandIn::FindAssetFile(PackageName, Present))
 	{

@@ -125,6 +125,11 @@ bool FViewportClient::InputKey(FViewport*, int32, FKey, EInputEvent, float, bool
 	return false;
 }
 
+bool FViewportClient::InputAxis(FViewport*, int32, FKey, float, float, int32, bool)
+{
+	return false;
+}
+
 void FViewportClient::LostFocus(FViewport*) {}
 
 void FViewportClient::ReceivedFocus(FViewport*) {}

@@ -11,7 +11,7 @@
 
 // Viewports, what they draw into, and their clients. A draw really makes a picture (StandIn/ScenePainter.h, then
 // StandIn/PicturePass.h) and a read really returns it; both are synchronous, in memory.
-// Left out: the resource base of FViewport, textures, hit proxies, capture and most input, high resolution screenshots, reads
+// Left out: the resource base of FViewport, textures, hit proxies, capture modes and most input, high resolution screenshots, reads
 // of float and linear colours.
 // Uncertain in the engine and settled here: a rectangle that leaves the surface is fatal; a draw without a client is fatal.
 
@@ -93,6 +93,9 @@ public:
 	/** Returns the client, which may be null. */
 	FViewportClient* GetClient() const { return ViewportClient; }
 
+	/** Tells whether a key or a button is held that went down in the viewport. */
+	virtual bool KeyState(FKey /*Key*/) const { return false; }
+
 	/** Gives the viewport another client, or none. */
 	virtual void SetViewportClient(FViewportClient* InViewportClient);
 
@@ -154,6 +157,10 @@ public:
 	/** Handles a key or a button; true when nobody else should. */
 	virtual bool InputKey(
 		FViewport* Viewport, int32 ControllerId, FKey Key, EInputEvent Event, float AmountDepressed = 1.f, bool bGamepad = false);
+
+	/** Handles a moved axis, such as EKeys::MouseX by pixels to the right or EKeys::MouseY upwards; true when nobody else should. */
+	virtual bool InputAxis(FViewport* Viewport, int32 ControllerId, FKey Key, float Delta, float DeltaTime, int32 NumSamples = 1,
+		bool bGamepad = false);
 
 	/** Is told that the viewport lost the keyboard. */
 	virtual void LostFocus(FViewport* Viewport);

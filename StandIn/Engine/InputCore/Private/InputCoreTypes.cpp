@@ -3,6 +3,8 @@
 #include "InputCoreTypes.h"
 
 const FKey EKeys::AnyKey(TEXT("AnyKey"));
+const FKey EKeys::MouseX(TEXT("MouseX"));
+const FKey EKeys::MouseY(TEXT("MouseY"));
 const FKey EKeys::MouseScrollUp(TEXT("MouseScrollUp"));
 const FKey EKeys::MouseScrollDown(TEXT("MouseScrollDown"));
 const FKey EKeys::MouseWheelAxis(TEXT("MouseWheelAxis"));

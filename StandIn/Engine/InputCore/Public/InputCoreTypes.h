@@ -4,8 +4,8 @@
 
 #include "CoreMinimal.h"
 
-// Keys and mouse buttons by name. Left out: gamepads, touch, gestures, axes, key details and their registration;
-// a key of a name that is not in EKeys counts as valid, as one registered by a plug-in would. FKey is not reflected here.
+// Keys and mouse buttons by name. Left out: gamepads, touch, gestures, axes other than the mouse's, key details and their
+// registration; a key of a name that is not in EKeys counts as valid, as one registered by a plug-in would. FKey is not reflected here.
 
 /** A key, mouse button or wheel direction, identified by its name. */
 struct INPUTCORE_API FKey
@@ -63,6 +63,8 @@ private:
 struct INPUTCORE_API EKeys
 {
 	static const FKey AnyKey;
+	static const FKey MouseX;
+	static const FKey MouseY;
 	static const FKey MouseScrollUp;
 	static const FKey MouseScrollDown;
 	static const FKey MouseWheelAxis;

@@ -5,7 +5,8 @@
 #include "SLevelEditor.h"
 #include "SLevelViewport.h"
 #include "SLevelViewportPanes.h"
-#include "Widgets/SBoxPanel.h"
+#include "StandIn/LevelEditorPanes.h"
+#include "Widgets/Layout/SSplitter.h"
 
 namespace
 {
@@ -70,33 +71,39 @@ FString GetPaneName(int32 PaneIndex)
 	return FString::Printf(TEXT("Viewport%d"), PaneIndex);
 }
 
-typedef TArray<TSharedRef<SWidget>> FWidgets;
-
-/** Puts widgets side by side, or one above the other, in equal parts. */
-TSharedRef<SWidget> Arrange(const FWidgets& Widgets, bool bSideBySide)
+/** Returns the numbers of panes, or groups of panes, that lie side by side or above each other, as the weights of a layout go. */
+TArray<int32> GetDivisions(const FPaneLayout& PaneLayout)
 {
-	if (bSideBySide)
+	if (PaneLayout.NumPanes == 1)
 	{
-		TSharedRef<SHorizontalBox> Row = SNew(SHorizontalBox);
-		for (const TSharedRef<SWidget>& Widget : Widgets)
-		{
-			Row->AddSlot().FillWidth(1.0f)[Widget];
-		}
-		return Row;
+		return {};
 	}
-	TSharedRef<SVerticalBox> Column = SNew(SVerticalBox);
-	for (const TSharedRef<SWidget>& Widget : Widgets)
+	switch (PaneLayout.Shape)
 	{
-		Column->AddSlot().FillHeight(1.0f)[Widget];
+	case EPaneShape::Row:
+	case EPaneShape::Column:
+		return {PaneLayout.NumPanes};
+	case EPaneShape::Grid:
+		// The rows, and the columns of both.
+		return {2, 2};
+	default:
+		return {2, PaneLayout.NumPanes - 1};
 	}
-	return Column;
 }
 }
 
 FLevelViewportLayout::FLevelViewportLayout(const FName& InLayoutTypeName)
 	: LayoutTypeName(FindPaneLayout(InLayoutTypeName).Name)
 	, bForeground(true)
-{}
+{
+	for (const int32 Parts : GetDivisions(FindPaneLayout(InLayoutTypeName)))
+	{
+		for (int32 Part = 0; Part < Parts; ++Part)
+		{
+			Shares.Add(1.0f / static_cast<float>(Parts));
+		}
+	}
+}
 
 FLevelViewportLayout::~FLevelViewportLayout() {}
 
@@ -132,7 +139,27 @@ TSharedRef<SWidget> FLevelViewportLayout::BuildViewportLayout(
 	return Panes.ToSharedRef();
 }
 
-TSharedRef<SWidget> FLevelViewportLayout::ArrangePanes() const
+TSharedRef<SWidget> FLevelViewportLayout::Divide(const FWidgets& Widgets, bool bSideBySide, int32 FirstShare)
+{
+	if (Widgets.Num() == 1)
+	{
+		return Widgets[0];
+	}
+	const TSharedRef<SSplitter> Splitter = SNew(SSplitter)
+											   .Orientation(bSideBySide ? Orient_Horizontal : Orient_Vertical)
+											   .PhysicalSplitterHandleSize(4.0f)
+											   .OnSplitterFinishedResizing(this, &FLevelViewportLayout::OnDragged);
+	for (int32 Index = 0; Index < Widgets.Num(); ++Index)
+	{
+		const int32 Share = FirstShare + Index;
+		Splitter->AddSlot()
+			.Value(TAttribute<float>::Create(TAttribute<float>::FGetter::CreateSP(this, &FLevelViewportLayout::GetShare, Share)))
+			.OnSlotResized(SSplitter::FOnSlotResized::CreateSP(this, &FLevelViewportLayout::OnShareChanged, Share))[Widgets[Index]];
+	}
+	return Splitter;
+}
+
+TSharedRef<SWidget> FLevelViewportLayout::ArrangePanes()
 {
 	FWidgets All;
 	FWidgets Others;
@@ -147,21 +174,51 @@ TSharedRef<SWidget> FLevelViewportLayout::ArrangePanes() const
 	switch (FindPaneLayout(LayoutTypeName).Shape)
 	{
 	case EPaneShape::Row:
-		return Arrange(All, true);
+		return Divide(All, true, 0);
 	case EPaneShape::Column:
-		return Arrange(All, false);
+		return Divide(All, false, 0);
 	case EPaneShape::FirstLeft:
-		return Arrange(FWidgets{All[0], Arrange(Others, false)}, true);
+		return Divide(FWidgets{All[0], Divide(Others, false, 2)}, true, 0);
 	case EPaneShape::FirstRight:
-		return Arrange(FWidgets{Arrange(Others, false), All[0]}, true);
+		return Divide(FWidgets{Divide(Others, false, 2), All[0]}, true, 0);
 	case EPaneShape::FirstTop:
-		return Arrange(FWidgets{All[0], Arrange(Others, true)}, false);
+		return Divide(FWidgets{All[0], Divide(Others, true, 2)}, false, 0);
 	case EPaneShape::FirstBottom:
-		return Arrange(FWidgets{Arrange(Others, true), All[0]}, false);
+		return Divide(FWidgets{Divide(Others, true, 2), All[0]}, false, 0);
 	case EPaneShape::Grid:
 		break;
 	}
-	return Arrange(FWidgets{Arrange(FWidgets{All[0], All[1]}, true), Arrange(FWidgets{All[2], All[3]}, true)}, false);
+	// One handle for both rows keeps the panes aligned.
+	return Divide(FWidgets{Divide(FWidgets{All[0], All[1]}, true, 2), Divide(FWidgets{All[2], All[3]}, true, 2)}, false, 0);
+}
+
+bool FLevelViewportLayout::SetPaneShares(const TArray<float>& InShares)
+{
+	if (InShares.Num() != Shares.Num()
+		|| InShares.FindByPredicate([](const float Share) { return !(Share > 0.0f) || Share > MAX_flt; }) != nullptr)
+	{
+		return false;
+	}
+	int32 First = 0;
+	for (const int32 Parts : GetDivisions(FindPaneLayout(LayoutTypeName)))
+	{
+		float Sum = 0.0f;
+		for (int32 Part = 0; Part < Parts; ++Part)
+		{
+			Sum += InShares[First + Part];
+		}
+		for (int32 Part = 0; Part < Parts; ++Part)
+		{
+			Shares[First + Part] = InShares[First + Part] / Sum;
+		}
+		First += Parts;
+	}
+	return true;
+}
+
+void FLevelViewportLayout::OnDragged()
+{
+	StandIn::OnPanesArranged().Broadcast();
 }
 
 void FLevelViewportLayout::DestroyViewports()
@@ -221,6 +278,7 @@ void FLevelViewportLayout::RequestMaximizeViewport(FName ViewportToMaximize, boo
 			MaximizedViewport.Reset();
 			Panes->SetContent(ArrangePanes());
 		}
+		StandIn::OnPanesArranged().Broadcast();
 		return;
 	}
 }

@@ -7,6 +7,7 @@
 #include "SLevelEditor.h"
 #include "SLevelViewport.h"
 #include "SLevelViewportPanes.h"
+#include "StandIn/LevelEditorPanes.h"
 
 FLevelViewportTabContent::FLevelViewportTabContent()
 	: bForeground(true)
@@ -33,6 +34,7 @@ void FLevelViewportTabContent::SetViewportConfiguration(const FName& Configurati
 	check(ActiveLevelViewportLayout.IsValid());
 	ActiveLevelViewportLayout->SetForeground(bForeground);
 	Content->SetContent(ActiveLevelViewportLayout->BuildViewportLayout(ParentLevelEditor.Pin(), LayoutString));
+	StandIn::OnPanesArranged().Broadcast();
 }
 
 void FLevelViewportTabContent::DestroyLayout()

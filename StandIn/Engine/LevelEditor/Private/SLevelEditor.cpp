@@ -6,6 +6,7 @@
 #include "LevelViewportTabContent.h"
 #include "SLevelViewport.h"
 #include "SLevelViewportPanes.h"
+#include "StandIn/LevelEditorPanes.h"
 
 namespace
 {
@@ -13,6 +14,16 @@ namespace
 FString GetTabName(int32 TabNumber)
 {
 	return FString::Printf(TEXT("Viewport %d"), TabNumber);
+}
+
+int32 GetTabNumber(const FLevelViewportTabContent& Tab)
+{
+	int32 TabNumber = 1;
+	while (Tab.GetLayoutString() != GetTabName(TabNumber))
+	{
+		++TabNumber;
+	}
+	return TabNumber;
 }
 }
 
@@ -74,16 +85,46 @@ void SLevelEditor::CloseAllTabs()
 	}
 }
 
-void SLevelEditor::BringToFront(const TSharedPtr<FLevelViewportTabContent>& FrontTab)
+void SLevelEditor::BringToFront(const TSharedPtr<FLevelViewportTabContent>& NewFrontTab)
+{
+	FrontTab = NewFrontTab;
+	for (const TSharedPtr<FLevelViewportTabContent>& Tab : ViewportTabs)
+	{
+		Tab->SetForeground(Tab == NewFrontTab);
+	}
+	if (NewFrontTab.IsValid())
+	{
+		TabWell->SetContent(NewFrontTab->GetContent());
+	}
+	StandIn::OnPanesArranged().Broadcast();
+}
+
+TSharedPtr<FLevelViewportTabContent> SLevelEditor::FindTabOf(const TSharedPtr<SLevelViewport>& Viewport) const
 {
 	for (const TSharedPtr<FLevelViewportTabContent>& Tab : ViewportTabs)
 	{
-		Tab->SetForeground(Tab == FrontTab);
+		if (Viewport.IsValid() && Tab->GetViewports().Contains(Viewport))
+		{
+			return Tab;
+		}
 	}
-	if (FrontTab.IsValid())
+	return TSharedPtr<FLevelViewportTabContent>();
+}
+
+TArray<int32> SLevelEditor::GetTabNumbers() const
+{
+	TArray<int32> Numbers;
+	for (const TSharedPtr<FLevelViewportTabContent>& Tab : ViewportTabs)
 	{
-		TabWell->SetContent(FrontTab->GetContent());
+		Numbers.Add(GetTabNumber(*Tab));
 	}
+	return Numbers;
+}
+
+int32 SLevelEditor::GetFrontTabNumber() const
+{
+	const TSharedPtr<FLevelViewportTabContent> Tab = FrontTab.Pin();
+	return Tab.IsValid() ? GetTabNumber(*Tab) : 0;
 }
 
 TArray<TSharedPtr<SLevelViewport>> SLevelEditor::GetViewports() const

@@ -35,6 +35,15 @@ public:
 	/** Returns an open tab, or null. */
 	TSharedPtr<FLevelViewportTabContent> FindTab(int32 TabNumber) const;
 
+	/** Returns the tab of a pane, or null. */
+	TSharedPtr<FLevelViewportTabContent> FindTabOf(const TSharedPtr<SLevelViewport>& Viewport) const;
+
+	/** Returns the numbers of the open tabs in the order in which they were opened. */
+	TArray<int32> GetTabNumbers() const;
+
+	/** Returns the number of the tab in front, 0 without tabs. */
+	int32 GetFrontTabNumber() const;
+
 	virtual TSharedPtr<IAssetViewport> GetActiveViewportInterface() override;
 	virtual TArray<TSharedPtr<SLevelViewport>> GetViewports() const override;
 
@@ -45,5 +54,6 @@ private:
 	void BringToFront(const TSharedPtr<FLevelViewportTabContent>& Tab);
 
 	TArray<TSharedPtr<FLevelViewportTabContent>> ViewportTabs;
+	TWeakPtr<FLevelViewportTabContent> FrontTab;
 	TSharedPtr<SLevelViewportPanes> TabWell;
 };

@@ -12,7 +12,8 @@ class SLevelViewportPanes;
 class SWidget;
 
 // The arrangement of a viewport tab's panes. Every pane has a key made of the layout's name, the tab and the pane, such as
-// "FourPanes2x2.Viewport 1.Viewport0". Left out: sizes saved between sessions, immersive mode, animation.
+// "FourPanes2x2.Viewport 1.Viewport0". Handles between the panes share the space anew. Left out: sizes saved between sessions
+// (GetPaneShares and SetPaneShares are for whoever keeps them), immersive mode, animation.
 // Uncertain in the engine and settled here: the keys of two panes have the layout's name in front like all others.
 
 /** The arrangement of a viewport tab's panes. */
@@ -52,15 +53,33 @@ public:
 	/** Tells whether a pane fills the tab. */
 	bool IsViewportMaximized(const SLevelViewport& InViewport) const;
 
+	/** Returns the pane that fills the tab, or null. */
+	TSharedPtr<SLevelViewport> GetMaximizedViewport() const { return MaximizedViewport.Pin(); }
+
 	/** Says whether the tab is in front. */
 	void SetForeground(bool bInForeground) { bForeground = bInForeground; }
 
+	/** Returns how the handles divide the panes: for each row or column of panes the weights, which sum to one; none for one pane. */
+	const TArray<float>& GetPaneShares() const { return Shares; }
+
+	/** Moves the handles; false, and nothing happens, when the number of weights is another one or one is not positive. */
+	bool SetPaneShares(const TArray<float>& InShares);
+
 private:
-	TSharedRef<SWidget> ArrangePanes() const;
+	typedef TArray<TSharedRef<SWidget>> FWidgets;
+
+	TSharedRef<SWidget> ArrangePanes();
+	TSharedRef<SWidget> Divide(const FWidgets& Widgets, bool bSideBySide, int32 FirstShare);
+	float GetShare(int32 Index) const { return Shares[Index]; }
+	void OnShareChanged(float NewShare, int32 Index) { Shares[Index] = NewShare; }
+	void OnDragged();
 
 	FName LayoutTypeName;
 	TArray<TSharedPtr<SLevelViewport>> Viewports;
 	TSharedPtr<SLevelViewportPanes> Panes;
 	TWeakPtr<SLevelViewport> MaximizedViewport;
+
+	/** The weights, row by row; rows whose handles move together have theirs once. */
+	TArray<float> Shares;
 	bool bForeground;
 };

@@ -289,7 +289,8 @@ bool FPluginManager::LoadPluginModules(FPlugin& Plugin, ELoadingPhase::Type Load
 	{
 		StandIn::AddNotice(TEXT("Plugin.Load:") + Plugin.Name,
 			FString::Printf(TEXT("The plug-in %s (%s) does not work because its module %s could not be loaded: %s."), *Plugin.Name,
-				*Plugin.FileName, *Pair.Key.ToString(), DescribeLoadFailure(Pair.Value)));
+				*Plugin.FileName, *Pair.Key.ToString(), DescribeLoadFailure(Pair.Value)),
+			StandIn::ENoticeKind::Error);
 	}
 	return Errors.Num() == 0;
 }

@@ -38,7 +38,9 @@ UToolMenu* UToolMenus::GenerateSubMenu(const UToolMenu* InGeneratedParent, const
 		return nullptr;
 	}
 	// The delegate may change the menu that the entry lies in.
-	const FNewToolMenuDelegate ConstructMenu = Block->SubMenuData.ConstructMenu.NewToolMenu;
+	const FNewToolMenuDelegate ConstructMenu = Block->Type == EMultiBlockType::ToolBarComboButton
+		? Block->ToolBarData.ComboButtonContextMenuGenerator.NewToolMenu
+		: Block->SubMenuData.ConstructMenu.NewToolMenu;
 	const FName SubMenuName(*(InGeneratedParent->MenuName.ToString() + TEXT(".") + InBlockName.ToString()));
 
 	TArray<UToolMenu*> Hierarchy;

@@ -7,8 +7,9 @@
 #include "StandIn/MenuEntryArguments.h"
 #include "Styling/CoreStyle.h"
 #include "Styling/SlateStyleRegistry.h"
+#include "ToolMenuActions.h"
 
-namespace ToolMenusWidgetsPrivate
+namespace
 {
 FUIAction BindContext(const FToolUIAction& Source, const FToolMenuContext& Context)
 {
@@ -38,8 +39,9 @@ FUIAction BindContext(const FToolUIAction& Source, const FToolMenuContext& Conte
 	}
 	return Action;
 }
+}
 
-FUIAction ActionOf(const FToolUIActionChoice& Choice, const FToolMenuContext& Context)
+FUIAction ToolMenuActions::Bind(const FToolUIActionChoice& Choice, const FToolMenuContext& Context)
 {
 	if (const FUIAction* Action = Choice.GetUIAction())
 	{
@@ -47,7 +49,6 @@ FUIAction ActionOf(const FToolUIActionChoice& Choice, const FToolMenuContext& Co
 	}
 	const FToolUIAction* ToolAction = Choice.GetToolUIAction();
 	return ToolAction ? BindContext(*ToolAction, Context) : FUIAction();
-}
 }
 
 TSharedRef<SWidget> UToolMenus::GenerateWidget(const FName Name, const FToolMenuContext& InMenuContext)
@@ -72,14 +73,23 @@ TSharedRef<SWidget> UToolMenus::GenerateWidget(UToolMenu* GeneratedMenu)
 
 TSharedRef<FMultiBox> UToolMenus::MakeMultiBox(UToolMenu* GeneratedMenu)
 {
+	const ISlateStyle* Found = GeneratedMenu->StyleName.IsNone() ? nullptr : FSlateStyleRegistry::FindSlateStyle(GeneratedMenu->StyleName);
+	const ISlateStyle& Style = Found ? *Found : FCoreStyle::Get();
+	if (GeneratedMenu->MenuType == EMultiBoxType::MenuBar)
+	{
+		return MakeMenuBar(GeneratedMenu, Style);
+	}
+	if (GeneratedMenu->MenuType == EMultiBoxType::ToolBar)
+	{
+		return MakeToolBar(GeneratedMenu, Style);
+	}
 	if (GeneratedMenu->MenuType != EMultiBoxType::Menu)
 	{
-		STANDIN_MISSING(TEXT("UToolMenus::GenerateWidget of a menu that is not of type EMultiBoxType::Menu"));
+		STANDIN_MISSING(TEXT("UToolMenus::GenerateWidget of a menu that is of another type than Menu, MenuBar and ToolBar"));
 	}
-	const ISlateStyle* Style = GeneratedMenu->StyleName.IsNone() ? nullptr : FSlateStyleRegistry::FindSlateStyle(GeneratedMenu->StyleName);
 	FMenuBuilder MenuBuilder(GeneratedMenu->bShouldCloseWindowAfterMenuSelection, TSharedPtr<const FUICommandList>(),
-		GeneratedMenu->Context.GetAllExtenders(), GeneratedMenu->bCloseSelfOnly, Style ? Style : &FCoreStyle::Get(),
-		GeneratedMenu->bSearchable, GeneratedMenu->MenuName);
+		GeneratedMenu->Context.GetAllExtenders(), GeneratedMenu->bCloseSelfOnly, &Style, GeneratedMenu->bSearchable,
+		GeneratedMenu->MenuName);
 	PopulateMenuBuilder(MenuBuilder, GeneratedMenu);
 	return MenuBuilder.GetMultiBox();
 }
@@ -139,7 +149,7 @@ void UToolMenus::PopulateEntry(FMenuBuilder& MenuBuilder, UToolMenu* MenuData, c
 	Arguments.Label = Block.Label;
 	Arguments.ToolTip = Block.ToolTip;
 	Arguments.Icon = Block.Icon.IsSet() ? Block.Icon.Get() : FSlateIcon();
-	Arguments.Action = ToolMenusWidgetsPrivate::ActionOf(Block.Action, MenuData->Context);
+	Arguments.Action = ToolMenuActions::Bind(Block.Action, MenuData->Context);
 	Arguments.UserInterfaceActionType = Block.UserInterfaceActionType;
 	Arguments.bShouldCloseWindowAfterMenuSelection = Block.bShouldCloseWindowAfterMenuSelection;
 	if (Block.MakeWidget.IsBound())

@@ -16,7 +16,7 @@
 class UToolMenuEntryScript;
 
 // One entry of a tool menu. Entries are described by value and copied into generated menus. Nothing can make a script object
-// here, so ScriptObject stays null; tool bar buttons and combo buttons can be described and are refused when shown.
+// here, so ScriptObject stays null.
 
 /** What an entry that opens a submenu needs. */
 struct TOOLMENUS_API FToolMenuEntrySubMenuData

@@ -16,8 +16,8 @@
 #include "UObject/WeakObjectPtrTemplates.h"
 #include "ToolMenus.generated.h"
 
-// The manager of tool menus. Menus of type Menu only: widgets of tool bars and menu bars are refused. Nothing can be customised by the
-// user, and no string commands are known. An entry that stands under one name in a menu and in its parent shows twice.
+// The manager of tool menus. Menus of the types Menu, MenuBar and ToolBar; widgets of other types are refused. Nothing can be customised
+// by the user, and no string commands are known. An entry that stands under one name in a menu and in its parent shows twice.
 
 TOOLMENUS_API DECLARE_LOG_CATEGORY_EXTERN(LogToolMenus, Log, All);
 
@@ -143,6 +143,10 @@ private:
 	static UToolMenus* TryGetExisting();
 	static void RunStartupCallbacks();
 	static void AddToRegistrations();
+	static void OnModuleBinaryUnloading(FName ModuleName);
+	static bool IsEntryOfModule(const FToolMenuEntry& Entry, FName ModuleName);
+	void DropFromModule(FName ModuleName);
+	void DropFromMenu(UToolMenu& Menu, FName ModuleName);
 
 	UToolMenu* Assemble(const TArray<UToolMenu*>& Hierarchy, const FName InMenuName, const FToolMenuContext& InContext);
 	void AssembleMember(UToolMenu* GeneratedMenu, const UToolMenu* Member);
@@ -151,6 +155,10 @@ private:
 	void ExpandEntries(const FToolMenuContext& Context, const FToolMenuSection& Section, TArray<FToolMenuEntry>& OutEntries);
 
 	TSharedRef<FMultiBox> MakeMultiBox(UToolMenu* GeneratedMenu);
+	TSharedRef<FMultiBox> MakeMenuBar(UToolMenu* GeneratedMenu, const ISlateStyle& Style);
+	TSharedRef<FMultiBox> MakeToolBar(UToolMenu* GeneratedMenu, const ISlateStyle& Style);
+	void PopulateToolBarEntry(FToolBarBuilder& ToolBarBuilder, UToolMenu* MenuData, const FToolMenuEntry& Block);
+	TSharedRef<SWidget> MakeComboButtonMenu(TWeakObjectPtr<UToolMenu> InParent, FName InBlockName);
 	void PopulateMenuBuilder(FMenuBuilder& MenuBuilder, UToolMenu* MenuData);
 	void PopulateEntry(FMenuBuilder& MenuBuilder, UToolMenu* MenuData, const FToolMenuEntry& Block);
 	void PopulateSubMenu(FMenuBuilder& MenuBuilder, TWeakObjectPtr<UToolMenu> InParent, FName InBlockName);

@@ -6,6 +6,7 @@
 #include "Engine/World.h"
 #include "PreviewScene.h"
 #include "SEditorViewport.h"
+#include "StandIn/CameraMover.h"
 
 DEFINE_LOG_CATEGORY(LogEditorViewport);
 
@@ -120,6 +121,16 @@ void FEditorViewportClient::Draw(FViewport*, FCanvas*)
 void FEditorViewportClient::RedrawRequested(FViewport*)
 {
 	bNeedsRedraw = true;
+}
+
+bool FEditorViewportClient::InputAxis(FViewport* InViewport, int32, FKey Key, float Delta, float, int32, bool)
+{
+	if (!StandIn::MoveCamera(*this, *InViewport, Key, Delta))
+	{
+		return false;
+	}
+	Invalidate(true, false);
+	return true;
 }
 
 void FEditorViewportClient::AddReferencedObjects(FReferenceCollector&) {}

@@ -4,6 +4,7 @@
 #include "InputCoreTypes.h"
 #include "SEditorViewport.h"
 #include "SEditorViewportViewMenuContext.h"
+#include "Styling/CoreStyle.h"
 #include "ToolMenus.h"
 
 #define LOCTEXT_NAMESPACE "EditorViewportViewMenu"
@@ -20,6 +21,13 @@ struct FViewMode
 	const TCHAR* ToolTip;
 	FKey Key;
 };
+
+/** Icon of a view mode or of a group of them. */
+FSlateIcon MakeIcon(const FName Name)
+{
+	const FName BrushName(*(FString(TEXT("EditorViewport.")) + Name.ToString()));
+	return FSlateIcon(FCoreStyle::Get().GetStyleSetName(), BrushName, BrushName);
+}
 
 void FillWith(UToolMenu* Menu, const FName SectionName, const TArray<const TCHAR*>& Labels)
 {
@@ -84,7 +92,8 @@ void SEditorViewportViewMenu::AddViewMode(
 	const TSharedRef<FBindingContext> Context = MakeShared<FBindingContext>(
 		TEXT("EditorViewport"), LOCTEXT("EditorViewportCommands", "Common Viewport Commands"), NAME_None, NAME_None);
 	TSharedPtr<FUICommandInfo> Command;
-	FUICommandInfo::MakeCommandInfo(Context, Command, Name, Label, InToolTip, FSlateIcon(), EUserInterfaceActionType::RadioButton, Chord);
+	FUICommandInfo::MakeCommandInfo(Context, Command, Name, Label, InToolTip, EditorViewportViewMenuPrivate::MakeIcon(Name),
+		EUserInterfaceActionType::RadioButton, Chord);
 	const bool bLit = Name == EditorViewportViewMenuPrivate::LitMode;
 	const TSharedRef<FUICommandList> Commands = MakeShared<FUICommandList>();
 	Commands->MapAction(Command, FExecuteAction(), FCanExecuteAction::CreateLambda([bLit]() { return bLit; }),
@@ -113,20 +122,23 @@ void SEditorViewportViewMenu::FillViewMenu(UToolMenu* Menu) const
 			EditorViewportViewMenuPrivate::FillWith(InMenu, TEXT("OptimizationViewmodes"),
 				{TEXT("Light Complexity"), TEXT("Lightmap Density"), TEXT("Stationary Light Overlap"), TEXT("Shader Complexity"),
 					TEXT("Shader Complexity & Quads"), TEXT("Quad Overdraw")});
-		}));
+		}),
+		false, EditorViewportViewMenuPrivate::MakeIcon(TEXT("QuadOverdrawMode")));
 	Section.AddSubMenu(TEXT("VisualizeBufferViewMode"), LOCTEXT("VisualizeBufferViewModeDisplayName", "Buffer Visualization"),
 		LOCTEXT("BufferVisualization_ToolTip", "Select a mode for buffer visualization"),
 		FNewToolMenuDelegate::CreateLambda([](UToolMenu* InMenu) {
 			EditorViewportViewMenuPrivate::FillWith(InMenu, TEXT("BufferVisualization"),
 				{TEXT("Overview"), TEXT("Base Color"), TEXT("Metallic"), TEXT("Roughness"), TEXT("Scene Color"), TEXT("Scene Depth"),
 					TEXT("World Normal")});
-		}));
+		}),
+		false, EditorViewportViewMenuPrivate::MakeIcon(TEXT("VisualizeBufferMode")));
 	Section.AddSubMenu(TEXT("LevelOfDetailColoration"), LOCTEXT("VisualizeLODViewModeDisplayName", "Level of Detail Coloration"),
 		LOCTEXT("LevelOfDetailColoration_ToolTip", "Select a mode for coloration by level of detail"),
 		FNewToolMenuDelegate::CreateLambda([](UToolMenu* InMenu) {
 			EditorViewportViewMenuPrivate::FillWith(
 				InMenu, TEXT("LevelOfDetailColoration"), {TEXT("Mesh LOD Coloration"), TEXT("Hierarchical LOD Coloration")});
-		}));
+		}),
+		false, EditorViewportViewMenuPrivate::MakeIcon(TEXT("LODColorationMode")));
 }
 
 #undef LOCTEXT_NAMESPACE

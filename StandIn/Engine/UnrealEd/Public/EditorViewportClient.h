@@ -13,8 +13,8 @@
 
 // The client of an editor's viewport. The constructor puts it into GEditor's list and the destructor takes it out, each
 // with the list's event; both happen while the object is of this base class only.
-// Left out: cameras, view modes, show flags, widgets, modes, input, the view element drawer among its bases; the real-time
-// switch is not saved between sessions.
+// Left out: cameras (StandIn/CameraMover.h passes on how the mouse would move them), view modes, show flags, widgets, modes, most
+// input, the view element drawer among its bases; the real-time switch is not saved between sessions.
 // Uncertain in the engine and settled here: destroying a client whose Viewport is set is always fatal, also without a widget.
 
 class FEditorModeTools;
@@ -92,6 +92,8 @@ public:
 	virtual UWorld* GetWorld() const override;
 	virtual void Draw(FViewport* InViewport, FCanvas* Canvas) override;
 	virtual void RedrawRequested(FViewport* InViewport) override;
+	virtual bool InputAxis(FViewport* InViewport, int32 ControllerId, FKey Key, float Delta, float DeltaTime, int32 NumSamples = 1,
+		bool bGamepad = false) override;
 	virtual void AddReferencedObjects(FReferenceCollector& Collector) override;
 
 	/** Returns the preview that is seen, or null. */

@@ -30,8 +30,14 @@ TINTMILL_API bool LoadLookFile(UTintmillObject* Asset, const FString& FileName);
 /** Looks at the files of all living look assets, reads those that changed, and returns the assets whose look is now another. */
 TINTMILL_API TArray<UTintmillObject*> PollLookFiles();
 
+/** The same for the assets of some files alone, by their full names; the others are not looked at. */
+TINTMILL_API TArray<UTintmillObject*> PollLookFiles(const TArray<FString>& FileNames);
+
 /** Returns what the asset's look is good for. */
 TINTMILL_API ELookState GetLookState(const UTintmillObject* Asset);
+
+/** Returns a number that is another whenever the asset's look is another or can be used no more; 0 while it has none. */
+TINTMILL_API uint64 GetLookRevision(const UTintmillObject* Asset);
 
 /** Returns why the asset's look cannot be used, "Teal.cube(17): reason"; empty when it can. */
 TINTMILL_API FString GetLookProblem(const UTintmillObject* Asset);

@@ -268,7 +268,7 @@ TEST_F(FSlateInput, RoutesAPressToTheUpperOfTwoWindows)
 {
 	ShowPair();
 	const TSharedRef<STestBox> Above = SNew(STestBox).Name("above").Log(&Notes);
-	App().AddWindow(SNew(SWindow).ClientSize(FVector2D(50, 50)).ScreenPosition(FVector2D(10, 10))[Above]);
+	App().AddWindow(SNew(SWindow).CreateTitleBar(false).ClientSize(FVector2D(50, 50)).ScreenPosition(FVector2D(10, 10))[Above]);
 	StandIn::AdvanceTime(0.0f);
 	StandIn::MoveMouse(FVector2D(20, 20));
 	TakeNotes();
@@ -279,7 +279,7 @@ TEST_F(FSlateInput, RoutesAPressToTheUpperOfTwoWindows)
 TEST_F(FSlateInput, ActivatesThePressedWindowAndBringsItToTheFront)
 {
 	ShowPair();
-	const TSharedRef<SWindow> Other = SNew(SWindow).ClientSize(FVector2D(50, 50)).ScreenPosition(FVector2D(10, 10));
+	const TSharedRef<SWindow> Other = SNew(SWindow).CreateTitleBar(false).ClientSize(FVector2D(50, 50)).ScreenPosition(FVector2D(10, 10));
 	App().AddWindow(Other);
 	EXPECT_TRUE(Other->IsActive());
 	StandIn::AdvanceTime(0.0f);
@@ -292,7 +292,7 @@ TEST_F(FSlateInput, TellsAWindowsOwnerThatItClosedAndClosesItsChildren)
 {
 	ShowPair();
 	int32 NumClosed = 0;
-	const TSharedRef<SWindow> Child = SNew(SWindow).ClientSize(FVector2D(50, 50));
+	const TSharedRef<SWindow> Child = SNew(SWindow).CreateTitleBar(false).ClientSize(FVector2D(50, 50));
 	Child->SetOnWindowClosed(FOnWindowClosed::CreateLambda([&NumClosed](const TSharedRef<SWindow>&) { ++NumClosed; }));
 	App().AddWindowAsNativeChild(Child, Window.ToSharedRef());
 	Window->RequestDestroyWindow();

@@ -149,7 +149,7 @@ bool FConfigFile::Combine(const FString& Filename)
 	const StandIn::EConfigRead Result = StandIn::ReadConfigBytes(Filename, Bytes, Reason);
 	if (Result != StandIn::EConfigRead::Read)
 	{
-		if (Result == StandIn::EConfigRead::Failed)
+		if (Result != StandIn::EConfigRead::Missing)
 		{
 			StandIn::NoticeHierarchyFile(Filename, Reason, 0, 0);
 		}

@@ -8,8 +8,10 @@
 #include "Misc/Paths.h"
 #include "Misc/TextCodec.h"
 #include "StandIn/AtomicFile.h"
+#include "StandIn/AtomicFilePlatform.h"
 #include "StandIn/ConfigOrigin.h"
 #include "StandIn/Notices.h"
+#include "StandIn/WhileHeld.h"
 
 #include <cerrno>
 #include <cstdio>
@@ -141,7 +143,8 @@ bool FailSave(const FString& Filename, const FString& Reason)
 	AddNotice(SaveNoticeKey(Filename),
 		FString::Printf(TEXT("The settings could not be saved to %s: %s. They stay in use and are saved with the next change once "
 							 "this is put right."),
-			*Filename, *Reason));
+			*Filename, *Reason),
+		ENoticeKind::Error);
 	return false;
 }
 
@@ -173,6 +176,10 @@ bool FindLinesToEdit(const FString& Filename, const TSharedPtr<FConfigDocument>&
 	}
 	FString Aside;
 	FString Why;
+	if (Result == EConfigRead::Held)
+	{
+		return false;
+	}
 	if (Result == EConfigRead::Failed && !MoveAside(Filename, Aside, Why))
 	{
 		OutReason = FString::Printf(TEXT("the file there cannot be read (%s) and cannot be renamed (%s)"), *OutReason, *Why);
@@ -252,11 +259,20 @@ EConfigRead ReadConfigBytes(const FString& Filename, std::string& OutBytes, FStr
 		OutReason = TEXT("it is larger than 256 MiB");
 		return EConfigRead::Failed;
 	}
-	std::ifstream File(Path, std::ios::binary);
+	std::ifstream File;
+	int OpenError = 0;
+	bool bHeld = false;
+	StandInPrivate::TryWhileHeld([&]() {
+		errno = 0;
+		File.open(Path, std::ios::binary);
+		OpenError = errno;
+		bHeld = !File && StandInPrivate::FAtomicFilePlatform::IsHeld(Path);
+		return bHeld;
+	});
 	if (!File)
 	{
-		OutReason = ReasonText(std::strerror(errno));
-		return EConfigRead::Failed;
+		OutReason = bHeld ? FString(TEXT("another program keeps it open for itself")) : ReasonText(std::strerror(OpenError));
+		return bHeld ? EConfigRead::Held : EConfigRead::Failed;
 	}
 	OutBytes.resize(Error ? 0 : size_t(Size));
 	File.read(OutBytes.data(), std::streamsize(OutBytes.size()));
@@ -292,6 +308,13 @@ TSharedRef<FConfigDocument> LoadConfigDocument(const FString& Filename)
 								 "renamed to %s."),
 				*Filename, *Reason, *FindAsideName(Filename, nullptr, bIsKept)));
 	}
+	if (Result == EConfigRead::Held)
+	{
+		AddNotice(ReadNoticeKey(Filename),
+			FString::Printf(TEXT("The settings in %s cannot be read: %s; they are not used until the next start, and what is saved "
+								 "meanwhile is added to them."),
+				*Filename, *Reason));
+	}
 	const TSharedRef<FConfigDocument> Document = FConfigDocument::Parse(std::move(Bytes));
 	KeepUnreadable(Filename, *Document, true);
 	return Document;
@@ -309,6 +332,10 @@ bool SaveConfigDocument(const FString& Filename, TSharedPtr<FConfigDocument>& In
 	}
 	FLinesToEdit Found;
 	FString Reason;
+	if (AreSavesRefused(Filename, Reason))
+	{
+		return FailSave(Filename, Reason);
+	}
 	if (!FindLinesToEdit(Filename, InOutDocument, Found, Reason))
 	{
 		return FailSave(Filename, Reason);

@@ -18,7 +18,9 @@ enum class EConfigRead
 	/** There is no such file. */
 	Missing,
 	/** It is there but cannot be read. */
-	Failed
+	Failed,
+	/** Another program keeps it from being read, also after a moment. */
+	Held
 };
 
 /** Number of a file name for FConfigValue::OriginFile; INDEX_NONE for "". */

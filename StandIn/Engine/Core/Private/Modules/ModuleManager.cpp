@@ -3,6 +3,7 @@
 #include "Modules/ModuleManager.h"
 
 #include "CoreGlobals.h"
+#include "HAL/LibraryAddress.h"
 #include "HAL/PlatformProcess.h"
 #include "Misc/Paths.h"
 #include "StandIn/ModuleHooks.h"
@@ -23,6 +24,12 @@ struct FModuleManagerAccess
 	{
 		const FModuleManager::FModuleInfoPtr Info = FModuleManager::Get().FindModule(ModuleName);
 		return Info.IsValid() && Info->Handle;
+	}
+
+	static bool IsInBinary(FName ModuleName, const void* Address)
+	{
+		const FModuleManager::FModuleInfoPtr Info = FModuleManager::Get().FindModule(ModuleName);
+		return Info.IsValid() && Info->Handle && StandInPrivate::IsInLibrary(Info->Handle, Address);
 	}
 
 	static void ListModules(TArray<StandIn::FRegistration>& Out)
@@ -360,6 +367,23 @@ FOnModuleBinaryUnloading& OnModuleBinaryUnloading()
 void RemoveBinariesDirectory(const FString& Directory)
 {
 	FModuleManagerAccess::RemoveBinariesDirectory(FPaths::ConvertRelativePathToFull(Directory));
+}
+
+/** Reads the bindings of delegates. */
+struct FDelegateAccess
+{
+	/** Where the code of a delegate's binding lies: its table of virtual functions, which the binary that bound it brought along. */
+	static const void* FindCode(const FDelegateBase& Delegate)
+	{
+		const IDelegateInstance* const Instance = Delegate.GetDelegateInstanceProtected();
+		return Instance ? *reinterpret_cast<const void* const*>(Instance) : nullptr;
+	}
+};
+
+bool IsBoundByModule(const FDelegateBase& Delegate, FName ModuleName)
+{
+	const void* const Code = FDelegateAccess::FindCode(Delegate);
+	return Code && FModuleManagerAccess::IsInBinary(ModuleName, Code);
 }
 
 bool IsModuleBinaryMapped(FName ModuleName)

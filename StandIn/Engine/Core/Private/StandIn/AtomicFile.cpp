@@ -5,16 +5,17 @@
 #include "HAL/FileManager.h"
 #include "HAL/NativePath.h"
 #include "HAL/PlatformProcess.h"
+#include "Misc/Paths.h"
 #include "Misc/TextCodec.h"
 #include "StandIn/AtomicFilePlatform.h"
+#include "StandIn/WhileHeld.h"
 
 #include <algorithm>
-#include <chrono>
 #include <mutex>
 #include <set>
 #include <string>
 #include <system_error>
-#include <thread>
+#include <utility>
 #include <vector>
 
 namespace StandIn
@@ -39,6 +40,27 @@ FTemporariesInUse& TemporariesInUse()
 {
 	static FTemporariesInUse* const InUse = new FTemporariesInUse();
 	return *InUse;
+}
+
+/** Folders below which nothing is saved, and why. */
+struct FRefusals
+{
+	std::mutex Mutex;
+	std::vector<std::pair<FString, FString>> Folders;
+};
+
+FRefusals& Refusals()
+{
+	static FRefusals* const All = new FRefusals();
+	return *All;
+}
+
+/** Full name with forward slashes. */
+FString FullName(const FString& FileName)
+{
+	FString Name = FPaths::ConvertRelativePathToFull(FileName);
+	FPaths::NormalizeFilename(Name);
+	return Name;
 }
 
 bool RunHook(EAtomicFileStep Step, const FString& FileName, std::string& OutReason)
@@ -131,19 +153,15 @@ public:
 
 	bool Replace(const FString& FileName, const std::filesystem::path& Target, std::string& OutReason)
 	{
-		// Virus scanners and indexers hold a file for moments: wait for those, and for nothing else.
-		const int32 Pauses[] = {5, 20, 50, 110};
-		const size_t NumPauses = sizeof(Pauses) / sizeof(Pauses[0]);
-		for (size_t Try = 0; RunHook(EAtomicFileStep::Replace, FileName, OutReason); ++Try)
-		{
+		StandInPrivate::TryWhileHeld([&]() {
+			if (!RunHook(EAtomicFileStep::Replace, FileName, OutReason))
+			{
+				return false;
+			}
 			const FPlatform::EReplace Result = FPlatform::Replace(Path, Target, OutReason);
 			bReplaced = Result == FPlatform::EReplace::Replaced;
-			if (Result != FPlatform::EReplace::Held || Try == NumPauses)
-			{
-				break;
-			}
-			std::this_thread::sleep_for(std::chrono::milliseconds(Pauses[Try]));
-		}
+			return Result == FPlatform::EReplace::Held;
+		});
 		return bReplaced;
 	}
 
@@ -227,6 +245,10 @@ FAtomicFileHook SetAtomicFileHook(FAtomicFileHook Hook)
 
 bool SaveFileAtomically(const FString& FileName, const void* Data, int64 NumBytes, FString& OutReason)
 {
+	if (AreSavesRefused(FileName, OutReason))
+	{
+		return false;
+	}
 	std::string Reason;
 	const bool bSaved = SaveWhole(FileName, static_cast<const char*>(Data), NumBytes, Reason);
 	OutReason = StandInPrivate::DecodeText(reinterpret_cast<const uint8*>(Reason.data()), int64(Reason.size()));
@@ -263,5 +285,37 @@ int32 SweepTemporaries(const FString& FileName)
 		std::error_code Failed;
 		return std::filesystem::remove(Path, Failed);
 	}));
+}
+
+void RefuseSaves(const FString& Folder, const FString& Reason)
+{
+	const FString Name = FullName(Folder);
+	const std::lock_guard<std::mutex> Lock(Refusals().Mutex);
+	Refusals().Folders.emplace_back(Name.EndsWith(TEXT("/")) ? Name : Name + TEXT("/"), Reason);
+}
+
+void AllowSaves()
+{
+	const std::lock_guard<std::mutex> Lock(Refusals().Mutex);
+	Refusals().Folders.clear();
+}
+
+bool AreSavesRefused(const FString& FileName, FString& OutReason)
+{
+	const std::lock_guard<std::mutex> Lock(Refusals().Mutex);
+	if (Refusals().Folders.empty())
+	{
+		return false;
+	}
+	const FString Name = FullName(FileName);
+	for (const std::pair<FString, FString>& Refusal : Refusals().Folders)
+	{
+		if (Name.StartsWith(Refusal.first, ESearchCase::CaseSensitive))
+		{
+			OutReason = Refusal.second;
+			return true;
+		}
+	}
+	return false;
 }
 }

@@ -40,6 +40,8 @@ struct FAtomicFilePlatform
 
 	/** Puts a file in another's place in one step, or leaves both as they are. */
 	static EReplace Replace(const std::filesystem::path& Temporary, const std::filesystem::path& Target, std::string& OutReason);
+	/** Whether another program keeps a file from being read; it may let go in a moment. */
+	static bool IsHeld(const std::filesystem::path& File);
 	/** Makes the folder's entries last. */
 	static bool FlushFolder(const std::filesystem::path& Folder, std::string& OutReason);
 };

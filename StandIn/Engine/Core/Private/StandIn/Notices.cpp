@@ -23,7 +23,7 @@ FNoticeState& NoticeState()
 }
 }
 
-void AddNotice(const FString& Key, const FString& Text)
+void AddNotice(const FString& Key, const FString& Text, ENoticeKind Kind)
 {
 	FNoticeState& State = NoticeState();
 	if (State.Notices.ContainsByPredicate([&Key](const FNotice& Notice) { return Notice.Key.Equals(Key); }))
@@ -33,8 +33,16 @@ void AddNotice(const FString& Key, const FString& Text)
 	FNotice Notice;
 	Notice.Key = Key;
 	Notice.Text = Text;
+	Notice.Kind = Kind;
 	State.Notices.Add(Notice);
-	UE_LOG(LogNotice, Warning, TEXT("%s"), *Text);
+	if (Kind == ENoticeKind::Error)
+	{
+		UE_LOG(LogNotice, Error, TEXT("%s"), *Text);
+	}
+	else
+	{
+		UE_LOG(LogNotice, Warning, TEXT("%s"), *Text);
+	}
 	State.OnNotice.Broadcast(Notice);
 }
 

@@ -10,10 +10,16 @@
 
 class FMulticastDelegateBase;
 
+namespace StandIn
+{
+struct FDelegateAccess;
+}
+
 /** Holds one binding. */
 class FDelegateBase
 {
 	friend class FMulticastDelegateBase;
+	friend struct StandIn::FDelegateAccess;
 
 public:
 	FDelegateBase() {}

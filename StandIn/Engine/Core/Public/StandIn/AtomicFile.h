@@ -38,4 +38,13 @@ CORE_API bool SaveFileAtomically(const FString& FileName, const void* Data, int6
 
 /** Deletes temporaries of this file that processes which no longer run left behind; returns how many. */
 CORE_API int32 SweepTemporaries(const FString& FileName);
+
+/** Lets every save of a file below a folder fail with these few words, until AllowSaves: for a session that only looks. */
+CORE_API void RefuseSaves(const FString& Folder, const FString& Reason);
+
+/** Takes all refusals back. */
+CORE_API void AllowSaves();
+
+/** Whether saves of a file are refused, and why. */
+CORE_API bool AreSavesRefused(const FString& FileName, FString& OutReason);
 }

@@ -19,6 +19,10 @@ CORE_API FOnModuleBinaryUnloading& OnModuleBinaryUnloading();
 /** Takes a folder out of the module manager's search again; modules loaded from it stay. */
 CORE_API void RemoveBinariesDirectory(const FString& Directory);
 
+/** Says whether a delegate's binding was made by the code of a module's library, which it cannot outlive; false for statically
+    linked modules. */
+CORE_API bool IsBoundByModule(const FDelegateBase& Delegate, FName ModuleName);
+
 /** Says whether a module's library is mapped, loaded or not; false for statically linked modules. */
 CORE_API bool IsModuleBinaryMapped(FName ModuleName);
 }

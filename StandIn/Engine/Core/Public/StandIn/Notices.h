@@ -11,18 +11,28 @@
 
 namespace StandIn
 {
+/** How bad what a notice tells is. */
+enum class ENoticeKind : uint8
+{
+	/** Something could not be used, and the editor goes on without it. */
+	Warning,
+	/** Something will be lost or does not work until a person acts. */
+	Error
+};
+
 /** One plain sentence: what happened, where (file and line), why, and what to do or what was done. */
 struct FNotice
 {
 	/** The subject; only one notice a key exists at a time. */
 	FString Key;
 	FString Text;
+	ENoticeKind Kind = ENoticeKind::Warning;
 };
 
 DECLARE_MULTICAST_DELEGATE_OneParam(FOnNotice, const FNotice&);
 
-/** Adds a notice and logs it as a Warning of LogNotice; does nothing while a notice with this key stands. */
-CORE_API void AddNotice(const FString& Key, const FString& Text);
+/** Adds a notice and logs it as a Warning or an Error of LogNotice; does nothing while a notice with this key stands. */
+CORE_API void AddNotice(const FString& Key, const FString& Text, ENoticeKind Kind = ENoticeKind::Warning);
 
 /** The standing notices, oldest first. */
 CORE_API const TArray<FNotice>& GetNotices();

@@ -33,6 +33,10 @@ public:
 		for (const StandIn::FAssetFileType& Type : StandIn::GetAssetFileTypes())
 		{
 			Extensions.Add(Type.Extension);
+			if (Type.bYields)
+			{
+				YieldingExtensions.Add(Type.Extension);
+			}
 		}
 	}
 
@@ -50,38 +54,68 @@ public:
 		{
 			Report.UnreadableFolders.Add(Folder);
 		}
-		for (const FString& File : Content.Files)
-		{
-			if (bStopped)
-			{
-				return;
-			}
-			AddFile(Folder + File);
-		}
+		AddFiles(Folder, Content.Files);
 		for (const FString& Name : Content.Folders)
 		{
-			if (bRecursive && !bStopped)
+			const FString Child = Folder + Name + TEXT("/");
+			if (bRecursive && !bStopped && !Name.StartsWith(TEXT(".")) && !StandIn::IsLeftOutOfAssets(Child))
 			{
-				Scan(Folder + Name + TEXT("/"), true);
+				Scan(Child, true);
 			}
 		}
 	}
 
 private:
-	void AddFile(const FString& FileName)
+	// Files with names of their own come before those whose names have to be made up, and those that yield come last.
+	void AddFiles(const FString& Folder, const TArray<FString>& Names)
 	{
-		if (Progress && ++NumFiles % FilesAReport == 0)
+		TArray<FString> Later;
+		TArray<FString> Last;
+		for (const FString& Name : Names)
 		{
-			bStopped = !Progress(NumFiles);
+			if (bStopped)
+			{
+				return;
+			}
+			bStopped = Progress && ++NumFiles % FilesAReport == 0 && !Progress(NumFiles);
+			if (Name.StartsWith(TEXT(".")) || !Extensions.Contains(FPaths::GetExtension(Name)))
+			{
+				continue;
+			}
+			const FString BaseName = FPaths::GetBaseFilename(Name);
+			if (YieldingExtensions.Contains(FPaths::GetExtension(Name)))
+			{
+				Last.Add(Name);
+			}
+			else if (StandIn::MakeAssetName(BaseName).Equals(BaseName))
+			{
+				AddFile(Folder + Name, false);
+			}
+			else
+			{
+				Later.Add(Name);
+			}
 		}
-		if (!Extensions.Contains(FPaths::GetExtension(FileName)))
+		for (const FString& Name : Later)
 		{
-			return;
+			AddFile(Folder + Name, false);
 		}
+		for (const FString& Name : Last)
+		{
+			AddFile(Folder + Name, true);
+		}
+	}
+
+	void AddFile(const FString& FileName, bool bYielding)
+	{
 		StandIn::FAssetFile File;
-		if (!StandIn::DescribeAssetFile(FileName, File) || PackageNames.Contains(File.PackageName))
+		const bool bDescribed = StandIn::DescribeAssetFile(FileName, File);
+		if (!bDescribed || PackageNames.Contains(File.PackageName))
 		{
-			Report.SkippedFiles.Add(FileName);
+			if (!bDescribed || !bYielding)
+			{
+				Report.SkippedFiles.Add(FileName);
+			}
 			return;
 		}
 		PackageNames.Add(File.PackageName);
@@ -94,6 +128,7 @@ private:
 	// Sets of strings do not tell upper from lower case: neither do package names.
 	TSet<FString> PackageNames;
 	TSet<FString> Extensions;
+	TSet<FString> YieldingExtensions;
 	std::set<FString, FSpellingLess> SeenFolders;
 	int32 NumFiles;
 	bool bStopped;

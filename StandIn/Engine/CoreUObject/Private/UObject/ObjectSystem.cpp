@@ -166,6 +166,8 @@ void DropModuleTypes(const FName& ModuleName)
 {
 	if (UObjectInitialized())
 	{
+		// What nothing refers to any more may hold bindings of the library; it goes while they can still be destroyed.
+		CollectGarbage(GARBAGE_COLLECTION_KEEPFLAGS);
 		StandInPrivate::DropNativeTypes(StandInPrivate::GetScriptPackageName(ModuleName));
 	}
 }

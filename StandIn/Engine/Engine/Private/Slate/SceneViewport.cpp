@@ -77,11 +77,13 @@ FReply FSceneViewport::OnMouseButtonDown(const FGeometry&, const FPointerEvent& 
 	{
 		return FReply::Unhandled();
 	}
+	HeldKeys.Add(MouseEvent.GetEffectingButton());
 	ViewportClient->InputKey(this, 0, MouseEvent.GetEffectingButton(), IE_Pressed);
 	FReply Reply = FReply::Handled();
 	if (ViewportWidget.IsValid())
 	{
-		Reply.SetUserFocus(ViewportWidget.Pin().ToSharedRef(), EFocusCause::Mouse);
+		const TSharedRef<SViewport> Widget = ViewportWidget.Pin().ToSharedRef();
+		Reply.SetUserFocus(Widget, EFocusCause::Mouse).CaptureMouse(Widget);
 	}
 	return Reply;
 }
@@ -92,12 +94,64 @@ FReply FSceneViewport::OnMouseButtonUp(const FGeometry&, const FPointerEvent& Mo
 	{
 		return FReply::Unhandled();
 	}
+	HeldKeys.Remove(MouseEvent.GetEffectingButton());
 	ViewportClient->InputKey(this, 0, MouseEvent.GetEffectingButton(), IE_Released);
+	FReply Reply = FReply::Handled();
+	const bool bStillHeld =
+		KeyState(EKeys::LeftMouseButton) || KeyState(EKeys::MiddleMouseButton) || KeyState(EKeys::RightMouseButton);
+	return bStillHeld ? Reply : Reply.ReleaseMouseCapture();
+}
+
+FReply FSceneViewport::OnMouseMove(const FGeometry&, const FPointerEvent& MouseEvent)
+{
+	if (ViewportClient == nullptr || !ViewportWidget.IsValid() || !ViewportWidget.Pin()->HasMouseCapture())
+	{
+		return FReply::Unhandled();
+	}
+	const FVector2D Delta = MouseEvent.GetCursorDelta();
+	if (Delta.X != 0.0f)
+	{
+		ViewportClient->InputAxis(this, 0, EKeys::MouseX, Delta.X, 0.0f);
+	}
+	if (Delta.Y != 0.0f)
+	{
+		ViewportClient->InputAxis(this, 0, EKeys::MouseY, -Delta.Y, 0.0f);
+	}
 	return FReply::Handled();
+}
+
+FReply FSceneViewport::OnMouseWheel(const FGeometry&, const FPointerEvent& MouseEvent)
+{
+	if (ViewportClient == nullptr)
+	{
+		return FReply::Unhandled();
+	}
+	const FKey Direction = MouseEvent.GetWheelDelta() < 0.0f ? EKeys::MouseScrollDown : EKeys::MouseScrollUp;
+	ViewportClient->InputKey(this, 0, Direction, IE_Pressed);
+	ViewportClient->InputKey(this, 0, Direction, IE_Released);
+	ViewportClient->InputAxis(this, 0, EKeys::MouseWheelAxis, MouseEvent.GetWheelDelta(), 0.0f);
+	return FReply::Handled();
+}
+
+void FSceneViewport::OnMouseCaptureLost(const FCaptureLostEvent&)
+{
+	const TSet<FKey> Held = HeldKeys;
+	for (const FKey& Key : Held)
+	{
+		if (Key.IsMouseButton())
+		{
+			HeldKeys.Remove(Key);
+			if (ViewportClient != nullptr)
+			{
+				ViewportClient->InputKey(this, 0, Key, IE_Released);
+			}
+		}
+	}
 }
 
 FReply FSceneViewport::OnKeyDown(const FGeometry&, const FKeyEvent& InKeyEvent)
 {
+	HeldKeys.Add(InKeyEvent.GetKey());
 	const EInputEvent Event = InKeyEvent.IsRepeat() ? IE_Repeat : IE_Pressed;
 	if (ViewportClient != nullptr && ViewportClient->InputKey(this, 0, InKeyEvent.GetKey(), Event))
 	{
@@ -108,6 +162,7 @@ FReply FSceneViewport::OnKeyDown(const FGeometry&, const FKeyEvent& InKeyEvent)
 
 FReply FSceneViewport::OnKeyUp(const FGeometry&, const FKeyEvent& InKeyEvent)
 {
+	HeldKeys.Remove(InKeyEvent.GetKey());
 	if (ViewportClient != nullptr && ViewportClient->InputKey(this, 0, InKeyEvent.GetKey(), IE_Released))
 	{
 		return FReply::Handled();
@@ -126,6 +181,7 @@ FReply FSceneViewport::OnFocusReceived(const FFocusEvent&)
 
 void FSceneViewport::OnFocusLost(const FFocusEvent&)
 {
+	HeldKeys.Empty();
 	if (ViewportClient != nullptr)
 	{
 		ViewportClient->LostFocus(this);

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "CoreMinimal.h"
+#include "Containers/Set.h"
 #include "Rendering/RenderingCommon.h"
 #include "Templates/SharedPointer.h"
 #include "UnrealClient.h"
@@ -12,7 +13,8 @@ class SWidget;
 
 // A viewport that is shown in a widget. Several bases: FSceneViewport* and FViewport* differ in address, so convert pointers
 // and never reinterpret them. The size follows the widget when it is painted, unless a fixed size is set.
-// Left out: full screen, mouse capture, debug drawing, the texture behind the render target provider.
+// A pressed button captures the mouse until the last one is released; moves are told as axes at once, not gathered to frames.
+// Left out: full screen, other ways of capturing, debug drawing, the texture behind the render target provider.
 
 /** Who has the texture of a viewport; there is none here, ask FViewport for its surface. */
 class IViewportRenderTargetProvider
@@ -44,6 +46,7 @@ public:
 	/** Returns the widget. */
 	TWeakPtr<SViewport> GetViewportWidget() const { return ViewportWidget; }
 
+	virtual bool KeyState(FKey Key) const override { return HeldKeys.Contains(Key); }
 	virtual FIntPoint GetSizeXY() const override { return FViewport::GetSizeXY(); }
 	virtual FIntPoint GetSize() const override { return FViewport::GetSizeXY(); }
 	virtual bool RequiresVsync() const override { return false; }
@@ -53,6 +56,9 @@ public:
 		bool bParentEnabled) override;
 	virtual FReply OnMouseButtonDown(const FGeometry& MyGeometry, const FPointerEvent& MouseEvent) override;
 	virtual FReply OnMouseButtonUp(const FGeometry& MyGeometry, const FPointerEvent& MouseEvent) override;
+	virtual FReply OnMouseMove(const FGeometry& MyGeometry, const FPointerEvent& MouseEvent) override;
+	virtual FReply OnMouseWheel(const FGeometry& MyGeometry, const FPointerEvent& MouseEvent) override;
+	virtual void OnMouseCaptureLost(const FCaptureLostEvent& CaptureLostEvent) override;
 	virtual FReply OnKeyDown(const FGeometry& MyGeometry, const FKeyEvent& InKeyEvent) override;
 	virtual FReply OnKeyUp(const FGeometry& MyGeometry, const FKeyEvent& InKeyEvent) override;
 	virtual FReply OnFocusReceived(const FFocusEvent& InFocusEvent) override;
@@ -61,4 +67,5 @@ public:
 private:
 	TWeakPtr<SViewport> ViewportWidget;
 	bool bForceViewportSize;
+	TSet<FKey> HeldKeys;
 };

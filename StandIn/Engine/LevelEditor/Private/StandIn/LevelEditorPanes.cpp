@@ -120,3 +120,39 @@ bool StandIn::MaximizePane(FName ConfigKey, bool bMaximize)
 	}
 	return Pane.IsValid();
 }
+
+TArray<int32> StandIn::GetViewportTabs()
+{
+	return GetOpenLevelEditor()->GetTabNumbers();
+}
+
+int32 StandIn::GetFrontViewportTab()
+{
+	return GetOpenLevelEditor()->GetFrontTabNumber();
+}
+
+TArray<float> StandIn::GetPaneShares(int32 TabNumber)
+{
+	return GetOpenTab(TabNumber)->GetActiveViewportLayout()->GetPaneShares();
+}
+
+bool StandIn::SetPaneShares(const TArray<float>& Shares, int32 TabNumber)
+{
+	const bool bSet = GetOpenTab(TabNumber)->GetActiveViewportLayout()->SetPaneShares(Shares);
+	if (bSet)
+	{
+		OnPanesArranged().Broadcast();
+	}
+	return bSet;
+}
+
+TSharedPtr<SLevelViewport> StandIn::GetMaximizedPane(int32 TabNumber)
+{
+	return GetOpenTab(TabNumber)->GetActiveViewportLayout()->GetMaximizedViewport();
+}
+
+FSimpleMulticastDelegate& StandIn::OnPanesArranged()
+{
+	static FSimpleMulticastDelegate PanesArranged;
+	return PanesArranged;
+}

@@ -3,13 +3,14 @@
 #pragma once
 
 #include "CoreMinimal.h"
+#include "Delegates/Delegate.h"
 #include "Templates/SharedPointer.h"
 
 class SLevelViewport;
 class SWidget;
 
 // Not in the engine: opening the level editor and working its tabs, layouts and panes, as a person would with the mouse.
-// All functions but OpenLevelEditor and IsLevelEditorOpen need an open level editor; without one they are fatal.
+// All functions but OpenLevelEditor, IsLevelEditorOpen and OnPanesArranged need an open level editor; without one they are fatal.
 
 namespace StandIn
 {
@@ -48,4 +49,22 @@ LEVELEDITOR_API bool ActivatePane(FName ConfigKey);
 
 /** Lets the pane of a key fill its tab, or shows all panes again; false when there is no such pane. */
 LEVELEDITOR_API bool MaximizePane(FName ConfigKey, bool bMaximize);
+
+/** Returns the numbers of the open tabs in the order in which they were opened. */
+LEVELEDITOR_API TArray<int32> GetViewportTabs();
+
+/** Returns the number of the tab in front. */
+LEVELEDITOR_API int32 GetFrontViewportTab();
+
+/** Returns how the handles of an open tab divide its panes: for each row or column the weights, which sum to one. */
+LEVELEDITOR_API TArray<float> GetPaneShares(int32 TabNumber = 1);
+
+/** Moves the handles of an open tab; false when its layout has another number of weights or one is not positive. */
+LEVELEDITOR_API bool SetPaneShares(const TArray<float>& Shares, int32 TabNumber = 1);
+
+/** Returns the pane that fills an open tab, or null. Do not keep the result. */
+LEVELEDITOR_API TSharedPtr<SLevelViewport> GetMaximizedPane(int32 TabNumber = 1);
+
+/** Fires after tabs, layouts, handles or the pane that fills a tab have changed; a drag fires once, at its end. */
+LEVELEDITOR_API FSimpleMulticastDelegate& OnPanesArranged();
 }

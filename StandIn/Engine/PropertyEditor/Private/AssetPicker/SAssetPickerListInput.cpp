@@ -63,9 +63,11 @@ void SAssetPickerList::OnMouseLeave(const FPointerEvent& MouseEvent)
 
 FReply SAssetPickerList::OnMouseWheel(const FGeometry& MyGeometry, const FPointerEvent& MouseEvent)
 {
+	const float OffsetBefore = Offset;
 	SetOffset(Offset - MouseEvent.GetWheelDelta() * AssetPickerListPrivate::RowHeight);
 	HoveredIndex = GetRowAt(MyGeometry, MouseEvent.GetScreenSpacePosition());
-	return FReply::Handled();
+	// At its end the list leaves the wheel to the menu around it, which may have more to show.
+	return Offset != OffsetBefore ? FReply::Handled() : FReply::Unhandled();
 }
 
 void SAssetPickerList::DragScrollBar(const FGeometry& MyGeometry, const FVector2D& ScreenPosition)

@@ -99,6 +99,14 @@ FReply SViewport::OnMouseButtonDoubleClick(const FGeometry& MyGeometry, const FP
 	return Viewport.IsValid() ? Viewport->OnMouseButtonDoubleClick(MyGeometry, MouseEvent) : FReply::Unhandled();
 }
 
+void SViewport::OnMouseCaptureLost(const FCaptureLostEvent& CaptureLostEvent)
+{
+	if (const TSharedPtr<ISlateViewport> Viewport = ViewportInterface.Pin())
+	{
+		Viewport->OnMouseCaptureLost(CaptureLostEvent);
+	}
+}
+
 FReply SViewport::OnKeyDown(const FGeometry& MyGeometry, const FKeyEvent& InKeyEvent)
 {
 	const TSharedPtr<ISlateViewport> Viewport = ViewportInterface.Pin();

@@ -4,6 +4,12 @@
 
 namespace
 {
+/** Says whether a length has room after or before an anchor. */
+bool HasRoomBeside(float AnchorStart, float AnchorEnd, float Length, float LimitStart, float LimitEnd)
+{
+	return AnchorEnd + Length <= LimitEnd || AnchorStart - Length >= LimitStart;
+}
+
 /** Places a length after, else before, an anchor; where neither side has room, on the larger side, pushed into the limits. */
 float PlaceBeside(float AnchorStart, float AnchorEnd, float Length, float LimitStart, float LimitEnd)
 {
@@ -35,6 +41,11 @@ FVector2D ComputePopupFitInRect(
 		return FVector2D(PlaceInside(PopupRect.Left, PopupSize.X, RectToFit.Left, RectToFit.Right),
 			PlaceBeside(InAnchor.Top, InAnchor.Bottom, PopupSize.Y, RectToFit.Top, RectToFit.Bottom));
 	}
-	return FVector2D(PlaceBeside(InAnchor.Left, InAnchor.Right, PopupSize.X, RectToFit.Left, RectToFit.Right),
-		PlaceInside(PopupRect.Top, PopupSize.Y, RectToFit.Top, RectToFit.Bottom));
+	const float Left = PlaceBeside(InAnchor.Left, InAnchor.Right, PopupSize.X, RectToFit.Left, RectToFit.Right);
+	if (HasRoomBeside(InAnchor.Left, InAnchor.Right, PopupSize.X, RectToFit.Left, RectToFit.Right))
+	{
+		return FVector2D(Left, PlaceInside(PopupRect.Top, PopupSize.Y, RectToFit.Top, RectToFit.Bottom));
+	}
+	// Over its anchor a pop-up would hide what it came from: it goes below or above.
+	return FVector2D(Left, PlaceBeside(InAnchor.Top, InAnchor.Bottom, PopupSize.Y, RectToFit.Top, RectToFit.Bottom));
 }

@@ -29,6 +29,7 @@ TSharedRef<ISlateStyle> FCoreStyle::Create(const FName& InStyleSetName)
 	CoreStyleContent::AddBasics(*Style);
 	CoreStyleContent::AddControls(*Style);
 	CoreStyleContent::AddMenus(*Style);
+	CoreStyleContent::AddToolBars(*Style);
 	return Style;
 }
 

@@ -35,4 +35,7 @@ void AddControls(FSlateStyleSet& Style);
 
 /** Adds what menus are made of. */
 void AddMenus(FSlateStyleSet& Style);
+
+/** Adds what menu bars and tool bars are made of. */
+void AddToolBars(FSlateStyleSet& Style);
 }

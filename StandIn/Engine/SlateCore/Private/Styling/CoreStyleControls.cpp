@@ -157,7 +157,7 @@ void AddControls(FSlateStyleSet& Style)
 	Style.Set("Window",
 		FWindowStyle()
 			.SetBackgroundBrush(FSlateColorBrush(MakeColor(0x2B2B2B)))
-			.SetBorderBrush(FSlateColorBrush(MakeColor(0x1E1E1E)))
+			.SetBorderBrush(FShapeBrush(EBrushShape::RoundedFrame, FVector2D(16, 16), MakeColor(0x101010)))
 			.SetTitleTextStyle(Style.GetWidgetStyle<FTextBlockStyle>("NormalText")));
 
 	Style.Set("ToolTip.Background", new FShapeBrush(EBrushShape::RoundedBox, FVector2D(16, 16), MakeColor(0x1B1B1B), 3.0f));

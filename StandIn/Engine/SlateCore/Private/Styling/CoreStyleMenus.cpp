@@ -67,6 +67,25 @@ void AddMenus(FSlateStyleSet& Style)
 	Style.Set("Menu.Button.Checked", FButtonStyle(MenuButton).SetNormal(Pressed));
 	Style.Set("Menu.Button.SubMenuOpen", FButtonStyle(MenuButton).SetNormal(Selected));
 
+	// View modes, in the engine under these names in the editor's style.
+	const TPair<const ANSICHAR*, EBrushShape> ViewModes[] = {
+		{"EditorViewport.LitMode", EBrushShape::ViewLit},
+		{"EditorViewport.UnlitMode", EBrushShape::ViewUnlit},
+		{"EditorViewport.BrushWireframeMode", EBrushShape::ViewWireframe},
+		{"EditorViewport.DetailLightingMode", EBrushShape::ViewDetailLighting},
+		{"EditorViewport.LightingOnlyMode", EBrushShape::ViewLightingOnly},
+		{"EditorViewport.ReflectionOverrideMode", EBrushShape::ViewReflections},
+		{"EditorViewport.QuadOverdrawMode", EBrushShape::ViewOptimization},
+		{"EditorViewport.VisualizeBufferMode", EBrushShape::ViewBuffers},
+		{"EditorViewport.LODColorationMode", EBrushShape::ViewLevelOfDetail},
+		{"EditorViewport.CollisionPawn", EBrushShape::ViewPlayerCollision},
+		{"EditorViewport.CollisionVisibility", EBrushShape::ViewVisibilityCollision},
+	};
+	for (const TPair<const ANSICHAR*, EBrushShape>& Mode : ViewModes)
+	{
+		Style.Set(Mode.Key, new FShapeBrush(Mode.Value, FVector2D(16, 16), FLinearColor::White));
+	}
+
 	// Tool bars that float over a viewport.
 	const FLinearColor Glass = MakeColor(0x202020, 0.7f);
 	const FShapeBrush ToolBarButton(EBrushShape::RoundedBox, FVector2D(16, 16), Glass, 4.0f);

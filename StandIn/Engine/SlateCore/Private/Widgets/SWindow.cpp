@@ -2,6 +2,8 @@
 
 #include "Widgets/SWindow.h"
 #include "Application/SlateApplicationBase.h"
+#include "Input/CursorReply.h"
+#include "InputCoreTypes.h"
 #include "Styling/CoreStyle.h"
 
 SWindow::SWindow()
@@ -14,6 +16,11 @@ SWindow::SWindow()
 	, bFocusWhenFirstShown(true)
 	, bIsShown(false)
 	, bIsDestroyed(false)
+	, bHasCloseButton(true)
+	, ContentSlot(nullptr)
+	, GrabbedEdges(0.0f, 0.0f)
+	, GrabbedAt(0.0f, 0.0f)
+	, SizeWhenGrabbed(0.0f, 0.0f)
 {}
 
 SWindow::~SWindow() {}
@@ -25,10 +32,20 @@ void SWindow::Construct(const FArguments& InArgs)
 	Title = InArgs._Title;
 	SizingRule = InArgs._SizingRule;
 	ScreenPosition = InArgs._ScreenPosition;
-	Size = InArgs._ClientSize;
+	bHasCloseButton = InArgs._HasCloseButton;
 	bFocusWhenFirstShown = InArgs._FocusWhenFirstShown;
 	ElementList = MakeShareable(new FSlateWindowElementList(SharedThis(this)));
+	if (InArgs._CreateTitleBar && IsRegularWindow())
+	{
+		TitleArea = FSlateApplicationBase::Get().MakeWindowTitleBar(SharedThis(this), nullptr, HAlign_Fill);
+		const TSharedRef<SVerticalBox> Box = SNew(SVerticalBox);
+		Box->AddSlot().AutoHeight()[TitleArea.ToSharedRef()];
+		ContentSlot = &Box->AddSlot().FillHeight(1.0f);
+		const float Border = SWindowDefs::BorderSize;
+		ChildSlot.Padding(FMargin(Border, 0.0f, Border, Border))[Box];
+	}
 	SetContent(InArgs._Content.Widget);
+	Resize(InArgs._ClientSize);
 }
 
 TSharedRef<SWindow> SWindow::MakeToolTipWindow()
@@ -52,12 +69,31 @@ TSharedRef<SWindow> SWindow::MakePopupWindow(const FVector2D& InScreenPosition, 
 
 void SWindow::SetContent(TSharedRef<SWidget> InContent)
 {
+	if (ContentSlot != nullptr)
+	{
+		(*ContentSlot)[InContent];
+		return;
+	}
 	ChildSlot[InContent];
 }
 
 TSharedRef<SWidget> SWindow::GetContent()
 {
-	return ChildSlot.GetWidget();
+	return ContentSlot != nullptr ? ContentSlot->GetWidget() : ChildSlot.GetWidget();
+}
+
+FSlateRect SWindow::GetClientRectInScreen() const
+{
+	const float Border = HasTitleBar() ? SWindowDefs::BorderSize * DPIScaleFactor : 0.0f;
+	const float TitleHeight = HasTitleBar() ? SWindowDefs::DefaultTitleBarSize * DPIScaleFactor : 0.0f;
+	return GetRectInScreen().InsetBy(FMargin(Border, TitleHeight, Border, Border));
+}
+
+FVector2D SWindow::GetWindowSizeFromClientSize(FVector2D InClientSize) const
+{
+	return HasTitleBar()
+		? InClientSize + FVector2D(2.0f * SWindowDefs::BorderSize, SWindowDefs::DefaultTitleBarSize + SWindowDefs::BorderSize) * DPIScaleFactor
+		: InClientSize;
 }
 
 FGeometry SWindow::GetWindowGeometryInScreen() const
@@ -69,6 +105,72 @@ void SWindow::ReshapeWindow(FVector2D NewPosition, FVector2D NewSize)
 {
 	ScreenPosition = NewPosition;
 	Size = NewSize;
+}
+
+void SWindow::SetDPIScaleFactor(float InFactor)
+{
+	const FVector2D ClientSize = GetClientSizeInScreen();
+	DPIScaleFactor = InFactor;
+	Resize(ClientSize);
+}
+
+FReply SWindow::OnMouseButtonDown(const FGeometry&, const FPointerEvent& MouseEvent)
+{
+	const FVector2D Grip = FindGrip(MouseEvent.GetScreenSpacePosition());
+	if (MouseEvent.GetEffectingButton() != EKeys::LeftMouseButton || Grip == FVector2D::ZeroVector)
+	{
+		return FReply::Unhandled();
+	}
+	GrabbedEdges = Grip;
+	GrabbedAt = MouseEvent.GetScreenSpacePosition();
+	SizeWhenGrabbed = Size;
+	return FReply::Handled().CaptureMouse(SharedThis(this));
+}
+
+FReply SWindow::OnMouseButtonUp(const FGeometry&, const FPointerEvent&)
+{
+	GrabbedEdges = FVector2D::ZeroVector;
+	return HasMouseCapture() ? FReply::Handled().ReleaseMouseCapture() : FReply::Unhandled();
+}
+
+FReply SWindow::OnMouseMove(const FGeometry&, const FPointerEvent& MouseEvent)
+{
+	if (!HasMouseCapture())
+	{
+		return FReply::Unhandled();
+	}
+	const FVector2D Smallest =
+		GetWindowSizeFromClientSize(FVector2D(SWindowDefs::MinClientLength, SWindowDefs::MinClientLength) * DPIScaleFactor);
+	const FVector2D Wanted = SizeWhenGrabbed + GrabbedEdges * (MouseEvent.GetScreenSpacePosition() - GrabbedAt);
+	Size = FVector2D(FMath::Max(Wanted.X, Smallest.X), FMath::Max(Wanted.Y, Smallest.Y));
+	return FReply::Handled();
+}
+
+FCursorReply SWindow::OnCursorQuery(const FGeometry&, const FPointerEvent& CursorEvent) const
+{
+	const FVector2D Edges = HasMouseCapture() ? GrabbedEdges : FindGrip(CursorEvent.GetScreenSpacePosition());
+	if (Edges == FVector2D::ZeroVector)
+	{
+		return FCursorReply::Unhandled();
+	}
+	return FCursorReply::Cursor(Edges.X == 0.0f ? EMouseCursor::ResizeUpDown
+			: Edges.Y == 0.0f                   ? EMouseCursor::ResizeLeftRight
+												: EMouseCursor::ResizeSouthEast);
+}
+
+FVector2D SWindow::FindGrip(const FVector2D& ScreenSpacePosition) const
+{
+	if (!HasTitleBar() || SizingRule != ESizingRule::UserSized)
+	{
+		return FVector2D::ZeroVector;
+	}
+	// The corner is easier to hit than the edges that meet in it.
+	const FSlateRect Rect = GetRectInScreen();
+	const float Border = SWindowDefs::BorderSize * DPIScaleFactor;
+	const FVector2D ToCorner(Rect.Right - ScreenSpacePosition.X, Rect.Bottom - ScreenSpacePosition.Y);
+	const bool bRight = ToCorner.X <= Border || (ToCorner.Y <= Border && ToCorner.X <= 4.0f * Border);
+	const bool bBottom = ToCorner.Y <= Border || (ToCorner.X <= Border && ToCorner.Y <= 4.0f * Border);
+	return FVector2D(bRight ? 1.0f : 0.0f, bBottom ? 1.0f : 0.0f);
 }
 
 void SWindow::ShowWindow()
@@ -147,6 +249,8 @@ void SWindow::LayoutWindow()
 	if (IsAutosized())
 	{
 		Size = GetDesiredSize() * DPIScaleFactor;
+		Size.X = FMath::Min(Size.X, SizeLimits.GetMaxWidth().Get(Size.X));
+		Size.Y = FMath::Min(Size.Y, SizeLimits.GetMaxHeight().Get(Size.Y));
 	}
 }
 
@@ -185,6 +289,11 @@ int32 SWindow::OnPaint(const FPaintArgs& Args, const FGeometry& AllottedGeometry
 	{
 		FSlateDrawElement::MakeBox(OutDrawElements, static_cast<uint32>(LayerId), AllottedGeometry.ToPaintGeometry(),
 			&Style->BackgroundBrush, ESlateDrawEffect::None, Style->BackgroundBrush.GetTint(InWidgetStyle));
+		if (HasTitleBar())
+		{
+			FSlateDrawElement::MakeBox(OutDrawElements, static_cast<uint32>(LayerId), AllottedGeometry.ToPaintGeometry(),
+				&Style->BorderBrush, ESlateDrawEffect::None, Style->BorderBrush.GetTint(InWidgetStyle));
+		}
 	}
 	const int32 MaxLayerId =
 		SCompoundWidget::OnPaint(Args, AllottedGeometry, MyCullingRect, OutDrawElements, LayerId, InWidgetStyle, bParentEnabled);

@@ -93,6 +93,9 @@ public:
 	/** Is told of a turned wheel. */
 	virtual FReply OnMouseWheel(const FGeometry& /*MyGeometry*/, const FPointerEvent& /*MouseEvent*/) { return FReply::Unhandled(); }
 
+	/** Is told that the widget no longer has the mouse. */
+	virtual void OnMouseCaptureLost(const FCaptureLostEvent& /*CaptureLostEvent*/) {}
+
 	/** Is told of a pressed key. */
 	virtual FReply OnKeyDown(const FGeometry& /*MyGeometry*/, const FKeyEvent& /*InKeyEvent*/) { return FReply::Unhandled(); }
 

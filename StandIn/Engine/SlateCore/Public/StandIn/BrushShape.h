@@ -43,7 +43,49 @@ enum class EBrushShape : uint8
 	/** A cross. */
 	Cross,
 	/** A checkerboard, for what is missing. */
-	Checkerboard
+	Checkerboard,
+	/** A folder. */
+	Folder,
+	/** A triangle with a dark exclamation mark. */
+	Warning,
+	/** The outline of a window with a thick upper edge. */
+	Maximize,
+	/** Four small panes. */
+	FourPanes,
+	/** A large triangle that points right, shaded. */
+	Play,
+	/** A large square, shaded. */
+	Stop,
+	/** A triangle that points right, over a pane. */
+	PlayInWindow,
+	/** A gear with a triangle. */
+	Simulate,
+	/** A landscape in a frame. */
+	Map,
+	/** A diamond of three layers. */
+	Layers,
+	/** View modes: a ball in light and shade. */
+	ViewLit,
+	/** A ball without shading. */
+	ViewUnlit,
+	/** A ball of wire. */
+	ViewWireframe,
+	/** A ball in light and shade with a rough surface. */
+	ViewDetailLighting,
+	/** A lamp. */
+	ViewLightingOnly,
+	/** A ball that mirrors sky and ground. */
+	ViewReflections,
+	/** Bars of rising cost. */
+	ViewOptimization,
+	/** Sheets of different colours. */
+	ViewBuffers,
+	/** Polygons of fewer and fewer corners, in different colours. */
+	ViewLevelOfDetail,
+	/** A capsule. */
+	ViewPlayerCollision,
+	/** An eye. */
+	ViewVisibilityCollision
 };
 
 /** A brush that names a shape. */

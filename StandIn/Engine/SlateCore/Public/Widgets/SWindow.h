@@ -6,12 +6,16 @@
 #include "Input/HittestGrid.h"
 #include "Layout/Geometry.h"
 #include "Layout/SlateRect.h"
+#include "Misc/Optional.h"
 #include "Rendering/DrawElements.h"
 #include "Styling/SlateTypes.h"
+#include "Widgets/SBoxPanel.h"
 #include "Widgets/SCompoundWidget.h"
 
 // Windows. There are no native windows: all lie on one desktop, which the host shows on its one surface; positions and sizes are
-// the desktop's. Left out: title bars and borders, dragging and resizing by hand, transparency, full screen, volume.
+// the desktop's. Slate draws title bars and borders itself, as it does where the system gives none; windows are dragged by their
+// title bars and resized at their right and lower edges. Left out: resizing at the other edges, minimizing and maximizing by hand,
+// transparency, full screen, volume.
 
 class SWindow;
 
@@ -37,12 +41,53 @@ enum class ESizingRule : uint8
 	UserSized
 };
 
+/** Measures of windows, in Slate units. */
+namespace SWindowDefs
+{
+/** Height of the title bar. */
+static const float DefaultTitleBarSize = 24.0f;
+
+/** Width of the border that Slate draws. */
+static const float BorderSize = 4.0f;
+
+/** Smallest size that the mouse leaves of the content. */
+static const float MinClientLength = 80.0f;
+}
+
 /** Where a window first appears. */
 enum class EAutoCenter : uint8
 {
 	None,
 	PrimaryWorkArea,
 	PreferredWorkArea
+};
+
+/** How large a window that follows its content may become, in pixels of the desktop; what is not set has no limit. */
+struct FWindowSizeLimits
+{
+	/** Sets the largest width. */
+	FWindowSizeLimits& SetMaxWidth(TOptional<float> InValue)
+	{
+		MaxWidth = InValue;
+		return *this;
+	}
+
+	/** Returns the largest width. */
+	const TOptional<float>& GetMaxWidth() const { return MaxWidth; }
+
+	/** Sets the largest height. */
+	FWindowSizeLimits& SetMaxHeight(TOptional<float> InValue)
+	{
+		MaxHeight = InValue;
+		return *this;
+	}
+
+	/** Returns the largest height. */
+	const TOptional<float>& GetMaxHeight() const { return MaxHeight; }
+
+private:
+	TOptional<float> MaxWidth;
+	TOptional<float> MaxHeight;
 };
 
 /** A window: the root of a tree of widgets. */
@@ -107,6 +152,9 @@ public:
 	/** Returns the title. */
 	FText GetTitle() const { return Title.Get(); }
 
+	/** Says whether the title bar has a button that closes the window. */
+	bool HasCloseBox() const { return bHasCloseButton; }
+
 	/** Sets the title. */
 	void SetTitle(const FText& InTitle) { Title = InTitle; }
 
@@ -117,13 +165,19 @@ public:
 	FVector2D GetSizeInScreen() const { return Size; }
 
 	/** Returns the size of what the content has. */
-	FVector2D GetClientSizeInScreen() const { return Size; }
+	FVector2D GetClientSizeInScreen() const { return GetClientRectInScreen().GetSize(); }
 
 	/** Returns the area covered. */
 	FSlateRect GetRectInScreen() const { return FSlateRect::FromPointAndExtent(ScreenPosition, Size); }
 
 	/** Returns the area of what the content has. */
-	FSlateRect GetClientRectInScreen() const { return GetRectInScreen(); }
+	FSlateRect GetClientRectInScreen() const;
+
+	/** Returns the size of a window whose content has a size; both in desktop space. */
+	FVector2D GetWindowSizeFromClientSize(FVector2D InClientSize) const;
+
+	/** Says whether Slate draws the window's title bar and border. */
+	bool HasTitleBar() const { return TitleArea.IsValid(); }
 
 	/** Returns the geometry of the window. */
 	FGeometry GetWindowGeometryInScreen() const;
@@ -131,8 +185,8 @@ public:
 	/** Moves the window. */
 	void MoveWindowTo(FVector2D NewPosition) { ScreenPosition = NewPosition; }
 
-	/** Resizes the window. */
-	void Resize(FVector2D NewClientSize) { Size = NewClientSize; }
+	/** Resizes the window so that its content has a size. */
+	void Resize(FVector2D NewClientSize) { Size = GetWindowSizeFromClientSize(NewClientSize); }
 
 	/** Moves and resizes the window. */
 	void ReshapeWindow(FVector2D NewPosition, FVector2D NewSize);
@@ -143,11 +197,22 @@ public:
 	/** Says whether the window's size follows its content. */
 	bool IsAutosized() const { return SizingRule == ESizingRule::Autosized; }
 
+	/** Returns how large the window may become as it follows its content. */
+	FWindowSizeLimits GetSizeLimits() const { return SizeLimits; }
+
+	/** Sets how large the window may become as it follows its content. */
+	void SetSizeLimits(const FWindowSizeLimits& InSizeLimits) { SizeLimits = InSizeLimits; }
+
 	/** Returns pixels a Slate unit. */
 	float GetDPIScaleFactor() const { return DPIScaleFactor; }
 
-	/** Sets pixels a Slate unit. */
-	void SetDPIScaleFactor(float InFactor) { DPIScaleFactor = InFactor; }
+	/** Sets pixels a Slate unit; the content keeps its size in pixels. */
+	void SetDPIScaleFactor(float InFactor);
+
+	FReply OnMouseButtonDown(const FGeometry& MyGeometry, const FPointerEvent& MouseEvent) override;
+	FReply OnMouseButtonUp(const FGeometry& MyGeometry, const FPointerEvent& MouseEvent) override;
+	FReply OnMouseMove(const FGeometry& MyGeometry, const FPointerEvent& MouseEvent) override;
+	FCursorReply OnCursorQuery(const FGeometry& MyGeometry, const FPointerEvent& CursorEvent) const override;
 
 	/** Shows the window; Slate must know it. */
 	void ShowWindow();
@@ -232,16 +297,26 @@ protected:
 		FSlateWindowElementList& OutDrawElements, int32 LayerId, const FWidgetStyle& InWidgetStyle, bool bParentEnabled) const override;
 
 private:
+	/** The edges that the mouse resizes: 0 or 1 each for the right and the lower one. */
+	FVector2D FindGrip(const FVector2D& ScreenSpacePosition) const;
+
 	EWindowType Type;
 	const FWindowStyle* Style;
 	TAttribute<FText> Title;
 	ESizingRule SizingRule;
+	FWindowSizeLimits SizeLimits;
 	FVector2D ScreenPosition;
 	FVector2D Size;
 	float DPIScaleFactor;
 	bool bFocusWhenFirstShown;
 	bool bIsShown;
 	bool bIsDestroyed;
+	bool bHasCloseButton;
+	TSharedPtr<SWidget> TitleArea;
+	SVerticalBox::FSlot* ContentSlot;
+	FVector2D GrabbedEdges;
+	FVector2D GrabbedAt;
+	FVector2D SizeWhenGrabbed;
 	FOnWindowClosed OnWindowClosed;
 	FRequestDestroyWindowOverride RequestDestroyWindowOverride;
 	FSimpleMulticastDelegate WindowActivatedEvent;

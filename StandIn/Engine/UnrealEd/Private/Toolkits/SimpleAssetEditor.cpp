@@ -2,6 +2,21 @@
 
 #include "Toolkits/SimpleAssetEditor.h"
 #include "StandIn/FatalHandler.h"
+#include "StandIn/SimpleAssetEditors.h"
+
+namespace SimpleAssetEditorPrivate
+{
+StandIn::FSimpleAssetEditorCall& GetCall()
+{
+	static StandIn::FSimpleAssetEditorCall Call;
+	return Call;
+}
+}
+
+void StandIn::SetSimpleAssetEditor(const FSimpleAssetEditorCall& Call)
+{
+	SimpleAssetEditorPrivate::GetCall() = Call;
+}
 
 TSharedRef<FSimpleAssetEditor> FSimpleAssetEditor::CreateEditor(
 	const EToolkitMode::Type Mode, const TSharedPtr<IToolkitHost>& InitToolkitHost, UObject* ObjectToEdit)
@@ -10,8 +25,15 @@ TSharedRef<FSimpleAssetEditor> FSimpleAssetEditor::CreateEditor(
 }
 
 TSharedRef<FSimpleAssetEditor> FSimpleAssetEditor::CreateEditor(
-	const EToolkitMode::Type, const TSharedPtr<IToolkitHost>&, const TArray<UObject*>&)
+	const EToolkitMode::Type, const TSharedPtr<IToolkitHost>&, const TArray<UObject*>& ObjectsToEdit)
 {
-	STANDIN_MISSING(TEXT("FSimpleAssetEditor::CreateEditor"));
+	if (SimpleAssetEditorPrivate::GetCall())
+	{
+		SimpleAssetEditorPrivate::GetCall()(ObjectsToEdit);
+	}
+	else
+	{
+		STANDIN_MISSING(TEXT("FSimpleAssetEditor::CreateEditor"));
+	}
 	return MakeShared<FSimpleAssetEditor>();
 }

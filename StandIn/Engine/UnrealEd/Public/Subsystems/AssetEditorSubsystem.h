@@ -10,7 +10,7 @@
 #include "AssetEditorSubsystem.generated.h"
 
 // Opens assets for editing and knows which ones are open. Left out: recently opened assets, restoring after a crash, message
-// endpoints. Assets whose type has no actions would get the property editor, which is refused.
+// endpoints. Assets whose type has no actions get FSimpleAssetEditor.
 
 /** A window that edits assets. */
 class IAssetEditorInstance

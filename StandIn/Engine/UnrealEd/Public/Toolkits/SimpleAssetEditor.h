@@ -6,17 +6,18 @@
 #include "Toolkits/IToolkit.h"
 #include "Toolkits/IToolkitHost.h"
 
-// The editor of assets that have none of their own: a panel of their properties. Not in the stand-in; asking for it is refused.
+// The editor of assets that have none of their own: a panel of their properties. There is no such panel in the stand-in: whoever
+// set StandIn::SetSimpleAssetEditor is told what was to be opened, and without that asking for it is refused.
 
 /** Editor that shows the properties of any asset. */
 class UNREALED_API FSimpleAssetEditor
 {
 public:
-	/** Opens an object; refused. */
+	/** Opens an object. */
 	static TSharedRef<FSimpleAssetEditor> CreateEditor(
 		const EToolkitMode::Type Mode, const TSharedPtr<IToolkitHost>& InitToolkitHost, UObject* ObjectToEdit);
 
-	/** Opens several objects; refused. */
+	/** Opens several objects. */
 	static TSharedRef<FSimpleAssetEditor> CreateEditor(
 		const EToolkitMode::Type Mode, const TSharedPtr<IToolkitHost>& InitToolkitHost, const TArray<UObject*>& ObjectsToEdit);
 };

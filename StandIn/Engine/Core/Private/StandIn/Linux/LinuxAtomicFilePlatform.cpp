@@ -82,6 +82,13 @@ FAtomicFilePlatform::EReplace FAtomicFilePlatform::Replace(
 	return EReplace::Failed;
 }
 
+bool FAtomicFilePlatform::IsHeld(const std::filesystem::path& File)
+{
+	// Whoever has a file open leaves it open to everybody else.
+	(void)File;
+	return false;
+}
+
 bool FAtomicFilePlatform::FlushFolder(const std::filesystem::path& Folder, std::string& OutReason)
 {
 	const int Directory = open(Folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);

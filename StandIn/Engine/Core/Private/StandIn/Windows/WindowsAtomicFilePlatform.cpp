@@ -87,6 +87,18 @@ FAtomicFilePlatform::EReplace FAtomicFilePlatform::Replace(
 	return Error == ERROR_ACCESS_DENIED || Error == ERROR_SHARING_VIOLATION ? EReplace::Held : EReplace::Failed;
 }
 
+bool FAtomicFilePlatform::IsHeld(const std::filesystem::path& File)
+{
+	HANDLE Handle = CreateFileW(File.c_str(), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr, OPEN_EXISTING,
+		FILE_ATTRIBUTE_NORMAL, nullptr);
+	if (Handle == INVALID_HANDLE_VALUE)
+	{
+		return GetLastError() == ERROR_SHARING_VIOLATION;
+	}
+	CloseHandle(Handle);
+	return false;
+}
+
 bool FAtomicFilePlatform::FlushFolder(const std::filesystem::path& Folder, std::string& OutReason)
 {
 	// The write-through move has done it.

@@ -24,17 +24,33 @@ public:
 	bool IsCollapsedByParent() const override { return bIsCollapsedByParent; }
 	FOnMenuDismissed& GetOnMenuDismissed() override { return MenuDismissed; }
 
-	/** Lays the window out and moves it to where it fits. */
+	/** Lays the window out and moves it to where it fits: into the work area and, if it can be, off what it came from. */
 	void Place();
+
+	/** Returns the area that the menu was placed in. */
+	const FSlateRect& GetPlacedIn() const { return PlacedIn; }
+
+	/** Returns the area that the menu has to stay in. */
+	FSlateRect GetWorkArea() const;
+
+	/** Notes the widget that had the focus before the menu was opened. */
+	void SetFocusBefore(const TSharedPtr<SWidget>& InWidget) { FocusBefore = InWidget; }
+
+	/** Returns the widget that had the focus before the menu was opened, or null. */
+	TSharedPtr<SWidget> GetFocusBefore() const { return FocusBefore.Pin(); }
 
 	/** Lets go of content and window and tells those who wait for it. */
 	void NotifyDismissed();
 
 private:
+	void LayOut(const FVector2D& MaxSize);
+
 	TSharedPtr<SWidget> Content;
 	TSharedPtr<SWindow> Window;
 	TWeakPtr<SWindow> ParentWindow;
+	TWeakPtr<SWidget> FocusBefore;
 	FSlateRect Anchor;
+	FSlateRect PlacedIn;
 	EOrientation Orientation;
 	FOnMenuDismissed MenuDismissed;
 	bool bIsCollapsedByParent;

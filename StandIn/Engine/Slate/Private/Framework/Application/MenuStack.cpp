@@ -34,7 +34,6 @@ TSharedRef<IMenu> FMenuStack::PushInternal(const TSharedPtr<IMenu>& InParentMenu
 	if (ParentIndex == INDEX_NONE)
 	{
 		HostWindow = InParentWindow;
-		FocusBeforeMenus = Application.GetKeyboardFocusedWidget();
 	}
 
 	const TSharedRef<SWindow> Window = SWindow::MakePopupWindow(InAnchor.GetBottomLeft(), EWindowType::Menu);
@@ -45,6 +44,7 @@ TSharedRef<IMenu> FMenuStack::PushInternal(const TSharedPtr<IMenu>& InParentMenu
 		TransitionEffect.SlideDirection == FPopupTransitionEffect::SubMenu ? Orient_Horizontal : Orient_Vertical;
 	const TSharedRef<FMenuBase> Menu =
 		MakeShareable(new FMenuBase(InContent, Window, InParentWindow, InAnchor, Orientation, bIsCollapsedByParent));
+	Menu->SetFocusBefore(Application.GetKeyboardFocusedWidget());
 	Stack.Add(Menu);
 	Application.AddWindowAsNativeChild(Window, InParentWindow.ToSharedRef(), true);
 	Menu->Place();
@@ -174,6 +174,18 @@ TSharedPtr<IMenu> FMenuStack::GetMenu(int32 Index) const
 	return Stack[Index];
 }
 
+FSlateRect FMenuStack::GetToolTipForceFieldRect(TSharedRef<IMenu> InMenu, const FWidgetPath& /*PathContainingMenu*/) const
+{
+	const int32 FirstIndex = FindIndex(&InMenu.Get());
+	check(FirstIndex != INDEX_NONE);
+	FSlateRect Rect = Stack[FirstIndex]->GetOwnedWindow()->GetRectInScreen();
+	for (int32 StackIndex = FirstIndex + 1; StackIndex < Stack.Num(); ++StackIndex)
+	{
+		Rect = Rect.Expand(Stack[StackIndex]->GetOwnedWindow()->GetRectInScreen());
+	}
+	return Rect;
+}
+
 TSharedPtr<SWindow> FMenuStack::GetHostWindow() const
 {
 	return HasMenus() ? HostWindow.Pin() : TSharedPtr<SWindow>();
@@ -185,7 +197,8 @@ void FMenuStack::UpdatePlacement()
 	{
 		const FVector2D OldSize = Stack[StackIndex]->GetOwnedWindow()->GetSizeInScreen();
 		Stack[StackIndex]->GetOwnedWindow()->LayoutWindow();
-		if (Stack[StackIndex]->GetOwnedWindow()->GetSizeInScreen() != OldSize)
+		if (Stack[StackIndex]->GetOwnedWindow()->GetSizeInScreen() != OldSize
+			|| Stack[StackIndex]->GetPlacedIn() != Stack[StackIndex]->GetWorkArea())
 		{
 			Stack[StackIndex]->Place();
 		}
@@ -222,16 +235,12 @@ void FMenuStack::RemoveMenusFrom(int32 FirstIndex, bool bRestoreFocus)
 
 	// The focus goes back to the menu before, or to where it was before the first one.
 	bIsRemoving = true;
-	const TSharedPtr<SWidget> OldFocus = FocusBeforeMenus.Pin();
-	if (Stack.Num() == 0)
-	{
-		FocusBeforeMenus.Reset();
-	}
 	if (bHadFocus && bRestoreFocus)
 	{
-		const TSharedPtr<SWidget> NextFocus =
-			Stack.Num() > 0 ? TSharedPtr<SWidget>(Stack.Last()->GetOwnedWindow()->GetContent()) : OldFocus;
-		if (!NextFocus.IsValid() || !Application.SetKeyboardFocus(NextFocus))
+		const TSharedPtr<SWidget> OldFocus = Removed.Last()->GetFocusBefore();
+		const bool bRestored = OldFocus.IsValid()
+			&& (Stack.Num() == 0 || FindMenuOfWidget(OldFocus.ToSharedRef()) == Stack.Last()) && Application.SetKeyboardFocus(OldFocus);
+		if (!bRestored && (Stack.Num() == 0 || !Application.SetKeyboardFocus(Stack.Last()->GetOwnedWindow()->GetContent())))
 		{
 			Application.ClearKeyboardFocus();
 		}

@@ -1,7 +1,9 @@
 // Copyright The Tintmill authors. All rights reserved.
 
 #include "Framework/Application/SlateApplication.h"
+#include "Framework/Application/SWindowTitleBar.h"
 #include "Framework/Notifications/NotificationManager.h"
+#include "StandIn/ModuleHooks.h"
 #include "Styling/CoreStyle.h"
 
 TSharedPtr<FSlateApplication> FSlateApplication::CurrentApplication;
@@ -30,6 +32,7 @@ void FSlateApplication::Create()
 	FCoreStyle::Get();
 	CurrentApplication = MakeShareable(new FSlateApplication());
 	CurrentBaseApplication = CurrentApplication;
+	StandIn::OnModuleBinaryUnloading().AddRaw(CurrentApplication.Get(), &FSlateApplication::OnModuleBinaryUnloading);
 }
 
 void FSlateApplication::Shutdown(bool /*bShutdownPlatform*/)
@@ -37,6 +40,7 @@ void FSlateApplication::Shutdown(bool /*bShutdownPlatform*/)
 	if (CurrentApplication.IsValid())
 	{
 		FSlateApplication& Application = *CurrentApplication;
+		StandIn::OnModuleBinaryUnloading().RemoveAll(&Application);
 		Application.CloseToolTip();
 		Application.DismissAllMenus();
 		Application.ClearAllUserFocus();
@@ -54,6 +58,25 @@ FSlateApplication& FSlateApplication::Get()
 {
 	check(IsInitialized());
 	return *CurrentApplication;
+}
+
+void FSlateApplication::OnModuleBinaryUnloading(FName /*ModuleName*/)
+{
+	// Menus may show widgets of the library. The weak pointers to what is gone then are let go of too: what counts references to a
+	// widget came from whoever made it.
+	CloseToolTip();
+	DismissAllMenus();
+	const FPointerEvent MouseEvent(0, CursorPos, CursorPos, PressedMouseButtons, FKey(), 0.0f, ModifierKeys);
+	UpdateHover(FWidgetPath(), MouseEvent);
+	PendingToolTipSource.Reset();
+	if (!MouseCaptor.IsValid())
+	{
+		ReleaseAllPointerCapture();
+	}
+	if (!GetKeyboardFocusedWidget().IsValid())
+	{
+		FocusPath = FWeakWidgetPath();
+	}
 }
 
 void FSlateApplication::Tick(float DeltaTime)
@@ -179,6 +202,12 @@ void FSlateApplication::BringWindowToFront(TSharedRef<SWindow> Window)
 	{
 		Windows.Add(Window);
 	}
+}
+
+TSharedRef<SWidget> FSlateApplication::MakeWindowTitleBar(
+	const TSharedRef<SWindow>& Window, const TSharedPtr<SWidget>& CenterContent, EHorizontalAlignment CenterContentAlignment) const
+{
+	return SNew(SWindowTitleBar, Window, CenterContent, CenterContentAlignment);
 }
 
 void FSlateApplication::CollectWindows(const TSharedRef<SWindow>& Window, TArray<TSharedRef<SWindow>>& OutWindows) const

@@ -290,6 +290,10 @@ bool FSlateApplication::ProcessKeyDownEvent(const FKeyEvent& InKeyEvent)
 		MenuStack.DismissFrom(MenuStack.GetNumStackLevels() - 1);
 		return true;
 	}
+	if (UnhandledKeyDownEventHandler.IsBound() && UnhandledKeyDownEventHandler.Execute(InKeyEvent).IsEventHandled())
+	{
+		return true;
+	}
 	if (InKeyEvent.IsControlDown() || InKeyEvent.IsAltDown() || InKeyEvent.IsCommandDown())
 	{
 		return false;

@@ -14,6 +14,9 @@ const double ToolTipIntroDuration = 0.1;
 /** Where a tool tip lies from the mouse. */
 const float ToolTipOffsetX = 12.0f;
 const float ToolTipOffsetY = 16.0f;
+
+/** How far a tool tip stays from the menus that it must not cover. */
+const float ToolTipMenuGap = 2.0f;
 }
 
 TSharedRef<IToolTip> FSlateApplication::MakeToolTip(const TAttribute<FText>& ToolTipText)
@@ -126,14 +129,54 @@ void FSlateApplication::UpdateToolTip(bool bCanSpawnNewToolTip)
 		ToolTipWindow->SetRenderOpacity(static_cast<float>(Age < 1.0 ? Age : 1.0));
 		if (bToolTipFollowsHover)
 		{
-			// Below and right of the mouse, pushed into the work area.
-			ToolTipWindow->LayoutWindow();
-			const FSlateRect Area = GetWorkArea(FSlateRect::FromPointAndExtent(CursorPos, FVector2D(1.0f, 1.0f)));
-			const FVector2D Size = ToolTipWindow->GetSizeInScreen();
-			const FVector2D Wanted = CursorPos + FVector2D(ToolTipOffsetX, ToolTipOffsetY) * ApplicationScale;
-			const bool bFitsBelow = Wanted.Y + Size.Y <= Area.Bottom;
-			ToolTipWindow->MoveWindowTo(FVector2D(FMath::Max(Area.Left, FMath::Min(Wanted.X, Area.Right - Size.X)),
-				bFitsBelow ? Wanted.Y : FMath::Max(Area.Top, CursorPos.Y - Size.Y - 4.0f)));
+			PlaceToolTip(Path);
 		}
+	}
+}
+
+void FSlateApplication::PlaceToolTip(const FWidgetPath& HoveredPath)
+{
+	ToolTipWindow->LayoutWindow();
+	const FSlateRect Area = GetWorkArea(FSlateRect::FromPointAndExtent(CursorPos, FVector2D(1.0f, 1.0f)));
+	const FVector2D Size = ToolTipWindow->GetSizeInScreen();
+	// Below and right of the mouse, else above it.
+	const FVector2D Wanted = CursorPos + FVector2D(ToolTipOffsetX, ToolTipOffsetY) * ApplicationScale;
+	const float Top = Wanted.Y + Size.Y <= Area.Bottom ? Wanted.Y : CursorPos.Y - Size.Y - 4.0f;
+	const auto Push = [&Area, &Size](const FVector2D& Position) {
+		return FVector2D(FMath::Max(Area.Left, FMath::Min(Position.X, Area.Right - Size.X)),
+			FMath::Max(Area.Top, FMath::Min(Position.Y, Area.Bottom - Size.Y)));
+	};
+	FVector2D Place = Push(FVector2D(Wanted.X, Top));
+
+	bool bHidesSubMenu = false;
+	const TSharedPtr<IMenu> Menu = MenuStack.FindMenuInWidgetPath(HoveredPath);
+	if (Menu.IsValid())
+	{
+		// Beside the menu and what was opened from it, else below or above them; where nothing is free an open submenu goes first.
+		const FSlateRect Field = MenuStack.GetToolTipForceFieldRect(Menu.ToSharedRef(), HoveredPath);
+		const float Gap = ToolTipMenuGap * ApplicationScale;
+		const FVector2D Candidates[] = {FVector2D(Field.Right + Gap, Place.Y), FVector2D(Field.Left - Gap - Size.X, Place.Y),
+			FVector2D(Place.X, Field.Bottom + Gap), FVector2D(Place.X, Field.Top - Gap - Size.Y)};
+		bool bFound = false;
+		for (const FVector2D& Candidate : Candidates)
+		{
+			const FSlateRect Rect = FSlateRect::FromPointAndExtent(Candidate, Size);
+			if (FSlateRect::IsRectangleContained(Area, Rect))
+			{
+				Place = Candidate;
+				bFound = true;
+				break;
+			}
+		}
+		bHidesSubMenu = !bFound && MenuStack.HasOpenSubMenus(Menu);
+	}
+	ToolTipWindow->MoveWindowTo(Place);
+	if (bHidesSubMenu)
+	{
+		ToolTipWindow->HideWindow();
+	}
+	else
+	{
+		ToolTipWindow->ShowWindow();
 	}
 }

@@ -45,8 +45,12 @@ TSharedRef<SWidget> FHeadingBlock::MakeWidget(const TSharedRef<SMultiBoxWidget>&
 	return SNew(SMenuHeading).Text(HeadingText);
 }
 
-TSharedRef<SWidget> FSeparatorBlock::MakeWidget(const TSharedRef<SMultiBoxWidget>&) const
+TSharedRef<SWidget> FSeparatorBlock::MakeWidget(const TSharedRef<SMultiBoxWidget>& InOwnerMultiBoxWidget) const
 {
+	if (InOwnerMultiBoxWidget->GetMultiBox()->GetType() == EMultiBoxType::ToolBar)
+	{
+		return SNew(SBox).WidthOverride(9.0f).Padding(FMargin(4.0f, 6.0f))[SNew(SImage).Image(FMenuLook::Separator())];
+	}
 	return SNew(SBox).HeightOverride(1.0f).Padding(FMargin(0.5f))[SNew(SImage).Image(FMenuLook::Separator())];
 }
 

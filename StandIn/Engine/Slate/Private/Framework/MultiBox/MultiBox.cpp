@@ -7,6 +7,8 @@
 TAttribute<bool> FMultiBoxSettings::UseSmallToolBarIcons(false);
 TAttribute<bool> FMultiBoxSettings::DisplayMultiboxHooks(false);
 
+const FMultiBoxCustomization FMultiBoxCustomization::None = FMultiBoxCustomization(NAME_None);
+
 FMultiBox::FMultiBox(const EMultiBoxType InType, const bool bInShouldCloseWindowAfterMenuSelection)
 	: Type(InType)
 	, bShouldCloseWindowAfterMenuSelection(bInShouldCloseWindowAfterMenuSelection)
@@ -19,9 +21,9 @@ TSharedRef<FMultiBox> FMultiBox::Create(const EMultiBoxType InType, const bool b
 
 TSharedRef<SMultiBoxWidget> FMultiBox::MakeWidget()
 {
-	if (Type != EMultiBoxType::Menu)
+	if (Type != EMultiBoxType::Menu && Type != EMultiBoxType::MenuBar && Type != EMultiBoxType::ToolBar)
 	{
-		STANDIN_MISSING(TEXT("FMultiBox::MakeWidget of a box that is not of type EMultiBoxType::Menu"));
+		STANDIN_MISSING(TEXT("FMultiBox::MakeWidget of a box that is neither a menu nor a menu bar nor a tool bar"));
 	}
 	TSharedRef<SMultiBoxWidget> Widget = SNew(SMultiBoxWidget);
 	Widget->SetMultiBox(AsShared());

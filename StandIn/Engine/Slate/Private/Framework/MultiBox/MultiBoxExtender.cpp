@@ -3,15 +3,38 @@
 #include "Framework/MultiBox/MultiBoxExtender.h"
 #include "Framework/MultiBox/MultiBoxBuilder.h"
 
-TSharedRef<const FExtensionBase> FExtender::AddMenuExtension(FName ExtensionHook, EExtensionHook::Position HookPosition,
-	const TSharedPtr<FUICommandList>& CommandList, const FMenuExtensionDelegate& MenuExtensionDelegate)
+TSharedRef<FExtensionBase> FExtender::AddExtension(
+	FName ExtensionHook, EExtensionHook::Position HookPosition, const TSharedPtr<FUICommandList>& CommandList)
 {
 	const TSharedRef<FExtensionBase> Extension = MakeShared<FExtensionBase>();
 	Extension->Hook = ExtensionHook;
 	Extension->HookPosition = HookPosition;
 	Extension->CommandList = CommandList;
-	Extension->MenuExtensionDelegate = MenuExtensionDelegate;
 	Extensions.Add(Extension);
+	return Extension;
+}
+
+TSharedRef<const FExtensionBase> FExtender::AddMenuExtension(FName ExtensionHook, EExtensionHook::Position HookPosition,
+	const TSharedPtr<FUICommandList>& CommandList, const FMenuExtensionDelegate& MenuExtensionDelegate)
+{
+	const TSharedRef<FExtensionBase> Extension = AddExtension(ExtensionHook, HookPosition, CommandList);
+	Extension->MenuExtensionDelegate = MenuExtensionDelegate;
+	return Extension;
+}
+
+TSharedRef<const FExtensionBase> FExtender::AddMenuBarExtension(FName ExtensionHook, EExtensionHook::Position HookPosition,
+	const TSharedPtr<FUICommandList>& CommandList, const FMenuBarExtensionDelegate& MenuBarExtensionDelegate)
+{
+	const TSharedRef<FExtensionBase> Extension = AddExtension(ExtensionHook, HookPosition, CommandList);
+	Extension->MenuBarExtensionDelegate = MenuBarExtensionDelegate;
+	return Extension;
+}
+
+TSharedRef<const FExtensionBase> FExtender::AddToolBarExtension(FName ExtensionHook, EExtensionHook::Position HookPosition,
+	const TSharedPtr<FUICommandList>& CommandList, const FToolBarExtensionDelegate& ToolBarExtensionDelegate)
+{
+	const TSharedRef<FExtensionBase> Extension = AddExtension(ExtensionHook, HookPosition, CommandList);
+	Extension->ToolBarExtensionDelegate = ToolBarExtensionDelegate;
 	return Extension;
 }
 
@@ -20,7 +43,9 @@ void FExtender::RemoveExtension(const TSharedRef<const FExtensionBase>& Extensio
 	Extensions.RemoveAll([&Extension](const TSharedPtr<const FExtensionBase>& Element) { return Element == Extension; });
 }
 
-void FExtender::Apply(FName ExtensionHook, EExtensionHook::Position HookPosition, FMenuBuilder& MenuBuilder) const
+template <typename BuilderType, typename DelegateType>
+void FExtender::ApplyTo(
+	FName ExtensionHook, EExtensionHook::Position HookPosition, BuilderType& Builder, DelegateType FExtensionBase::*Delegate) const
 {
 	for (const TSharedPtr<const FExtensionBase>& Extension : Extensions)
 	{
@@ -30,14 +55,29 @@ void FExtender::Apply(FName ExtensionHook, EExtensionHook::Position HookPosition
 		}
 		if (Extension->CommandList.IsValid())
 		{
-			MenuBuilder.PushCommandList(Extension->CommandList.ToSharedRef());
+			Builder.PushCommandList(Extension->CommandList.ToSharedRef());
 		}
-		Extension->MenuExtensionDelegate.ExecuteIfBound(MenuBuilder);
+		((*Extension).*Delegate).ExecuteIfBound(Builder);
 		if (Extension->CommandList.IsValid())
 		{
-			MenuBuilder.PopCommandList();
+			Builder.PopCommandList();
 		}
 	}
+}
+
+void FExtender::Apply(FName ExtensionHook, EExtensionHook::Position HookPosition, FMenuBuilder& MenuBuilder) const
+{
+	ApplyTo(ExtensionHook, HookPosition, MenuBuilder, &FExtensionBase::MenuExtensionDelegate);
+}
+
+void FExtender::Apply(FName ExtensionHook, EExtensionHook::Position HookPosition, FMenuBarBuilder& MenuBarBuilder) const
+{
+	ApplyTo(ExtensionHook, HookPosition, MenuBarBuilder, &FExtensionBase::MenuBarExtensionDelegate);
+}
+
+void FExtender::Apply(FName ExtensionHook, EExtensionHook::Position HookPosition, FToolBarBuilder& ToolBarBuilder) const
+{
+	ApplyTo(ExtensionHook, HookPosition, ToolBarBuilder, &FExtensionBase::ToolBarExtensionDelegate);
 }
 
 TSharedPtr<FExtender> FExtender::Combine(const TArray<TSharedPtr<FExtender>>& Extenders)

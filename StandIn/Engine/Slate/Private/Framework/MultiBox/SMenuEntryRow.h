@@ -59,6 +59,7 @@ public:
 	virtual bool SupportsKeyboardFocus() const override { return true; }
 	virtual void OnMouseEnter(const FGeometry& MyGeometry, const FPointerEvent& MouseEvent) override;
 	virtual void OnMouseLeave(const FPointerEvent& MouseEvent) override;
+	virtual FReply OnMouseMove(const FGeometry& MyGeometry, const FPointerEvent& MouseEvent) override;
 	virtual FReply OnMouseButtonDown(const FGeometry& MyGeometry, const FPointerEvent& MouseEvent) override;
 	virtual FReply OnMouseButtonUp(const FGeometry& MyGeometry, const FPointerEvent& MouseEvent) override;
 	virtual FReply OnMouseButtonDoubleClick(const FGeometry& InMyGeometry, const FPointerEvent& InMouseEvent) override;
@@ -78,4 +79,5 @@ private:
 	TWeakPtr<SMultiBoxWidget> Owner;
 	TWeakPtr<IMenu> SubMenu;
 	TSharedPtr<SWidget> CheckWidget;
+	bool bAwaitsMove = false;
 };

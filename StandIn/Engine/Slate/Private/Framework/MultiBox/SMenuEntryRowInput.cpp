@@ -50,10 +50,24 @@ void SMenuEntryRow::Choose()
 void SMenuEntryRow::OnMouseEnter(const FGeometry& MyGeometry, const FPointerEvent& MouseEvent)
 {
 	SCompoundWidget::OnMouseEnter(MyGeometry, MouseEvent);
-	if (const TSharedPtr<SMultiBoxWidget> OwnerPinned = Owner.Pin())
+	// A row that came under a resting mouse was not pointed at.
+	bAwaitsMove = MouseEvent.GetCursorDelta() == FVector2D(0.0f, 0.0f);
+	const TSharedPtr<SMultiBoxWidget> OwnerPinned = Owner.Pin();
+	if (!bAwaitsMove && OwnerPinned.IsValid())
 	{
 		OwnerPinned->OnRowHovered(SharedThis(this));
 	}
+}
+
+FReply SMenuEntryRow::OnMouseMove(const FGeometry& MyGeometry, const FPointerEvent& MouseEvent)
+{
+	const TSharedPtr<SMultiBoxWidget> OwnerPinned = Owner.Pin();
+	if (bAwaitsMove && OwnerPinned.IsValid() && MouseEvent.GetCursorDelta() != FVector2D(0.0f, 0.0f))
+	{
+		bAwaitsMove = false;
+		OwnerPinned->OnRowHovered(SharedThis(this));
+	}
+	return SCompoundWidget::OnMouseMove(MyGeometry, MouseEvent);
 }
 
 void SMenuEntryRow::OnMouseLeave(const FPointerEvent& MouseEvent)
@@ -101,12 +115,8 @@ FReply SMenuEntryRow::OnKeyDown(const FGeometry& MyGeometry, const FKeyEvent& In
 {
 	const FKey Key = InKeyEvent.GetKey();
 	const TSharedPtr<SMultiBoxWidget> OwnerPinned = Owner.Pin();
-	if (Key == EKeys::Enter || Key == EKeys::SpaceBar)
-	{
-		Choose();
-		return FReply::Handled();
-	}
-	if (Key == EKeys::Right && HasSubMenu() && IsEnabled() && OwnerPinned.IsValid())
+	const bool bChoose = Key == EKeys::Enter || Key == EKeys::SpaceBar;
+	if (HasSubMenu() && IsEnabled() && OwnerPinned.IsValid() && (Key == EKeys::Right || (bChoose && !Block->GetAction().IsBound())))
 	{
 		OwnerPinned->OpenSubMenuNow(SharedThis(this));
 		const TSharedPtr<SWidget> Content = GetSubMenuContent();
@@ -114,6 +124,11 @@ FReply SMenuEntryRow::OnKeyDown(const FGeometry& MyGeometry, const FKeyEvent& In
 		{
 			StaticCastSharedPtr<SMultiBoxWidget>(Content)->FocusFirstRow();
 		}
+		return FReply::Handled();
+	}
+	if (bChoose)
+	{
+		Choose();
 		return FReply::Handled();
 	}
 	return SCompoundWidget::OnKeyDown(MyGeometry, InKeyEvent);

@@ -6,6 +6,7 @@
 #include "Framework/MultiBox/SMenuEntryRow.h"
 #include "Layout/Children.h"
 #include "Widgets/Layout/SBorder.h"
+#include "Widgets/Layout/SScrollBox.h"
 #include "Widgets/SBoxPanel.h"
 
 namespace MultiBoxWidgetPrivate
@@ -53,6 +54,11 @@ void SMultiBoxWidget::BuildMultiBoxWidget()
 	OpenRow.Reset();
 	PendingRow.Reset();
 	bPending = false;
+	if (MultiBox->GetType() != EMultiBoxType::Menu)
+	{
+		ChildSlot[MakeBar()];
+		return;
+	}
 	Rows = SNew(SVerticalBox);
 	// clang-format off
 	for (const TSharedRef<const FMultiBlock>& Block : MultiBox->GetBlocks())
@@ -69,7 +75,11 @@ void SMultiBoxWidget::BuildMultiBoxWidget()
 		.BorderImage(this, &SMultiBoxWidget::GetBackground)
 		.Padding(FMargin(2.0f))
 		[
-			Rows.ToSharedRef()
+			SAssignNew(ScrollBox, SScrollBox)
+			+ SScrollBox::Slot()
+			[
+				Rows.ToSharedRef()
+			]
 		]
 	];
 	// clang-format on
@@ -205,13 +215,41 @@ bool SMultiBoxWidget::MoveFocus(const int32 Step)
 	return true;
 }
 
+bool SMultiBoxWidget::MoveFocusToEnd(const bool bLast)
+{
+	TArray<TSharedRef<SMenuEntryRow>> Focusable;
+	MultiBoxWidgetPrivate::CollectRows(AsShared(), Focusable);
+	return Focusable.Num() > 0
+		&& FSlateApplication::Get().SetKeyboardFocus(bLast ? Focusable.Last() : Focusable[0], EFocusCause::Navigation);
+}
+
+void SMultiBoxWidget::ScrollIntoView(const TSharedPtr<SWidget>& Widget)
+{
+	// Bars do not scroll.
+	if (ScrollBox.IsValid())
+	{
+		ScrollBox->ScrollDescendantIntoView(Widget);
+	}
+}
+
+void SMultiBoxWidget::OnFocusChanging(
+	const FWeakWidgetPath& PreviousFocusPath, const FWidgetPath& NewWidgetPath, const FFocusEvent& InFocusEvent)
+{
+	SCompoundWidget::OnFocusChanging(PreviousFocusPath, NewWidgetPath, InFocusEvent);
+	if (NewWidgetPath.ContainsWidget(this) && InFocusEvent.GetCause() != EFocusCause::Mouse)
+	{
+		ScrollIntoView(NewWidgetPath.GetLastWidget());
+	}
+}
+
 FReply SMultiBoxWidget::OnKeyDown(const FGeometry& MyGeometry, const FKeyEvent& InKeyEvent)
 {
 	const FKey Key = InKeyEvent.GetKey();
 	// The outermost menu of a window moves the focus, so that rows of menus inside it are reached as well.
 	if (!IsNested())
 	{
-		if ((Key == EKeys::Down && MoveFocus(1)) || (Key == EKeys::Up && MoveFocus(-1)))
+		if ((Key == EKeys::Down && MoveFocus(1)) || (Key == EKeys::Up && MoveFocus(-1)) || (Key == EKeys::Home && MoveFocusToEnd(false))
+			|| (Key == EKeys::End && MoveFocusToEnd(true)))
 		{
 			return FReply::Handled();
 		}

@@ -9,6 +9,42 @@ namespace
 {
 /** How far one notch of the wheel scrolls, in Slate units. */
 const float WheelScrollAmount = 32.0f;
+
+/** Finds where a descendant lies in a widget that is arranged in a geometry; false if it is not below it or not shown. */
+bool FindDescendant(const TSharedRef<SWidget>& Descendant, const FArrangedWidget& Root, FGeometry& OutGeometry)
+{
+	if (Root.Widget == Descendant)
+	{
+		OutGeometry = Root.Geometry;
+		return true;
+	}
+	const TSharedPtr<SWidget> Parent = Descendant->GetParentWidget();
+	FGeometry ParentGeometry;
+	if (!Parent.IsValid() || !FindDescendant(Parent.ToSharedRef(), Root, ParentGeometry))
+	{
+		return false;
+	}
+	FArrangedChildren Children(EVisibility::Visible);
+	Parent->ArrangeChildren(ParentGeometry, Children);
+	for (int32 Index = 0; Index < Children.Num(); ++Index)
+	{
+		if (Children[Index].Widget == Descendant)
+		{
+			OutGeometry = Children[Index].Geometry;
+			return true;
+		}
+	}
+	return false;
+}
+
+/** Where a descendant lies in a slot's widget of a size, in Slate units. */
+FSlateRect GetPartOfSlot(const TSharedRef<SWidget>& Descendant, const TSharedRef<SWidget>& SlotWidget, const FVector2D& SlotSize)
+{
+	FGeometry Geometry;
+	const FArrangedWidget Root(SlotWidget, FGeometry::MakeRoot(SlotSize, FSlateLayoutTransform()));
+	return FindDescendant(Descendant, Root, Geometry) ? Geometry.GetLayoutBoundingRect()
+													  : FSlateRect::FromPointAndExtent(FVector2D(0.0f, 0.0f), SlotSize);
+}
 }
 
 SScrollBox::SScrollBox()
@@ -119,7 +155,10 @@ void SScrollBox::Tick(const FGeometry& AllottedGeometry, const double /*InCurren
 			}
 			if (Ancestor.IsValid())
 			{
-				ScrollOffset = FMath::Min(Position, FMath::Max(ScrollOffset, Position + Length - ViewLength));
+				const FSlateRect Part = GetPartOfSlot(Wanted.ToSharedRef(), Slot.GetWidget(), Size);
+				const float Start = Position + (bVertical ? Part.Top : Part.Left);
+				const float End = Position + (bVertical ? Part.Bottom : Part.Right);
+				ScrollOffset = FMath::Min(Start, FMath::Max(ScrollOffset, End - ViewLength));
 			}
 			Position += Length;
 		}

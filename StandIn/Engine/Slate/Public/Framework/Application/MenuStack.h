@@ -90,6 +90,9 @@ public:
 	/** Returns the open menu at an index, 0 being the first opened. */
 	TSharedPtr<IMenu> GetMenu(int32 Index) const;
 
+	/** Returns the area that tool tips of what is in a menu stay out of: the menu and those opened from it, in desktop space. */
+	FSlateRect GetToolTipForceFieldRect(TSharedRef<IMenu> InMenu, const FWidgetPath& PathContainingMenu) const;
+
 	/** Returns the window from which the first menu was opened, or null. */
 	TSharedPtr<SWindow> GetHostWindow() const;
 
@@ -105,6 +108,5 @@ private:
 
 	TArray<TSharedPtr<FMenuBase>> Stack;
 	TWeakPtr<SWindow> HostWindow;
-	TWeakPtr<SWidget> FocusBeforeMenus;
 	bool bIsRemoving = false;
 };

@@ -19,6 +19,8 @@ class SToolTip;
 // The application: windows, routing of input, focus, tool tips, menus. One user, one pointer. Time is given to Tick, no clock is
 // read. Left out: native windows and message pumps, modal windows, gamepads, touch, drag and drop, throttling, input processors.
 
+DECLARE_DELEGATE_RetVal_OneParam(FReply, FOnKeyEvent, const FKeyEvent&);
+
 /** The application: windows, routing of input, focus, tool tips, menus. */
 class SLATE_API FSlateApplication : public FSlateApplicationBase
 {
@@ -190,6 +192,9 @@ public:
 	/** Routes a pressed key; Tab and arrow keys that no widget handles move the focus. */
 	bool ProcessKeyDownEvent(const FKeyEvent& InKeyEvent);
 
+	/** Sets what is offered keys that no widget handled, before they move the focus; main windows keep their commands there. */
+	void SetUnhandledKeyDownEventHandler(const FOnKeyEvent& NewHandler) { UnhandledKeyDownEventHandler = NewHandler; }
+
 	/** Routes a released key. */
 	bool ProcessKeyUpEvent(const FKeyEvent& InKeyEvent);
 
@@ -245,6 +250,8 @@ public:
 
 	TSharedRef<IToolTip> MakeToolTip(const TAttribute<FText>& ToolTipText) override;
 	TSharedRef<IToolTip> MakeToolTip(const FText& ToolTipText) override;
+	TSharedRef<SWidget> MakeWindowTitleBar(const TSharedRef<SWindow>& Window, const TSharedPtr<SWidget>& CenterContent,
+		EHorizontalAlignment CenterContentAlignment) const override;
 
 	/** Shows a tool tip at a place now. */
 	void SpawnToolTip(const TSharedRef<IToolTip>& InToolTip, const FVector2D& InSpawnLocation);
@@ -267,6 +274,7 @@ public:
 private:
 	FSlateApplication();
 
+	void OnModuleBinaryUnloading(FName ModuleName);
 	void DrawWindows();
 	void CollectWindows(const TSharedRef<SWindow>& Window, TArray<TSharedRef<SWindow>>& OutWindows) const;
 	void ActivateWindow(const TSharedPtr<SWindow>& Window);
@@ -278,6 +286,7 @@ private:
 	void ProcessReply(const FWidgetPath& EventPath, const FReply& Reply);
 	bool SetFocusPath(const FWidgetPath& InFocusPath, EFocusCause Cause);
 	bool NavigateFocus(EUINavigation Direction);
+	void PlaceToolTip(const FWidgetPath& HoveredPath);
 	void ShowToolTip(const TSharedRef<IToolTip>& InToolTip, const FVector2D& Location);
 	void NotePointer(const FPointerEvent& MouseEvent);
 
@@ -290,6 +299,7 @@ private:
 	float ApplicationScale;
 	double CurrentTime;
 	float LastDeltaTime;
+	FOnKeyEvent UnhandledKeyDownEventHandler;
 	FWeakWidgetPath FocusPath;
 	EFocusCause FocusCause;
 	uint32 FocusChanges;

@@ -13,11 +13,34 @@ class ISlateStyle;
 class SMenuEntryRow;
 struct FSlateBrush;
 class SMultiBoxWidget;
+class SScrollBox;
 class SVerticalBox;
 
-// A multi-box is the description of a menu: a list of blocks, from which a widget is made. Menus only: the other box types are
-// refused when their widget is built. There is no customisation by the user, no scrolling, and no search by typing, so
-// "searchable" is kept and has no effect.
+// A multi-box is the description of a menu, a menu bar or a tool bar: a list of blocks, from which a widget is made. The other box
+// types are refused when their widget is built. A menu that has less room than it wishes for is scrolled. There is no customisation
+// by the user and no search by typing, so "searchable" is kept and has no effect.
+
+/** Name under which a user's changes to a multi-box are kept; nothing can be changed here, so the name is only carried. */
+class SLATE_API FMultiBoxCustomization
+{
+public:
+	/** Makes a customization of a name. */
+	explicit FMultiBoxCustomization(FName InCustomizationName)
+		: CustomizationName(InCustomizationName)
+	{}
+
+	/** No customization. */
+	static const FMultiBoxCustomization None;
+
+	/** A customization of a name. */
+	static FMultiBoxCustomization AllowCustomization(FName InCustomizationName) { return FMultiBoxCustomization(InCustomizationName); }
+
+	/** The name, or NAME_None. */
+	FName GetCustomizationName() const { return CustomizationName; }
+
+private:
+	FName CustomizationName;
+};
 
 /** One element of a multi-box: an entry, a heading, a separator or a widget. */
 class SLATE_API FMultiBlock : public TSharedFromThis<FMultiBlock>
@@ -45,7 +68,7 @@ private:
 	FName ExtensionHook;
 };
 
-/** Description of a menu. */
+/** Description of a menu or bar. */
 class SLATE_API FMultiBox : public TSharedFromThis<FMultiBox>
 {
 public:
@@ -63,7 +86,7 @@ public:
 	/** Appends a block. */
 	void AddMultiBlock(TSharedRef<const FMultiBlock> InBlock) { Blocks.Add(InBlock); }
 
-	/** All blocks from top to bottom. */
+	/** All blocks from top to bottom, or from left to right. */
 	const TArray<TSharedRef<const FMultiBlock>>& GetBlocks() const { return Blocks; }
 
 	/** Makes a widget that shows the box. */
@@ -77,7 +100,7 @@ private:
 	TArray<TSharedRef<const FMultiBlock>> Blocks;
 };
 
-/** Widget of a multi-box: rows below each other, of which at most one has its submenu open. */
+/** Widget of a multi-box: rows below each other, or heads or buttons side by side; at most one has its submenu open. */
 class SLATE_API SMultiBoxWidget : public SCompoundWidget
 {
 public:
@@ -116,10 +139,15 @@ public:
 	/** Opens a row's submenu now, closing a sibling's. */
 	void OpenSubMenuNow(const TSharedRef<SMenuEntryRow>& InRow);
 
+	/** Scrolls at the next tick so that something in the menu is in sight. */
+	void ScrollIntoView(const TSharedPtr<SWidget>& Widget);
+
 	virtual void Tick(const FGeometry& AllottedGeometry, const double InCurrentTime, const float InDeltaTime) override;
 	virtual bool SupportsKeyboardFocus() const override { return true; }
 	virtual FReply OnKeyDown(const FGeometry& MyGeometry, const FKeyEvent& InKeyEvent) override;
 	virtual FReply OnMouseButtonDown(const FGeometry& MyGeometry, const FPointerEvent& MouseEvent) override;
+	virtual void OnFocusChanging(
+		const FWeakWidgetPath& PreviousFocusPath, const FWidgetPath& NewWidgetPath, const FFocusEvent& InFocusEvent) override;
 
 private:
 	/** True if this widget sits inside the rows of another menu. */
@@ -128,11 +156,18 @@ private:
 	/** Background of the menu; nothing inside another menu. */
 	const FSlateBrush* GetBackground() const;
 
+	/** Makes the widget of a bar. */
+	TSharedRef<SWidget> MakeBar();
+
 	/** Moves the keyboard focus to the next row (Step 1) or the one before (Step -1), around the ends. */
 	bool MoveFocus(const int32 Step);
 
+	/** Moves the keyboard focus to the first or the last row. */
+	bool MoveFocusToEnd(const bool bLast);
+
 	TSharedPtr<FMultiBox> MultiBox;
 	TSharedPtr<SVerticalBox> Rows;
+	TSharedPtr<SScrollBox> ScrollBox;
 	TWeakPtr<SMenuEntryRow> OpenRow;
 	TWeakPtr<SMenuEntryRow> ParentRow;
 	TWeakPtr<SMenuEntryRow> PendingRow;

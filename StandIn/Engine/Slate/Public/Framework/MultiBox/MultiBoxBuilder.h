@@ -11,8 +11,9 @@
 
 struct FMenuEntryArguments;
 
-// Builders describe a menu block by block and make its widget. Menus only: no menu bar, tool bar or button row builder, no
-// editable text entries. Names for tutorials are taken and have no effect.
+// Builders describe a menu, a menu bar or a tool bar block by block and make its widget. Left out: button rows, vertical and
+// uniform tool bars, block groups, editable text entries. Names for tutorials are taken and have no effect. Uncertain in the
+// engine and settled here: FToolBarBuilder has the constructor without an orientation.
 
 /** Base of the builders: the box being filled, and the command lists and extenders in force. */
 class SLATE_API FMultiBoxBuilder
@@ -135,4 +136,93 @@ private:
 	const ISlateStyle* StyleSet;
 	FName CurrentSectionExtensionHook;
 	TAttribute<FText> CurrentSectionHeadingText;
+};
+
+/** Builder of a bar of pull-down menus. */
+class SLATE_API FMenuBarBuilder : public FMultiBoxBuilder
+{
+public:
+	/** Makes a builder. */
+	FMenuBarBuilder(TSharedPtr<const FUICommandList> InCommandList, TSharedPtr<FExtender> InExtender = TSharedPtr<FExtender>(),
+		const ISlateStyle* InStyleSet = &FCoreStyle::Get(), FName InMenuName = NAME_None);
+
+	/** Adds a head with a menu below it that the delegate fills at each opening. */
+	void AddPullDownMenu(const TAttribute<FText>& InMenuLabel, const TAttribute<FText>& InToolTip, const FNewMenuDelegate& InPullDownMenu,
+		FName InExtensionHook = NAME_None, FName InTutorialHighlightName = NAME_None);
+
+	/** Adds a head with a menu below it that the delegate makes at each opening. */
+	void AddPullDownMenu(const TAttribute<FText>& InMenuLabel, const TAttribute<FText>& InToolTip, const FOnGetContent& InMenuContentGenerator,
+		FName InExtensionHook = NAME_None, FName InTutorialHighlightName = NAME_None);
+
+private:
+	void AddHead(FMenuEntryArguments& Arguments);
+	void ApplyHook(FName InExtensionHook, EExtensionHook::Position HookPosition);
+
+	const ISlateStyle* StyleSet;
+};
+
+/** Builder of a bar of buttons with icons and captions. */
+class SLATE_API FToolBarBuilder : public FMultiBoxBuilder
+{
+public:
+	/** Makes a builder; small icons have no captions. */
+	FToolBarBuilder(TSharedPtr<const FUICommandList> InCommandList, FMultiBoxCustomization InCustomization,
+		TSharedPtr<FExtender> InExtender = TSharedPtr<FExtender>(), const bool InForceSmallIcons = false);
+
+	/** Sets whether captions of the buttons added from now on are shown. */
+	void SetLabelVisibility(EVisibility InLabelVisibility) { LabelVisibility = InLabelVisibility; }
+
+	/** Sets whether the buttons added from now on take the keyboard focus; they do not at first. */
+	void SetIsFocusable(bool bInIsFocusable) { bIsFocusable = bInIsFocusable; }
+
+	/** Sets the style set in which the looks named "ToolBar..." are found. */
+	void SetStyle(const ISlateStyle* InStyleSet, const FName& InStyleName);
+
+	/** Adds a button for a command; its action comes from the command list in force. */
+	void AddToolBarButton(const TSharedPtr<const FUICommandInfo> InCommand, FName InExtensionHook = NAME_None,
+		const TAttribute<FText>& InLabelOverride = TAttribute<FText>(), const TAttribute<FText>& InToolTipOverride = TAttribute<FText>(),
+		const TAttribute<FSlateIcon>& InIconOverride = TAttribute<FSlateIcon>(), FName InTutorialHighlightName = NAME_None);
+
+	/** Adds a button with an action of its own. */
+	void AddToolBarButton(const FUIAction& InAction, FName InExtensionHook = NAME_None,
+		const TAttribute<FText>& InLabelOverride = TAttribute<FText>(), const TAttribute<FText>& InToolTipOverride = TAttribute<FText>(),
+		const TAttribute<FSlateIcon>& InIconOverride = TAttribute<FSlateIcon>(),
+		const EUserInterfaceActionType UserInterfaceActionType = EUserInterfaceActionType::Button,
+		FName InTutorialHighlightName = NAME_None);
+
+	/** Adds a button that opens the menu that the delegate makes; a simple combo box is an arrow only. */
+	void AddComboButton(const FUIAction& InAction, const FOnGetContent& InMenuContentGenerator,
+		const TAttribute<FText>& InLabelOverride = TAttribute<FText>(), const TAttribute<FText>& InToolTipOverride = TAttribute<FText>(),
+		const TAttribute<FSlateIcon>& InIconOverride = TAttribute<FSlateIcon>(), bool bInSimpleComboBox = false,
+		FName InTutorialHighlightName = NAME_None);
+
+	/** Adds a widget with a caption, which may be unset. */
+	void AddToolBarWidget(TSharedRef<SWidget> InWidget, const TAttribute<FText>& InLabel = TAttribute<FText>(),
+		FName InTutorialHighlightName = NAME_None, bool bSearchable = true);
+
+	/** Adds a widget. */
+	void AddWidget(TSharedRef<SWidget> InWidget, FName InTutorialHighlightName = NAME_None, bool bSearchable = true);
+
+	/** Adds a thin upright line. */
+	void AddSeparator(FName InExtensionHook = NAME_None);
+
+	/** Begins a section; a line is drawn before it once a block follows. Sections do not nest. */
+	void BeginSection(FName InExtensionHook);
+
+	/** Ends the section. */
+	void EndSection();
+
+private:
+	friend class UToolMenus;
+
+	void AddButton(FMenuEntryArguments& Arguments, const TAttribute<FSlateIcon>& Icon, const bool bCombo, const bool bSimpleCombo);
+	void AddBlock(const TSharedRef<const FMultiBlock>& InBlock);
+	void ApplyHook(FName InExtensionHook, EExtensionHook::Position HookPosition);
+
+	const ISlateStyle* StyleSet;
+	EVisibility LabelVisibility;
+	FName CurrentSectionExtensionHook;
+	bool bForceSmallIcons;
+	bool bIsFocusable;
+	bool bSectionNeedsToBeApplied;
 };

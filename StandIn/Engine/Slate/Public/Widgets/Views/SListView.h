@@ -110,14 +110,14 @@ public:
 	int32 GetNumItemsSelected() const { return SelectedItems.Num(); }
 
 	/** Says whether an item is selected. */
-	bool IsItemSelected(const ItemType& InItem) const { return SelectedItems.Contains(InItem); }
+	bool IsItemSelected(const ItemType& InItem) const { return SelectedSet.Contains(InItem); }
 
 	/** Takes all selections away. */
 	void ClearSelection()
 	{
 		if (SelectedItems.Num() > 0)
 		{
-			SelectedItems.Empty();
+			Deselect();
 			Private_SignalSelectionChanged(ESelectInfo::Direct);
 		}
 	}
@@ -125,7 +125,7 @@ public:
 	/** Selects one item and no other. */
 	void SetSelection(ItemType SoleSelectedItem, ESelectInfo::Type SelectInfo = ESelectInfo::Direct)
 	{
-		SelectedItems.Empty();
+		Deselect();
 		SetItemSelection(SoleSelectedItem, true, SelectInfo);
 	}
 
@@ -137,6 +137,20 @@ public:
 			return;
 		}
 		Private_SetItemSelection(InItem, bSelected, SelectInfo != ESelectInfo::Direct);
+		Private_SignalSelectionChanged(SelectInfo);
+	}
+
+	/** Selects items or takes their selection away, and tells of it once. */
+	void SetItemSelection(const TArray<ItemType>& InItems, bool bSelected, ESelectInfo::Type SelectInfo = ESelectInfo::Direct)
+	{
+		if (SelectionMode.Get() == ESelectionMode::None || InItems.Num() == 0)
+		{
+			return;
+		}
+		for (int32 Index = 0; Index < InItems.Num(); ++Index)
+		{
+			Private_SetItemSelection(InItems[Index], bSelected, SelectInfo != ESelectInfo::Direct);
+		}
 		Private_SignalSelectionChanged(SelectInfo);
 	}
 
@@ -208,7 +222,7 @@ public:
 		if (MouseEvent.GetEffectingButton() == EKeys::LeftMouseButton && bClearSelectionOnClick
 			&& SelectionMode.Get() == ESelectionMode::Multi && SelectedItems.Num() > 0)
 		{
-			SelectedItems.Empty();
+			Deselect();
 			Private_SignalSelectionChanged(ESelectInfo::OnMouseClick);
 			return FReply::Handled();
 		}
@@ -223,11 +237,11 @@ public:
 		{
 			if (SelectionMode.Get() != ESelectionMode::Multi)
 			{
-				SelectedItems.Empty();
+				Deselect();
 			}
-			SelectedItems.AddUnique(TheItem);
+			AddToSelection(TheItem);
 		}
-		else
+		else if (SelectedSet.Remove(TheItem) > 0)
 		{
 			SelectedItems.Remove(TheItem);
 		}
@@ -238,7 +252,7 @@ public:
 		}
 	}
 
-	void Private_ClearSelection() override { SelectedItems.Empty(); }
+	void Private_ClearSelection() override { Deselect(); }
 
 	void Private_SelectRangeFromCurrentTo(ItemType InRangeSelectionEnd) override
 	{
@@ -256,7 +270,7 @@ public:
 		}
 		for (int32 Index = FMath::Max(0, Start); Index <= End; ++Index)
 		{
-			SelectedItems.AddUnique((*ItemsSource)[Index]);
+			AddToSelection((*ItemsSource)[Index]);
 		}
 		SelectorItem = InRangeSelectionEnd;
 	}
@@ -279,7 +293,7 @@ public:
 		return nullptr;
 	}
 
-	bool Private_IsItemSelected(const ItemType& TheItem) const override { return SelectedItems.Contains(TheItem); }
+	bool Private_IsItemSelected(const ItemType& TheItem) const override { return SelectedSet.Contains(TheItem); }
 	bool Private_HasSelectorFocus(const ItemType& TheItem) const override { return SelectorItem == TheItem; }
 	ESelectionMode::Type Private_GetSelectionMode() const override { return SelectionMode.Get(); }
 
@@ -366,11 +380,21 @@ protected:
 	{
 		// Items that are gone cannot stay selected.
 		const int32 NumBefore = SelectedItems.Num();
-		for (int32 Index = SelectedItems.Num() - 1; Index >= 0; --Index)
+		if (NumBefore > 0)
 		{
-			if (ItemsSource == nullptr || !ItemsSource->Contains(SelectedItems[Index]))
+			TSet<ItemType> Present;
+			for (int32 Index = 0; ItemsSource != nullptr && Index < ItemsSource->Num(); ++Index)
 			{
-				SelectedItems.RemoveAt(Index);
+				Present.Add((*ItemsSource)[Index]);
+			}
+			const TArray<ItemType> Before = SelectedItems;
+			Deselect();
+			for (int32 Index = 0; Index < NumBefore; ++Index)
+			{
+				if (Present.Contains(Before[Index]))
+				{
+					AddToSelection(Before[Index]);
+				}
 			}
 		}
 		if (TListTypeTraits<ItemType>::IsPtrValid(SelectorItem) && (ItemsSource == nullptr || !ItemsSource->Contains(SelectorItem)))
@@ -405,7 +429,7 @@ protected:
 	/** How many items can be selected. */
 	TAttribute<ESelectionMode::Type> SelectionMode;
 
-	/** The selected items. */
+	/** The selected items in the order of their selection; changed by the functions below alone. */
 	TArray<ItemType> SelectedItems;
 
 	/** The item that the keyboard goes on from. */
@@ -428,6 +452,22 @@ private:
 		bool bInSight = false;
 	};
 
+	void Deselect()
+	{
+		SelectedItems.Empty();
+		SelectedSet.Empty();
+	}
+
+	void AddToSelection(const ItemType& Item)
+	{
+		bool bIsAlreadySelected = false;
+		SelectedSet.Add(Item, &bIsAlreadySelected);
+		if (!bIsAlreadySelected)
+		{
+			SelectedItems.Add(Item);
+		}
+	}
+
 	void ReleaseAll()
 	{
 		while (Rows.Num() > 0)
@@ -442,16 +482,19 @@ private:
 	{
 		if (bRange && SelectionMode.Get() == ESelectionMode::Multi)
 		{
-			SelectedItems.Empty();
+			Deselect();
 			Private_SelectRangeFromCurrentTo(Item);
 		}
 		else
 		{
-			SelectedItems.Empty();
+			Deselect();
 			Private_SetItemSelection(Item, true, true);
 		}
 		Private_SignalSelectionChanged(ESelectInfo::OnKeyPress);
 	}
 
 	TArray<FItemRow> Rows;
+
+	/** The same items as in SelectedItems: thousands may be selected. */
+	TSet<ItemType> SelectedSet;
 };

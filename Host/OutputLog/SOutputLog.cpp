@@ -1,0 +1,279 @@
+// Copyright The Tintmill authors. All rights reserved.
+
+#include "Host/OutputLog/SOutputLog.h"
+
+#include "Host/OutputLog/LogColors.h"
+#include "Host/OutputLog/SConsoleLine.h"
+#include "Host/OutputLog/SLogLines.h"
+#include "Host/Program/Strings.h"
+
+#include "Brushes/SlateColorBrush.h"
+#include "Editor.h"
+#include "Framework/MultiBox/MultiBoxBuilder.h"
+#include "Styling/CoreStyle.h"
+#include "Widgets/Input/SComboButton.h"
+#include "Widgets/Input/SSearchBox.h"
+#include "Widgets/Layout/SBorder.h"
+#include "Widgets/Layout/SScrollBar.h"
+#include "Widgets/SBoxPanel.h"
+#include "Widgets/Text/STextBlock.h"
+
+namespace TintmillHost
+{
+namespace
+{
+FText Label(const TCHAR* Text)
+{
+	return FText::FromString(Text);
+}
+
+const FSlateBrush* LogBrush()
+{
+	static const FSlateColorBrush Brush(GetLogBackgroundColor());
+	return &Brush;
+}
+}
+
+void SOutputLog::Construct(const FArguments& InArgs)
+{
+	check(InArgs._Log != nullptr);
+	Lines = std::make_unique<FShownLines>(*InArgs._Log);
+	FEditorDelegates::PreBeginPIE.AddSP(this, &SOutputLog::OnPlayStarts);
+	const TSharedRef<SScrollBar> VerticalBar = SNew(SScrollBar);
+	const TSharedRef<SScrollBar> HorizontalBar = SNew(SScrollBar).Orientation(Orient_Horizontal);
+	// clang-format off
+	ChildSlot
+	[
+		SNew(SBorder)
+		.BorderImage(FCoreStyle::Get().GetBrush("ToolPanel.GroupBorder"))
+		.Padding(4.0f)
+		[
+			SNew(SVerticalBox)
+			+ SVerticalBox::Slot()
+			.AutoHeight()
+			.Padding(0.0f, 0.0f, 0.0f, 4.0f)
+			[
+				MakeToolBar()
+			]
+			+ SVerticalBox::Slot()
+			.FillHeight(1.0f)
+			[
+				SNew(SBorder)
+				.BorderImage(LogBrush())
+				.Padding(FMargin(0.0f, 2.0f, 0.0f, 0.0f))
+				[
+					SNew(SVerticalBox)
+					+ SVerticalBox::Slot()
+					.FillHeight(1.0f)
+					[
+						SNew(SHorizontalBox)
+						+ SHorizontalBox::Slot()
+						.FillWidth(1.0f)
+						[
+							SAssignNew(LinesWidget, SLogLines, *Lines)
+							.VerticalBar(VerticalBar)
+							.HorizontalBar(HorizontalBar)
+							.OnContextMenu(this, &SOutputLog::MakeContextMenu)
+						]
+						+ SHorizontalBox::Slot()
+						.AutoWidth()
+						[
+							VerticalBar
+						]
+					]
+					+ SVerticalBox::Slot()
+					.AutoHeight()
+					[
+						HorizontalBar
+					]
+				]
+			]
+			+ SVerticalBox::Slot()
+			.AutoHeight()
+			.Padding(0.0f, 4.0f, 0.0f, 0.0f)
+			[
+				SNew(SConsoleLine)
+				.Console(InArgs._Console)
+			]
+		]
+	];
+	// clang-format on
+}
+
+void SOutputLog::ClearLog()
+{
+	Lines->Clear();
+	LinesWidget->ScrollToEnd();
+}
+
+TSharedRef<SWidget> SOutputLog::MakeToolBar()
+{
+	// clang-format off
+	return SNew(SHorizontalBox)
+		+ SHorizontalBox::Slot()
+		.AutoWidth()
+		[
+			SNew(SComboButton)
+			.OnGetMenuContent(this, &SOutputLog::MakeFilterMenu)
+			.ToolTipText(Label(TEXT("Add or change what lines the log shows.")))
+			.ButtonContent()
+			[
+				SNew(STextBlock)
+				.Text(Label(TEXT("Filters")))
+			]
+		]
+		+ SHorizontalBox::Slot()
+		.FillWidth(1.0f)
+		.Padding(4.0f, 0.0f)
+		[
+			SNew(SSearchBox)
+			.HintText(Label(TEXT("Search Log")))
+			.OnTextChanged(this, &SOutputLog::OnSearchChanged)
+		]
+		+ SHorizontalBox::Slot()
+		.AutoWidth()
+		.VAlign(VAlign_Center)
+		[
+			SNew(STextBlock)
+			.Text(this, &SOutputLog::DescribeFiltering)
+			.ColorAndOpacity(FSlateColor::UseSubduedForeground())
+		]
+		+ SHorizontalBox::Slot()
+		.AutoWidth()
+		.Padding(4.0f, 0.0f, 0.0f, 0.0f)
+		[
+			SNew(SComboButton)
+			.OnGetMenuContent(this, &SOutputLog::MakeViewMenu)
+			.ButtonContent()
+			[
+				SNew(STextBlock)
+				.Text(Label(TEXT("View Options")))
+			]
+		];
+	// clang-format on
+}
+
+TSharedRef<SWidget> SOutputLog::MakeFilterMenu()
+{
+	FMenuBuilder Menu(true, nullptr);
+	Menu.BeginSection("OutputLogVerbosityEntries", Label(TEXT("Verbosity")));
+	const auto AddVerbosity = [&](const TCHAR* Name, const TCHAR* Hint, bool FLogFilter::*Which) {
+		AddToggle(
+			Menu, Label(Name), Label(Hint), [this, Which] { return Lines->GetFilter().*Which; },
+			[this, Which] { ChangeFilter([Which](FLogFilter& Filter) { Filter.*Which = !(Filter.*Which); }); });
+	};
+	AddVerbosity(TEXT("Messages"), TEXT("Filter the Output Log to show messages"), &FLogFilter::bMessages);
+	AddVerbosity(TEXT("Warnings"), TEXT("Filter the Output Log to show warnings"), &FLogFilter::bWarnings);
+	AddVerbosity(TEXT("Errors"), TEXT("Filter the Output Log to show errors"), &FLogFilter::bErrors);
+	Menu.EndSection();
+	Menu.BeginSection("OutputLogMiscEntries", Label(TEXT("Miscellaneous")));
+	Menu.AddSubMenu(Label(TEXT("Categories")), Label(TEXT("Select Categories to display.")),
+		FNewMenuDelegate::CreateSP(this, &SOutputLog::FillCategoryMenu));
+	Menu.EndSection();
+	return Menu.MakeWidget();
+}
+
+void SOutputLog::FillCategoryMenu(FMenuBuilder& Menu)
+{
+	Menu.BeginSection("OutputLogCategoriesEntries", Label(TEXT("Categories")));
+	AddToggle(
+		Menu, Label(TEXT("Show All")), Label(TEXT("Filter the Output Log to show all categories")),
+		[this] { return Lines->GetFilter().HiddenCategories.empty(); },
+		[this] {
+			ChangeFilter([this](FLogFilter& Filter) {
+				// Taken away, it hides every category there is.
+				const std::vector<std::string> All = Lines->ListCategories();
+				Filter.HiddenCategories =
+					Filter.HiddenCategories.empty() ? std::set<std::string>(All.begin(), All.end()) : std::set<std::string>();
+			});
+		});
+	for (const std::string& Category : Lines->ListCategories())
+	{
+		const FString Name = FromUtf8(Category);
+		AddToggle(
+			Menu, FText::FromString(Name), FText::FromString(TEXT("Filter the Output Log to show category: ") + Name),
+			[this, Category] { return Lines->GetFilter().HiddenCategories.count(Category) == 0; },
+			[this, Category] { ToggleCategory(Category); });
+	}
+	Menu.EndSection();
+}
+
+TSharedRef<SWidget> SOutputLog::MakeViewMenu()
+{
+	FMenuBuilder Menu(true, nullptr);
+	AddToggle(
+		Menu, Label(TEXT("Show Timestamps")), Label(TEXT("Begin each line with the seconds since the start.")),
+		[this] { return Lines->bTimes; },
+		[this] {
+			Lines->bTimes = !Lines->bTimes;
+			LinesWidget->ClearSelection();
+		});
+	AddToggle(
+		Menu, Label(TEXT("Clear on PIE")), Label(TEXT("Clear the log when play begins.")), [this] { return bClearOnPlay; },
+		[this] { bClearOnPlay = !bClearOnPlay; });
+	return Menu.MakeWidget();
+}
+
+TSharedRef<SWidget> SOutputLog::MakeContextMenu()
+{
+	FMenuBuilder Menu(true, nullptr);
+	Menu.AddMenuEntry(Label(TEXT("Copy")), Label(TEXT("Copy the selected text.")), FSlateIcon(),
+		FUIAction(FExecuteAction::CreateSP(LinesWidget.ToSharedRef(), &SLogLines::CopySelection),
+			FCanExecuteAction::CreateSP(LinesWidget.ToSharedRef(), &SLogLines::HasSelection)));
+	Menu.AddMenuEntry(Label(TEXT("Select All")), Label(TEXT("Select all lines.")), FSlateIcon(),
+		FUIAction(FExecuteAction::CreateSP(LinesWidget.ToSharedRef(), &SLogLines::SelectAll)));
+	Menu.AddMenuSeparator();
+	Menu.AddMenuEntry(Label(TEXT("Clear Log")), Label(TEXT("Clears all log messages.")), FSlateIcon(),
+		FUIAction(FExecuteAction::CreateSP(this, &SOutputLog::ClearLog)));
+	return Menu.MakeWidget();
+}
+
+void SOutputLog::AddToggle(
+	FMenuBuilder& Menu, const FText& LabelText, const FText& Hint, std::function<bool()> IsChecked, std::function<void()> Toggle)
+{
+	// Menus close before the panel goes, so the functions may speak of it.
+	Menu.AddMenuEntry(LabelText, Hint, FSlateIcon(),
+		FUIAction(FExecuteAction::CreateLambda(std::move(Toggle)), FCanExecuteAction(), FIsActionChecked::CreateLambda(std::move(IsChecked))),
+		NAME_None, EUserInterfaceActionType::ToggleButton);
+}
+
+void SOutputLog::ChangeFilter(const std::function<void(FLogFilter&)>& Change)
+{
+	FLogFilter Filter = Lines->GetFilter();
+	Change(Filter);
+	Lines->SetFilter(Filter);
+	LinesWidget->ScrollToEnd();
+}
+
+void SOutputLog::ToggleCategory(const std::string& Category)
+{
+	ChangeFilter([&Category](FLogFilter& Filter) {
+		if (Filter.HiddenCategories.erase(Category) == 0)
+		{
+			Filter.HiddenCategories.insert(Category);
+		}
+	});
+}
+
+void SOutputLog::OnSearchChanged(const FText& Text)
+{
+	ChangeFilter([&Text](FLogFilter& Filter) { Filter.Search = ToUtf8(Text.ToString()); });
+}
+
+void SOutputLog::OnPlayStarts(const bool)
+{
+	if (bClearOnPlay)
+	{
+		ClearLog();
+	}
+}
+
+FText SOutputLog::DescribeFiltering() const
+{
+	if (Lines->Num() == Lines->NumUnfiltered())
+	{
+		return FText::GetEmpty();
+	}
+	return FText::FromString(FString::Printf(TEXT("%d of %d lines"), Lines->Num(), Lines->NumUnfiltered()));
+}
+}

@@ -1,0 +1,46 @@
+// Copyright The Tintmill authors. All rights reserved.
+
+#include "Host/Program/ProgramText.h"
+
+#ifndef WIN32_LEAN_AND_MEAN
+#define WIN32_LEAN_AND_MEAN
+#endif
+#ifndef NOMINMAX
+#define NOMINMAX
+#endif
+#include <windows.h>
+
+#include <shellapi.h>
+
+#include <filesystem>
+
+namespace TintmillHost
+{
+std::vector<std::string> GetProgramArguments(int, char**)
+{
+	// Those of main have lost what the system's old code page does not have.
+	std::vector<std::string> Utf8;
+	int Count = 0;
+	wchar_t** const Words = CommandLineToArgvW(GetCommandLineW(), &Count);
+	for (int Index = 1; Words != nullptr && Index < Count; ++Index)
+	{
+		Utf8.push_back(std::filesystem::path(Words[Index]).string());
+	}
+	LocalFree(Words);
+	return Utf8;
+}
+
+FUtf8Console::FUtf8Console()
+	: Before(GetConsoleOutputCP())
+{
+	SetConsoleOutputCP(CP_UTF8);
+}
+
+FUtf8Console::~FUtf8Console()
+{
+	if (Before != 0)
+	{
+		SetConsoleOutputCP(Before);
+	}
+}
+}

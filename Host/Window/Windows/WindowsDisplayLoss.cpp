@@ -1,0 +1,13 @@
+// Copyright The Tintmill authors. All rights reserved.
+
+#include "Host/Window/DisplayLoss.h"
+
+namespace TintmillHost
+{
+void WatchDisplay(SDL_Window*) {}
+
+bool IsDisplayLost()
+{
+	return false;
+}
+}
