@@ -164,6 +164,28 @@ function(ue_module name dir)
         LIBRARY_OUTPUT_DIRECTORY ${arg_PLUGIN_DIR}/Binaries/${UE_PLATFORM_DIR}
         RUNTIME_OUTPUT_DIRECTORY ${arg_PLUGIN_DIR}/Binaries/${UE_PLATFORM_DIR}
         BUILD_RPATH "$ORIGIN;$ORIGIN/../../../../Binaries/${UE_PLATFORM_DIR}")
+    ue_late_module(${name})
+endfunction()
+
+# ue_late_module(NAME): the target <NAME>.Late, the module's library for programs that call into it once the plug-in manager has
+# loaded it. A program for Windows has no list of folders to find libraries in, so there it binds the library at its first call.
+function(ue_late_module name)
+    add_library(${name}.Late INTERFACE)
+    if(NOT WIN32)
+        target_link_libraries(${name}.Late INTERFACE ${name})
+        return()
+    endif()
+    set(stem ${CMAKE_BINARY_DIR}/Late/UE4Editor-${name})
+    file(MAKE_DIRECTORY ${CMAKE_BINARY_DIR}/Late)
+    target_link_options(${name} PRIVATE -Wl,--output-def,${stem}.def)
+    add_custom_command(OUTPUT ${stem}.a
+        COMMAND ${CMAKE_DLLTOOL} --input-def ${stem}.def --dllname $<TARGET_FILE_NAME:${name}> --output-delaylib ${stem}.a
+        DEPENDS ${name} VERBATIM)
+    add_custom_target(${name}.LateLibrary DEPENDS ${stem}.a)
+    add_dependencies(${name}.Late ${name}.LateLibrary)
+    target_include_directories(${name}.Late INTERFACE $<TARGET_PROPERTY:${name},INTERFACE_INCLUDE_DIRECTORIES>)
+    target_compile_definitions(${name}.Late INTERFACE $<TARGET_PROPERTY:${name},INTERFACE_COMPILE_DEFINITIONS>)
+    target_link_libraries(${name}.Late INTERFACE StandInEngineImport ${stem}.a delayimp)
 endfunction()
 
 # ue_plugin(NAME): the plug-in folder as it would be installed: descriptor, icons, binaries.

@@ -43,6 +43,7 @@ FConsole::FGroup::~FGroup()
 
 FConsole::FConsole()
 {
+	const FGroup Group(*this, "What there is");
 	Add("help [COMMAND]", "list the commands, or explain one", {"help", "help shot"},
 		[this](const FArguments& Words, std::ostream& Output) {
 			if (Words.empty())

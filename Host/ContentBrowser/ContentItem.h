@@ -39,11 +39,11 @@ struct FContentItem
 	/** Of a new asset: the class that it will have. */
 	const UClass* Class = nullptr;
 
-	/** The label in small letters, for sorting. */
+	/** The label in small letters, for sorting and searching. */
 	std::string SortKey;
 
-	/** What a search looks into: name and class, in small letters. */
-	std::string SearchKey;
+	/** Of assets: the class in small letters. */
+	std::string ClassKey;
 
 	/** Of assets: whether the registry knows it no more. */
 	bool bGone = false;

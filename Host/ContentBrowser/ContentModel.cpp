@@ -12,6 +12,9 @@ namespace TintmillHost
 {
 namespace
 {
+/** Shorter words are looked for in names alone: a letter or two of a class would find nearly everything. */
+constexpr size_t MinClassWord = 3;
+
 std::string MakeKey(const FString& Text)
 {
 	return ToUtf8(Text.ToLower());
@@ -49,9 +52,12 @@ std::vector<std::string> SplitWords(const FString& Search)
 	return Words;
 }
 
-bool HasAll(const std::string& Key, const std::vector<std::string>& Words)
+/** Whether each word is part of the name or begins the name of the class. */
+bool Fits(const FContentItem& Item, const std::vector<std::string>& Words)
 {
-	return std::all_of(Words.begin(), Words.end(), [&Key](const std::string& Word) { return Key.find(Word) != std::string::npos; });
+	return std::all_of(Words.begin(), Words.end(), [&Item](const std::string& Word) {
+		return Item.SortKey.find(Word) != std::string::npos || (Word.size() >= MinClassWord && Item.ClassKey.starts_with(Word));
+	});
 }
 }
 
@@ -157,7 +163,7 @@ TArray<FContentItemPtr> FContentModel::List(const FString& Path, const FString& 
 	std::vector<FContentItemPtr> FoundFolders;
 	for (const auto& [FolderKey, Folder] : Folders)
 	{
-		if (IsBelow(FolderKey, Key) && HasAll(Folder->SearchKey, Words))
+		if (IsBelow(FolderKey, Key) && Fits(*Folder, Words))
 		{
 			FoundFolders.push_back(Folder);
 		}
@@ -170,7 +176,7 @@ TArray<FContentItemPtr> FContentModel::List(const FString& Path, const FString& 
 	const bool bEverywhere = Path == GetRoot();
 	for (const FContentItemPtr& Asset : Assets)
 	{
-		if (HasAll(Asset->SearchKey, Words) && (bEverywhere || IsBelow(MakeKey(Asset->Asset.PackageName.ToString()), Key)))
+		if (Fits(*Asset, Words) && (bEverywhere || IsBelow(MakeKey(Asset->Asset.PackageName.ToString()), Key)))
 		{
 			Items.Add(Asset);
 		}
@@ -202,7 +208,7 @@ void FContentModel::OnAssetAdded(const FAssetData& Asset)
 	Item->Label = Asset.AssetName.ToString();
 	Item->Asset = Asset;
 	Item->SortKey = MakeKey(Item->Label);
-	Item->SearchKey = Item->SortKey + '\n' + MakeKey(Asset.AssetClass.ToString());
+	Item->ClassKey = MakeKey(Asset.AssetClass.ToString());
 	++Revision;
 }
 
@@ -242,7 +248,6 @@ void FContentModel::OnPathAdded(const FString& Path)
 		Folder->Path = Path;
 		Folder->Label = GetFolderLabel(Path);
 		Folder->SortKey = MakeKey(Folder->Label);
-		Folder->SearchKey = Folder->SortKey;
 		++Revision;
 	}
 }

@@ -43,7 +43,7 @@ public:
 	/** The folders in a folder, by name. */
 	std::vector<FContentItemPtr> GetFolders(const FString& Path) const;
 
-	/** A folder's folders and assets by name; with a search, those anywhere below it of which each word is part of name or class. */
+	/** A folder's folders and assets by name; with a search, those anywhere below it whose name has each of its words or whose class begins with it. */
 	TArray<FContentItemPtr> List(const FString& Path, const FString& Search);
 
 	/** The asset of a path such as "/Game/Looks/Teal.Teal"; null if there is none. */

@@ -31,8 +31,7 @@ constexpr float MarkInset = 3.0f;
 void PaintBox(FSlateWindowElementList& Elements, int32 Layer, const FGeometry& Geometry, const FVector2D& Place, const FVector2D& Size,
 	const FSlateBrush* Brush, const FLinearColor& Color = FLinearColor::White)
 {
-	FSlateDrawElement::MakeBox(
-		Elements, static_cast<uint32>(Layer), Geometry.ToPaintGeometry(Place, Size), Brush, ESlateDrawEffect::None,
+	FSlateDrawElement::MakeBox(Elements, static_cast<uint32>(Layer), Geometry.ToPaintGeometry(Place, Size), Brush, ESlateDrawEffect::None,
 		Color * Brush->TintColor.GetSpecifiedColor());
 }
 }

@@ -2,49 +2,71 @@
 
 #include "Host/Editor/SceneViews.h"
 
+#include "Host/Program/Strings.h"
 #include "Host/Scene/ScenePainter.h"
 
 #include "Editor.h"
 #include "Editor/EditorEngine.h"
+#include "InputCoreTypes.h"
 #include "LevelEditorViewport.h"
+#include "SLevelViewport.h"
 #include "StandIn/CameraMover.h"
+#include "StandIn/LevelEditorPanes.h"
 #include "StandIn/ScenePainter.h"
 
-#include <cmath>
+#include <cstdint>
 
 namespace TintmillHost
 {
 namespace
 {
-/** Degrees that the camera turns for a pixel that the mouse moves. */
-constexpr float OrbitDegrees = 0.35f;
-
-/** How much nearer a notch of the wheel, and a pixel of a drag, brings the camera. */
-constexpr float NotchFactor = 0.88f;
-constexpr float DragFactor = 0.994f;
-
-FSceneCamera MakeCamera(const FViewportClient& Client)
+/** The client as one of the level editor, or null. Only pointers are compared: it may be one of the game, which is no editor client. */
+FLevelEditorViewportClient* FindLevelClient(const FViewportClient& Client)
 {
-	// Only pointers are compared: the client may be one of the game, which is no editor client.
 	for (FLevelEditorViewportClient* const LevelClient : GEditor->GetLevelViewportClients())
 	{
-		if (static_cast<const FViewportClient*>(LevelClient) != &Client)
+		if (static_cast<const FViewportClient*>(LevelClient) == &Client)
 		{
-			continue;
-		}
-		switch (LevelClient->GetViewportType())
-		{
-		case LVT_OrthoYZ:
-			return DefaultSceneCamera(0);
-		case LVT_OrthoXZ:
-			return DefaultSceneCamera(2);
-		case LVT_OrthoXY:
-			return DefaultSceneCamera(3);
-		default:
-			return DefaultSceneCamera(1);
+			return LevelClient;
 		}
 	}
-	return GameSceneCamera();
+	return nullptr;
+}
+
+FSceneCamera MakeCamera(const FLevelEditorViewportClient* Client)
+{
+	if (Client == nullptr)
+	{
+		return GameSceneCamera();
+	}
+	switch (Client->GetViewportType())
+	{
+	case LVT_OrthoYZ:
+		return DefaultSceneCamera(0);
+	case LVT_OrthoXZ:
+		return DefaultSceneCamera(2);
+	case LVT_OrthoXY:
+		return DefaultSceneCamera(3);
+	default:
+		return DefaultSceneCamera(1);
+	}
+}
+
+/** What a client's camera is kept under. */
+std::string GetCameraKey(const FViewportClient& Client, const FLevelEditorViewportClient* LevelClient)
+{
+	std::string Key = std::to_string(reinterpret_cast<std::uintptr_t>(&Client));
+	if (LevelClient != nullptr && StandIn::IsLevelEditorOpen())
+	{
+		for (const TSharedPtr<SLevelViewport>& Pane : StandIn::GetPanes())
+		{
+			if (&Pane->GetLevelViewportClient() == LevelClient)
+			{
+				Key = ToUtf8(Pane->GetConfigKey().ToString());
+			}
+		}
+	}
+	return LevelClient != nullptr ? Key + ":" + std::to_string(static_cast<int>(LevelClient->GetViewportType())) : Key;
 }
 }
 
@@ -52,8 +74,8 @@ FSceneViews::FSceneViews()
 {
 	StandIn::SetScenePainter(
 		[this](FViewportClient& Client, const FIntPoint& Size, FColor* Pixels) { PaintScene(GetCamera(Client), Size, Pixels); });
-	StandIn::SetCameraMover([this](FEditorViewportClient& Client, FViewport& Viewport, const FKey& Axis, float Delta) {
-		return MoveCamera(Client, Viewport, Axis, Delta);
+	StandIn::SetCameraMover([this](FEditorViewportClient& Client, FViewport& Viewport, const FKey& Key, float Delta) {
+		return MoveCamera(Client, Viewport, Key, Delta);
 	});
 }
 
@@ -65,36 +87,47 @@ FSceneViews::~FSceneViews()
 
 FSceneCamera& FSceneViews::GetCamera(FViewportClient& Client)
 {
-	const auto Found = Cameras.find(&Client);
-	return Found != Cameras.end() ? Found->second : Cameras.emplace(&Client, MakeCamera(Client)).first->second;
+	const FLevelEditorViewportClient* const LevelClient = FindLevelClient(Client);
+	const std::string Key = GetCameraKey(Client, LevelClient);
+	const auto Found = Cameras.find(Key);
+	return Found != Cameras.end() ? Found->second : Cameras.emplace(Key, MakeCamera(LevelClient)).first->second;
 }
 
-bool FSceneViews::MoveCamera(FEditorViewportClient& Client, FViewport& Viewport, const FKey& Axis, float Delta)
+void FSceneViews::ResetCamera(FViewportClient& Client)
+{
+	Cameras.erase(GetCameraKey(Client, FindLevelClient(Client)));
+}
+
+void FSceneViews::ShowChart(FViewportClient& Client, bool bShow)
+{
+	// Everything but the view stays as it is, so that the scene comes back as it was.
+	GetCamera(Client).View = bShow ? ESceneView::Chart : MakeCamera(FindLevelClient(Client)).View;
+}
+
+bool FSceneViews::MoveCamera(FEditorViewportClient& Client, FViewport& Viewport, const FKey& Key, float Delta)
 {
 	FSceneCamera& Camera = GetCamera(Client);
-	const bool bAcross = Axis == EKeys::MouseX;
-	if (Axis == EKeys::MouseWheelAxis)
+	if (Key == EKeys::MouseWheelAxis)
 	{
-		ZoomSceneCamera(Camera, std::pow(NotchFactor, Delta));
-		return true;
+		return ZoomPaneCamera(Camera, Delta);
 	}
-	const bool bLeft = Viewport.KeyState(EKeys::LeftMouseButton);
-	const bool bRight = Viewport.KeyState(EKeys::RightMouseButton);
-	const bool bMiddle = Viewport.KeyState(EKeys::MiddleMouseButton);
-	if (bLeft && bRight)
+	if (Key != EKeys::MouseX && Key != EKeys::MouseY)
 	{
-		ZoomSceneCamera(Camera, std::pow(DragFactor, bAcross ? Delta : Delta * 0.5f));
+		return PressKey(Camera, Viewport, Key);
 	}
-	else if (bMiddle || Camera.View != ESceneView::Perspective)
+	const FVector2D Pixels = Drag.Take(Key == EKeys::MouseX ? FVector2D(Delta, 0.0f) : FVector2D(0.0f, Delta));
+	return Pixels != FVector2D(0.0f, 0.0f) && DragPaneCamera(Camera, GetPaneButtons(Viewport), Pixels, Viewport.GetSizeXY().X);
+}
+
+bool FSceneViews::PressKey(FSceneCamera& Camera, const FViewport& Viewport, const FKey& Key)
+{
+	if (Key.IsMouseButton())
 	{
-		const float Share = Delta / static_cast<float>(Viewport.GetSizeXY().X);
-		PanSceneCamera(Camera, bAcross ? Share : 0.0f, bAcross ? 0.0f : -Share);
+		Drag.Begin();
+		return false;
 	}
-	else
-	{
-		// The scene follows the mouse as if it were held.
-		OrbitSceneCamera(Camera, bAcross ? -Delta * OrbitDegrees : 0.0f, bAcross ? 0.0f : -Delta * OrbitDegrees);
-	}
-	return bLeft || bRight || bMiddle;
+	const bool bPlain = !Viewport.KeyState(EKeys::LeftControl) && !Viewport.KeyState(EKeys::RightControl)
+		&& !GetPaneButtons(Viewport).bAlt && !Viewport.KeyState(EKeys::LeftShift) && !Viewport.KeyState(EKeys::RightShift);
+	return Key == EKeys::F && bPlain && FramePaneCamera(Camera);
 }
 }

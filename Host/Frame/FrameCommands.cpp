@@ -19,7 +19,7 @@ FFrameCommands::FFrameCommands()
 	Add(NextPane, TEXT("NextPane"), LOCTEXT("NextPane", "Next Viewport"),
 		LOCTEXT("NextPane_ToolTip", "Makes the next viewport the active one"), FInputChord(EKeys::F6));
 	Add(PreviousPane, TEXT("PreviousPane"), LOCTEXT("PreviousPane", "Previous Viewport"),
-		LOCTEXT("PreviousPane_ToolTip", "Makes the viewport before the active one"), FInputChord(EModifierKey::Shift, EKeys::F6));
+		LOCTEXT("PreviousPane_ToolTip", "Makes the previous viewport the active one"), FInputChord(EModifierKey::Shift, EKeys::F6));
 	Add(Maximize, TEXT("Maximize"), LOCTEXT("Maximize", "Maximize or Restore Viewport"),
 		LOCTEXT("Maximize_ToolTip", "Lets the active viewport fill its tab, or shows all viewports of the tab again"),
 		FInputChord(EModifierKey::Alt, EKeys::M));

@@ -16,6 +16,9 @@
 #include "Widgets/SNullWidget.h"
 #include "Widgets/Text/STextBlock.h"
 
+#include <algorithm>
+#include <iterator>
+
 namespace TintmillHost
 {
 void STabHead::Construct(const FArguments& InArgs, const FTabLook& InLook)

@@ -191,10 +191,11 @@ void WriteGalleryHtml(
 	WriteFacts(Page, Steps, Log);
 	Page << "</header>\n<main>\n" << Body.str();
 	WriteLog(Page, Log);
-	Page << "</main>\n<dialog id=\"view\" aria-label=\"Enlarged picture\"><div class=\"stage\"></div><p class=\"below\"></p>"
-		 << "<button type=\"button\" class=\"to-previous\" aria-label=\"Previous picture\">&#x2039;</button>"
-		 << "<button type=\"button\" class=\"to-next\" aria-label=\"Next picture\">&#x203A;</button>"
-		 << "<button type=\"button\" class=\"to-close\" aria-label=\"Close\">&#x2715;</button></dialog>\n<script>\n"
-		 << GalleryScript << "</script>\n</body>\n</html>\n";
+	Page
+		<< "</main>\n<dialog id=\"view\" aria-label=\"Enlarged picture\"><div class=\"stage\" tabindex=\"-1\" autofocus=\"autofocus\"></div><p class=\"below\"></p>"
+		<< "<button type=\"button\" class=\"to-previous\" aria-label=\"Previous picture\">&#x2039;</button>"
+		<< "<button type=\"button\" class=\"to-next\" aria-label=\"Next picture\">&#x203A;</button>"
+		<< "<button type=\"button\" class=\"to-close\" aria-label=\"Close\">&#x2715;</button></dialog>\n<script>\n"
+		<< GalleryScript << "</script>\n</body>\n</html>\n";
 }
 }

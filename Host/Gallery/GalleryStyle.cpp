@@ -48,7 +48,8 @@ code { font: .8rem/1.5 "Roboto Mono", "DejaVu Sans Mono", Consolas, monospace; c
 .filter label { display: flex; gap: .35rem; align-items: center; cursor: pointer; white-space: nowrap }
 .filter input[type=checkbox] { accent-color: #9a9a9a; margin: 0 }
 .filter output { color: #9a9a9a }
-.lines { margin: 0 0 2.5rem; padding: .7rem .9rem; max-height: 75vh; overflow: auto; list-style: none; background: #181818; border: 1px solid #111; border-radius: 5px; font: .8rem/1.55 "Roboto Mono", "DejaVu Sans Mono", Consolas, monospace; color: #b9b9b9; white-space: pre-wrap; overflow-wrap: anywhere; tab-size: 4 }
+.lines { margin: 0 0 2.5rem; padding: .7rem .9rem; max-height: 75vh; overflow: auto; list-style: none; background: #181818; border: 1px solid #111; border-radius: 5px; font: .8rem/1.55 "Roboto Mono", "DejaVu Sans Mono", Consolas, monospace; color: #b9b9b9; overflow-wrap: anywhere; tab-size: 4 }
+.lines li { white-space: pre-wrap }
 .command { color: #f4f4f4 }
 .lines .command::before { content: "> "; color: #8a8a8a }
 .output { color: #d4d4d4 }
@@ -58,7 +59,7 @@ code { font: .8rem/1.5 "Roboto Mono", "DejaVu Sans Mono", Consolas, monospace; c
 .log { color: #a9a9a9 }
 .verbose { color: #7d7d7d }
 dialog { position: fixed; inset: 0; width: 100vw; height: 100vh; max-width: none; max-height: none; margin: 0; padding: 0; border: 0; background: #1c1c1c; color: #d4d4d4; overflow: hidden }
-.stage { position: absolute; inset: 10px 10px 52px; display: flex; overflow: auto }
+.stage { position: absolute; inset: 10px 10px 52px; display: flex; overflow: auto; outline: none }
 .stage .shown { margin: auto; flex: none; background: none }
 .stage .enlarge { display: none }
 .stage .pic { cursor: zoom-in }

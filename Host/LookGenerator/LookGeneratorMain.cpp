@@ -1,12 +1,13 @@
 // Copyright The Tintmill authors. All rights reserved.
 
+#include "Host/LookGenerator/ChartWriter.h"
 #include "Host/LookGenerator/LookWriters.h"
 
 #include <cstdio>
 #include <filesystem>
 #include <fstream>
 
-// Writes the demo project's looks: LookGenerator Host/DemoProject/Content/Looks
+// Writes the demo project's looks, and the chart in the folder Textures beside: LookGenerator Host/DemoProject/Content/Looks
 
 namespace LookGeneratorPrivate
 {
@@ -40,6 +41,7 @@ int main(int ArgumentCount, char** Arguments)
 		&& LookGeneratorPrivate::Save(
 			Folder / "BleachBypass.clf", WriteClfLook("tintmill-bleach-bypass", "Bleach bypass for display values", &BleachBypass, 21))
 		&& LookGeneratorPrivate::Save(Folder / "Monochrome.cube", WriteCurveAndCubeLook(&MonochromeCurve, 64, &Monochrome, 9))
-		&& LookGeneratorPrivate::Save(Folder / "FalseColor.spi3d", WriteSpi3DLook(&FalseColor, 32));
+		&& LookGeneratorPrivate::Save(Folder / "FalseColor.spi3d", WriteSpi3DLook(&FalseColor, 32))
+		&& LookGeneratorPrivate::Save(Folder.parent_path() / "Textures" / "GradingChart.png", WriteChart());
 	return bSaved ? 0 : 2;
 }

@@ -26,6 +26,9 @@ constexpr float NarrowestText = 80.0f;
 /** What a box takes beside its text, and the space around it. */
 constexpr float WidthBesideText = 100.0f;
 
+/** The line at the bottom of the window stays in sight. */
+const FMargin Margin(10.0f, 10.0f, 10.0f, 30.0f);
+
 int32 GetNumBoxes(const TArray<TSharedRef<SNoticeBox>>& Boxes)
 {
 	return std::min(Boxes.Num(), MaxBoxes);
@@ -38,7 +41,7 @@ void SNoticeList::Construct(const FArguments&)
 	ChildSlot
 	.HAlign(HAlign_Right)
 	.VAlign(VAlign_Bottom)
-	.Padding(10.0f)
+	.Padding(Margin)
 	[
 		SAssignNew(Column, SVerticalBox)
 		.Visibility(EVisibility::SelfHitTestInvisible)

@@ -106,6 +106,11 @@ void SOutputLog::ClearLog()
 	LinesWidget->ScrollToEnd();
 }
 
+FReply SOutputLog::OnFocusReceived(const FGeometry&, const FFocusEvent& InFocusEvent)
+{
+	return FReply::Handled().SetUserFocus(LinesWidget.ToSharedRef(), InFocusEvent.GetCause());
+}
+
 TSharedRef<SWidget> SOutputLog::MakeToolBar()
 {
 	// clang-format off

@@ -43,6 +43,9 @@ public:
 	/** The text of the log. */
 	const TSharedPtr<SLogLines>& GetLines() const { return LinesWidget; }
 
+	virtual bool SupportsKeyboardFocus() const override { return true; }
+	virtual FReply OnFocusReceived(const FGeometry& MyGeometry, const FFocusEvent& InFocusEvent) override;
+
 private:
 	TSharedRef<SWidget> MakeToolBar();
 	TSharedRef<SWidget> MakeFilterMenu();

@@ -152,6 +152,18 @@ void DrawLayers(FIconCanvas& Canvas)
 	}
 }
 
+void DrawLog(FIconCanvas& Canvas)
+{
+	Canvas.Rect(0.14, 0.08, 0.86, 0.92, 0.05);
+	Canvas.Shade(Canvas.Tint(0.85, 0.86, 0.87));
+	for (int Line = 0; Line < 4; ++Line)
+	{
+		const double Y = 0.2 + 0.17 * Line;
+		Canvas.Rect(0.25, Y, Line == 3 ? 0.55 : 0.75, Y + 0.08);
+		Canvas.Fill(Canvas.Tint(0.25, 0.26, 0.28));
+	}
+}
+
 /** Four small panes, or one, as lines. */
 void DrawPanes(FIconCanvas& Canvas, const FPaintColor& Color, bool bFour)
 {
@@ -205,6 +217,9 @@ void PaintIcon(cairo_t* Context, const FShape& Shape)
 		break;
 	case EBrushShape::Layers:
 		DrawLayers(Canvas);
+		break;
+	case EBrushShape::Log:
+		DrawLog(Canvas);
 		break;
 	default:
 		break;

@@ -272,6 +272,7 @@ void PaintShape(cairo_t* Context, const FShape& Shape)
 	case EBrushShape::Simulate:
 	case EBrushShape::Map:
 	case EBrushShape::Layers:
+	case EBrushShape::Log:
 		PaintIcon(Context, Shape);
 		break;
 	case EBrushShape::ViewLit:

@@ -46,7 +46,10 @@ std::variant<FHostOptions, FHostExit> ParseCommandLine(const std::vector<std::st
 	CLI::Option* const ResumeOption = App.add_option("--resume", Options.Resume)->group("");
 	App.add_option("--out", Options.OutDir, "Folder for pictures and pages")->capture_default_str();
 	App.add_option("--size", Size, "Size of one pane in pixels")->capture_default_str();
-	App.add_option("--window", WindowSize, "Size of the editor's window in pixels")->capture_default_str();
+	CLI::Option* const WindowOption =
+		App.add_option("--window", WindowSize, "Size of the editor's window in pixels")->capture_default_str();
+	App.add_option("--scale", Options.Scale, "Pixels for a unit of the window's user interface, from 0.5 to 4; as the display asks for if left out")
+		->check(CLI::Range(0.5, 4.0));
 	App.add_flag("--list", Options.bList, "Print what is registered once everything has started, and end");
 
 	try
@@ -69,6 +72,7 @@ std::variant<FHostOptions, FHostExit> ParseCommandLine(const std::vector<std::st
 		return FHostExit{2, std::string(Error.what()) + "\n"};
 	}
 
+	Options.bWindowSizeGiven = WindowOption->count() > 0;
 	Options.Arguments = Arguments;
 	if (ResumeOption->count() > 0)
 	{

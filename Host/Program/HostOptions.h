@@ -53,6 +53,12 @@ struct FHostOptions
 	int WindowWidth = 1280;
 	int WindowHeight = 720;
 
+	/** Whether that size was asked for; if not, a window on a display has the size that it had last. */
+	bool bWindowSizeGiven = false;
+
+	/** Pixels for a unit of the user interface in a window on a display; 0 for what the display asks for. */
+	double Scale = 0.0;
+
 	/** Print what is registered with the engine once everything has started, and end. */
 	bool bList = false;
 };

@@ -3,6 +3,7 @@
 #include "Host/Program/HostProgram.h"
 
 #include "Host/Commands/AssetCommands.h"
+#include "Host/Commands/BrowserCommands.h"
 #include "Host/Commands/EditorCommands.h"
 #include "Host/Commands/FileCommands.h"
 #include "Host/Commands/ListCommands.h"
@@ -103,6 +104,7 @@ void FHostProgram::TickFrame(double Seconds)
 	RedrawChangedPanes();
 	EngineLoop.TickFrame(static_cast<float>(Seconds));
 	DrawResizedPanes();
+	ConsoleRunner.RunEntered();
 	KeepState();
 }
 
@@ -118,6 +120,7 @@ void FHostProgram::TickEditor(double Seconds)
 		}
 		EngineLoop.TickFrame(static_cast<float>(FrameSeconds));
 	}
+	ConsoleRunner.RunEntered();
 	KeepState();
 }
 
@@ -179,7 +182,13 @@ FEditorWindow& FHostProgram::GetWindow()
 {
 	if (!Window)
 	{
-		Window.emplace(FIntPoint(Options.WindowWidth, Options.WindowHeight), Project.GetName(),
+		FFrameContent Content;
+		Content.ProjectName = Project.GetName();
+		Content.ProjectFolder = Project.GetFolder().string();
+		Content.Log = &Log;
+		Content.Console = ConsoleRunner.MakeLink();
+		Content.IsReadOnly = [this] { return !Project.GetReadOnlySentence().empty(); };
+		Window.emplace(FIntPoint(Options.WindowWidth, Options.WindowHeight), Content,
 			[this](const FSlateBrush& Brush, const FIntPoint& DeviceSize) { return LookBuilders->FindPicture(Brush, DeviceSize); });
 		ResizePanes();
 		// The first frame lays the panes out, the second draws them in their size.
@@ -191,6 +200,7 @@ FEditorWindow& FHostProgram::GetWindow()
 void FHostProgram::RegisterCommands()
 {
 	AddAssetCommands(Console, *this);
+	AddBrowserCommands(Console, *this);
 	AddEditorCommands(Console, *this);
 	AddFileCommands(Console, *this);
 	AddListCommands(Console);

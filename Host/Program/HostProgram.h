@@ -8,6 +8,7 @@
 #include "Host/Editor/SceneViews.h"
 #include "Host/Gallery/GalleryPage.h"
 #include "Host/LookBuilder/LookBuilderWindows.h"
+#include "Host/OutputLog/ConsoleRunner.h"
 #include "Host/Program/ContentWatch.h"
 #include "Host/Program/EditorState.h"
 #include "Host/Program/HostLog.h"
@@ -55,6 +56,9 @@ public:
 
 	/** What one sees of play. */
 	FPlayScene& GetPlayScene() { return *PlayScene; }
+
+	/** What the run was asked to do. */
+	const FHostOptions& GetOptions() const { return Options; }
 
 	/** The folder for pictures and pages. */
 	const std::filesystem::path& GetOutDir() const { return Options.OutDir; }
@@ -104,6 +108,7 @@ private:
 	FHostLog Log;
 	FProject Project;
 	FConsole Console;
+	FConsoleRunner ConsoleRunner{Console};
 	FGalleryPage Gallery;
 	FTourRun TourRun{Console, Gallery, Log};
 	std::vector<std::string> ArgumentsToGoOn;

@@ -2,8 +2,6 @@
 
 #include "Host/Program/Strings.h"
 
-#include <algorithm>
-
 namespace TintmillHost
 {
 std::string ToUtf8(const FString& String)
@@ -31,10 +29,6 @@ FString PathToEngine(const std::filesystem::path& Path)
 
 std::string ToLowerCase(const std::string& String)
 {
-	if (std::any_of(String.begin(), String.end(), [](char Character) { return static_cast<unsigned char>(Character) >= 0x80; }))
-	{
-		return ToUtf8(FromUtf8(String).ToLower());
-	}
 	std::string Lowered = String;
 	for (char& Character : Lowered)
 	{

@@ -23,6 +23,6 @@ std::string PathToUtf8(const std::filesystem::path& Path);
 /** A path as the engine writes paths: with forward slashes. */
 FString PathToEngine(const std::filesystem::path& Path);
 
-/** UTF-8 in lower case, for comparing whatever the case. */
+/** The string with A to Z in lower case, for comparing whatever the case. */
 std::string ToLowerCase(const std::string& String);
 }

@@ -51,7 +51,40 @@ void OrbitSceneCamera(FSceneCamera& InOutCamera, float YawDegrees, float PitchDe
 		return;
 	}
 	InOutCamera.YawDegrees = std::fmod(InOutCamera.YawDegrees + YawDegrees, 360.0f);
-	InOutCamera.PitchDegrees = std::min(std::max(InOutCamera.PitchDegrees + PitchDegrees, 2.0f), 85.0f);
+	// One that looks upwards already comes down slowly instead of jumping.
+	const float Lowest = std::min(2.0f, InOutCamera.PitchDegrees);
+	InOutCamera.PitchDegrees = std::min(std::max(InOutCamera.PitchDegrees + PitchDegrees, Lowest), 85.0f);
+}
+
+void LookSceneCamera(FSceneCamera& InOutCamera, float YawDegrees, float PitchDegrees)
+{
+	if (InOutCamera.View != ESceneView::Perspective)
+	{
+		return;
+	}
+	const FSceneVector Place = InOutCamera.Target + SceneCameraAxes(InOutCamera).Forward * -InOutCamera.Distance;
+	InOutCamera.YawDegrees = std::fmod(InOutCamera.YawDegrees + YawDegrees, 360.0f);
+	InOutCamera.PitchDegrees = std::min(std::max(InOutCamera.PitchDegrees + PitchDegrees, -60.0f), 85.0f);
+	InOutCamera.Target = Place + SceneCameraAxes(InOutCamera).Forward * InOutCamera.Distance;
+}
+
+void WalkSceneCamera(FSceneCamera& InOutCamera, float Meters)
+{
+	if (InOutCamera.View == ESceneView::Perspective)
+	{
+		const float Yaw = InOutCamera.YawDegrees * 0.01745329252f;
+		InOutCamera.Target = InOutCamera.Target + FSceneVector{std::cos(Yaw), std::sin(Yaw), 0.0f} * Meters;
+	}
+}
+
+void KeepSceneCameraAboveFloor(FSceneCamera& InOutCamera)
+{
+	constexpr float LowestMeters = 0.1f;
+	if (InOutCamera.View == ESceneView::Perspective)
+	{
+		const float Height = InOutCamera.Target.Z - SceneCameraAxes(InOutCamera).Forward.Z * InOutCamera.Distance;
+		InOutCamera.Target.Z += std::max(0.0f, LowestMeters - Height);
+	}
 }
 
 void ZoomSceneCamera(FSceneCamera& InOutCamera, float Factor)

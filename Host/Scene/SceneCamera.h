@@ -45,8 +45,17 @@ FSceneCamera DefaultSceneCamera(int PaneIndex);
 /** The camera of the game's own picture: lower and nearer than the editor's. */
 FSceneCamera GameSceneCamera();
 
-/** Turns a perspective camera around its target; the pitch stays between 2 and 85 degrees. Flat views do not turn. */
+/** Turns a perspective camera around its target; the pitch goes up to 85 degrees, and down to 2 unless it is lower already. Flat views do not turn. */
 void OrbitSceneCamera(FSceneCamera& InOutCamera, float YawDegrees, float PitchDegrees);
+
+/** Turns a perspective camera where it stands, to the right and downwards; the pitch stays between -60 and 85 degrees. */
+void LookSceneCamera(FSceneCamera& InOutCamera, float YawDegrees, float PitchDegrees);
+
+/** Moves a perspective camera over the floor, forwards by meters. */
+void WalkSceneCamera(FSceneCamera& InOutCamera, float Meters);
+
+/** Lifts a perspective camera that came below the floor. */
+void KeepSceneCameraAboveFloor(FSceneCamera& InOutCamera);
 
 /** Moves nearer (Factor below 1) or away (above 1), within 1 to 40 meters. */
 void ZoomSceneCamera(FSceneCamera& InOutCamera, float Factor);

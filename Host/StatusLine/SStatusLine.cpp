@@ -116,12 +116,14 @@ void SStatusLine::Tick(const FGeometry&, const double, const float)
 
 void SStatusLine::AddWords(const TSharedRef<SHorizontalBox>& Row, std::string SStatusLine::*Words)
 {
+	const auto GetVisibility = [this, Words] { return ShownIf(!(this->*Words).empty()); };
 	// clang-format off
 	Row->AddSlot()
 	.AutoWidth()
 	.Padding(0.0f, 5.0f)
 	[
 		SNew(SBorder)
+		.Visibility_Lambda(GetVisibility)
 		.BorderImage(FCoreStyle::Get().GetBrush("Menu.Separator"))
 		.Padding(FMargin(0.5f, 0.0f))
 	];
@@ -131,6 +133,7 @@ void SStatusLine::AddWords(const TSharedRef<SHorizontalBox>& Row, std::string SS
 	.Padding(8.0f, 0.0f)
 	[
 		SNew(STextBlock)
+		.Visibility_Lambda(GetVisibility)
 		.Text_Lambda([this, Words] { return FText::FromString(FromUtf8(this->*Words)); })
 	];
 	// clang-format on

@@ -5,6 +5,9 @@
 #include "Host/Console/Console.h"
 
 #include <algorithm>
+#include <set>
+#include <string>
+#include <vector>
 
 namespace TintmillHost
 {
@@ -28,19 +31,19 @@ The page, FOLDER/index.html, shows every picture with its caption, its commands 
 Commands:
 )";
 
-/** The titles of the groups in alphabetical order; what has no group comes last. */
+/** The titles of the groups in alphabetical order, the empty one of commands without a group last. */
 std::vector<std::string> ListGroups(const FConsole& Console)
 {
-	std::vector<std::string> Groups;
+	std::set<std::string> Titles;
 	for (const auto& [Name, Command] : Console.GetCommands())
 	{
-		if (!Command.Group.empty() && std::find(Groups.begin(), Groups.end(), Command.Group) == Groups.end())
-		{
-			Groups.push_back(Command.Group);
-		}
+		Titles.insert(Command.Group);
 	}
-	std::sort(Groups.begin(), Groups.end());
-	Groups.emplace_back();
+	std::vector<std::string> Groups(Titles.begin(), Titles.end());
+	if (!Groups.empty() && Groups.front().empty())
+	{
+		std::rotate(Groups.begin(), Groups.begin() + 1, Groups.end());
+	}
 	return Groups;
 }
 }

@@ -12,7 +12,7 @@
 
 namespace TintmillHost
 {
-FEditorWindow::FEditorWindow(const FIntPoint& InSize, const std::string& ProjectName, FBrushPictures MoreBrushPictures)
+FEditorWindow::FEditorWindow(const FIntPoint& InSize, const FFrameContent& Content, FBrushPictures MoreBrushPictures)
 	: Painter(MakeDesktopPainter())
 	, Size(InSize)
 {
@@ -30,11 +30,12 @@ FEditorWindow::FEditorWindow(const FIntPoint& InSize, const std::string& Project
 	// clang-format off
 	Window = SNew(SWindow)
 		.AutoCenter(EAutoCenter::None)
+		.Title(FText::FromString(FromUtf8(Content.ProjectName + " - Tintmill Editor")))
 		.CreateTitleBar(false)
 		.ClientSize(FVector2D(static_cast<float>(Size.X), static_cast<float>(Size.Y)))
 		[
-			SNew(SEditorFrame)
-			.ProjectName(FText::FromString(FromUtf8(ProjectName)))
+			SAssignNew(Frame, SEditorFrame)
+			.Content(Content)
 			.LevelEditor(LevelEditor)
 		];
 	// clang-format on
@@ -47,6 +48,7 @@ FEditorWindow::~FEditorWindow()
 {
 	Window->GetOnWindowActivatedEvent().RemoveAll(this);
 	Window->SetContent(SNullWidget::NullWidget);
+	Frame.Reset();
 	if (FSlateApplication::IsInitialized())
 	{
 		FSlateApplication::Get().DestroyWindowImmediately(Window.ToSharedRef());

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "CoreMinimal.h"
+#include "Host/Frame/FrameContent.h"
 #include "Host/Picture/IDesktopPainter.h"
 #include "Host/Ui/LookThumbnails.h"
 #include "Host/Ui/PanePictures.h"
@@ -16,12 +17,14 @@ class SWindow;
 
 namespace TintmillHost
 {
+class SEditorFrame;
+
 /** The editor's window while it lives: the open level editor with its panes, and the menus above it. */
 class FEditorWindow
 {
 public:
 	/** Opens the window in a size in pixels; the level editor must be open. MoreBrushPictures knows brushes that are no thumbnails. */
-	FEditorWindow(const FIntPoint& Size, const std::string& ProjectName, FBrushPictures MoreBrushPictures);
+	FEditorWindow(const FIntPoint& Size, const FFrameContent& Content, FBrushPictures MoreBrushPictures);
 
 	/** Closes the window with its menus; the level editor stays open. */
 	~FEditorWindow();
@@ -41,6 +44,9 @@ public:
 	/** Brings a picture of the window without the mouse, which UpdatePicture filled last, up to date; returns the areas that changed. */
 	TArray<FIntRect> UpdatePicture(FPicture& InOutPicture);
 
+	/** The window's content. */
+	SEditorFrame& GetFrame() const { return *Frame; }
+
 	/** The window as Slate knows it. */
 	TSharedRef<SWindow> GetSlateWindow() const { return Window.ToSharedRef(); }
 
@@ -56,5 +62,6 @@ private:
 	FLookThumbnails Thumbnails;
 	FIntPoint Size;
 	TSharedPtr<SWindow> Window;
+	TSharedPtr<SEditorFrame> Frame;
 };
 }

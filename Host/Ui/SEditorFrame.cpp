@@ -2,110 +2,243 @@
 
 #include "Host/Ui/SEditorFrame.h"
 
-#include "Brushes/SlateColorBrush.h"
-#include "LevelEditor.h"
-#include "LevelEditorViewport.h"
-#include "Modules/ModuleManager.h"
-#include "Rendering/DrawElements.h"
-#include "SLevelViewport.h"
-#include "StandIn/BrushShape.h"
+#include "Host/ContentBrowser/SContentBrowser.h"
+#include "Host/Editor/Maps.h"
+#include "Host/Frame/FrameMenus.h"
+#include "Host/Frame/SPaneLines.h"
+#include "Host/Frame/STabStrip.h"
+#include "Host/Notices/SNoticeList.h"
+#include "Host/OutputLog/SOutputLog.h"
+#include "Host/Program/Strings.h"
+#include "Host/StatusLine/SStatusLine.h"
+
+#include "Framework/Application/SlateApplication.h"
 #include "StandIn/LevelEditorPanes.h"
-#include "Styling/CoreStyle.h"
+#include "ToolMenus.h"
+#include "Widgets/Images/SImage.h"
 #include "Widgets/Layout/SBorder.h"
+#include "Widgets/Layout/SBox.h"
+#include "Widgets/Layout/SSplitter.h"
 #include "Widgets/SBoxPanel.h"
 #include "Widgets/SOverlay.h"
 #include "Widgets/Text/STextBlock.h"
+
+#define LOCTEXT_NAMESPACE "TintmillHost"
 
 namespace TintmillHost
 {
 namespace
 {
-/** An sRGB color as Slate speaks of it. */
-FLinearColor Srgb(uint8 Red, uint8 Green, uint8 Blue)
+const FName BrowserPanel("ContentBrowser");
+const FName LogPanel("OutputLog");
+
+// Heights of the window, in Slate units, below which a part hides, so that the panes keep some room.
+constexpr float BottomHeight = 400.0f;
+constexpr float ToolBarHeight = 280.0f;
+constexpr float TabRowHeight = 220.0f;
+constexpr float StatusHeight = 160.0f;
+
+/** Widths below which the project's name hides. */
+constexpr float NameWidth = 420.0f;
+
+constexpr float MinBottomShare = 0.05f;
+constexpr float MaxBottomShare = 0.95f;
+
+EVisibility ShownIf(bool bShown)
 {
-	return FLinearColor(FColor(Red, Green, Blue, 255));
+	return bShown ? EVisibility::Visible : EVisibility::Collapsed;
 }
 
-const FSlateBrush* TabWellBrush()
+FName TabName(int32 Tab)
 {
-	static const FSlateColorBrush Brush(Srgb(0x24, 0x24, 0x24));
-	return &Brush;
+	return FName(*FString::Printf(TEXT("Viewport %d"), Tab));
 }
 
-const FSlateBrush* TabBrush()
+int32 TabNumber(FName Name)
 {
-	static const FSlateColorBrush Brush(Srgb(0x3E, 0x3E, 0x3E));
-	return &Brush;
+	return FCString::Atoi(*Name.ToString().RightChop(9));
 }
 
-void PaintLine(FSlateWindowElementList& ElementList, int32 LayerId, const FGeometry& Pane, const FLinearColor& Color)
+/** "Stage" for /Game/Maps/Stage. */
+FText GetLevelName()
 {
-	static const StandIn::FShapeBrush Frame(StandIn::EBrushShape::RoundedFrame, FVector2D(1.0f, 1.0f), FLinearColor::White);
-	FSlateDrawElement::MakeBox(ElementList, static_cast<uint32>(LayerId), Pane.ToPaintGeometry(), &Frame, ESlateDrawEffect::None, Color);
+	const std::string Map = GetOpenMap();
+	return FText::FromString(FromUtf8(Map.substr(Map.rfind('/') + 1)));
 }
 }
 
-void SPaneLines::Construct(const FArguments&)
+SEditorFrame::~SEditorFrame()
 {
-	SetCanTick(false);
-}
-
-int32 SPaneLines::OnPaint(const FPaintArgs&, const FGeometry&, const FSlateRect&, FSlateWindowElementList& OutDrawElements, int32 LayerId,
-	const FWidgetStyle&, bool) const
-{
-	if (!StandIn::IsLevelEditorOpen())
+	if (FSlateApplication::IsInitialized())
 	{
-		return LayerId;
+		FSlateApplication::Get().SetUnhandledKeyDownEventHandler(FOnKeyEvent());
 	}
-	const TSharedPtr<SLevelViewport> Active =
-		FModuleManager::GetModuleChecked<FLevelEditorModule>(TEXT("LevelEditor")).GetFirstActiveLevelViewport();
-	for (const TSharedPtr<SLevelViewport>& Pane : StandIn::GetPanes())
-	{
-		// A maximized pane is the only one seen.
-		if (Pane->IsVisible())
-		{
-			const bool bActive = Pane == Active && StandIn::GetPanes().Num() > 1;
-			PaintLine(OutDrawElements, LayerId, Pane->GetCachedGeometry(),
-				bActive ? FCoreStyle::Get().GetSlateColor("SelectionColor").GetSpecifiedColor() : Srgb(0x14, 0x14, 0x14));
-		}
-	}
-	return LayerId;
-}
-
-FVector2D SPaneLines::ComputeDesiredSize(float) const
-{
-	return FVector2D(0.0f, 0.0f);
+	FrameMenus::Unregister();
 }
 
 void SEditorFrame::Construct(const FArguments& InArgs)
 {
+	Content = InArgs._Content;
+	BindCommands();
+	FrameMenus::Register(SharedThis(this));
+	FSlateApplication::Get().SetUnhandledKeyDownEventHandler(FOnKeyEvent::CreateSP(this, &SEditorFrame::OnUnhandledKey));
 	// clang-format off
 	ChildSlot
 	[
-		SNew(SVerticalBox)
-		+ SVerticalBox::Slot()
-		.AutoHeight()
+		SNew(SOverlay)
+		+ SOverlay::Slot()
 		[
-			SNew(SBorder)
-			.BorderImage(TabWellBrush())
-			.Padding(FMargin(4.0f, 4.0f, 4.0f, 0.0f))
-			.HAlign(HAlign_Left)
+			SNew(SVerticalBox)
+			+ SVerticalBox::Slot()
+			.AutoHeight()
 			[
-				SNew(SBorder)
-				.BorderImage(TabBrush())
-				.Padding(FMargin(12.0f, 3.0f))
-				[
-					SNew(STextBlock)
-					.Text(InArgs._ProjectName)
-				]
+				MakeTabRow()
+			]
+			+ SVerticalBox::Slot()
+			.AutoHeight()
+			[
+				MakeMenuRow()
+			]
+			+ SVerticalBox::Slot()
+			.AutoHeight()
+			[
+				MakeToolBar()
+			]
+			+ SVerticalBox::Slot()
+			.FillHeight(1.0f)
+			[
+				MakeMiddle(InArgs._LevelEditor.ToSharedRef())
+			]
+			+ SVerticalBox::Slot()
+			.AutoHeight()
+			[
+				MakeStatusLine()
 			]
 		]
+		+ SOverlay::Slot()
+		[
+			SNew(SFocusLine)
+		]
+		+ SOverlay::Slot()
+		.HAlign(HAlign_Fill)
+		.VAlign(VAlign_Fill)
+		.Padding(FMargin(0.0f, 0.0f, 0.0f, 24.0f))
+		[
+			SAssignNew(Notices, SNoticeList)
+		]
+	];
+	// clang-format on
+}
+
+EVisibility SEditorFrame::ShowAbove(float Height) const
+{
+	// Before the first layout there is no height, and everything counts as having room.
+	const float MyHeight = GetCachedGeometry().GetLocalSize().Y;
+	return ShownIf(MyHeight <= 0.0f || MyHeight >= Height);
+}
+
+TSharedRef<SWidget> SEditorFrame::MakeTabRow()
+{
+	FTabLook Level;
+	Level.Name = "Level";
+	Level.Label = TAttribute<FText>::Create(TAttribute<FText>::FGetter::CreateStatic(&GetLevelName));
+	Level.Icon = Style.GetSmallIcon("Map");
+	// clang-format off
+	return SNew(SBorder)
+		.BorderImage(FFrameStyle::GetTabWell())
+		.Padding(FMargin(0.0f))
+		.Visibility(this, &SEditorFrame::ShowAbove, TabRowHeight)
+		[
+			SNew(SHorizontalBox)
+			+ SHorizontalBox::Slot()
+			.AutoWidth()
+			.VAlign(VAlign_Center)
+			.Padding(FMargin(8.0f, 2.0f, 6.0f, 0.0f))
+			[
+				SNew(SBox)
+				.WidthOverride(16.0f)
+				.HeightOverride(16.0f)
+				[
+					SNew(SImage).Image(Style.GetSmallIcon("Layers"))
+				]
+			]
+			+ SHorizontalBox::Slot()
+			.FillWidth(1.0f)
+			[
+				SNew(STabStrip, std::vector<FTabLook>{Level}).Front(FName("Level"))
+			]
+		];
+	// clang-format on
+}
+
+TSharedRef<SWidget> SEditorFrame::MakeMenuRow()
+{
+	MenuBar = UToolMenus::Get()->GenerateWidget(FrameMenus::MainMenu, FToolMenuContext(CommandList));
+	// clang-format off
+	return SNew(SBorder)
+		.BorderImage(FFrameStyle::GetPanel())
+		.Padding(FMargin(2.0f, 2.0f, 4.0f, 2.0f))
+		[
+			SNew(SHorizontalBox)
+			+ SHorizontalBox::Slot()
+			.FillWidth(1.0f)
+			.HAlign(HAlign_Left)
+			[
+				MenuBar.ToSharedRef()
+			]
+			+ SHorizontalBox::Slot()
+			.AutoWidth()
+			.VAlign(VAlign_Center)
+			[
+				SNew(SBorder)
+				.BorderImage(FFrameStyle::GetNameBox())
+				.Padding(FMargin(10.0f, 1.0f, 10.0f, 2.0f))
+				.Visibility_Lambda([this]() { return ShownIf(GetCachedGeometry().GetLocalSize().X >= NameWidth); })
+				[
+					SNew(STextBlock)
+					.Text(FText::FromString(FromUtf8(Content.ProjectName)))
+				]
+			]
+		];
+	// clang-format on
+}
+
+TSharedRef<SWidget> SEditorFrame::MakeToolBar()
+{
+	// clang-format off
+	return SNew(SBorder)
+		.BorderImage(FFrameStyle::GetPanel())
+		.Padding(FMargin(4.0f, 0.0f, 4.0f, 3.0f))
+		.Visibility(this, &SEditorFrame::ShowAbove, ToolBarHeight)
+		[
+			UToolMenus::Get()->GenerateWidget(FrameMenus::ToolBar, FToolMenuContext(CommandList))
+		];
+	// clang-format on
+}
+
+TSharedRef<SWidget> SEditorFrame::MakeLevelArea(const TSharedRef<SWidget>& LevelEditor)
+{
+	std::vector<FTabLook> Tabs;
+	for (int32 Tab = 1; Tab <= 4; ++Tab)
+	{
+		FTabLook Look;
+		Look.Name = TabName(Tab);
+		Look.Label = FText::FromName(TabName(Tab));
+		Look.bClosable = Tab > 1;
+		Look.Visibility = TAttribute<EVisibility>::Create(
+			TAttribute<EVisibility>::FGetter::CreateLambda([Tab]() { return ShownIf(StandIn::GetViewportTabs().Contains(Tab)); }));
+		Tabs.push_back(Look);
+	}
+	// clang-format off
+	return SNew(SVerticalBox)
 		+ SVerticalBox::Slot()
 		.AutoHeight()
 		[
-			SNew(SBorder)
-			.BorderImage(TabBrush())
-			.Padding(FMargin(0.0f, 2.0f))
+			SNew(STabStrip, Tabs)
+			.Visibility_Lambda([]() { return ShownIf(StandIn::IsLevelEditorOpen() && StandIn::GetViewportTabs().Num() > 1); })
+			.Front_Lambda([]() { return TabName(StandIn::GetFrontViewportTab()); })
+			.OnChosen_Lambda([](FName Name) { StandIn::OpenViewportTab(TabNumber(Name), "OnePane"); })
+			.OnClosed_Lambda([](FName Name) { StandIn::CloseViewportTab(TabNumber(Name)); })
 		]
 		+ SVerticalBox::Slot()
 		.FillHeight(1.0f)
@@ -113,14 +246,179 @@ void SEditorFrame::Construct(const FArguments& InArgs)
 			SNew(SOverlay)
 			+ SOverlay::Slot()
 			[
-				InArgs._LevelEditor.ToSharedRef()
+				LevelEditor
 			]
 			+ SOverlay::Slot()
 			[
 				SNew(SPaneLines)
 			]
+		];
+	// clang-format on
+}
+
+void SEditorFrame::AddPanel(const TSharedRef<SVerticalBox>& Column, const FName& Panel, const TSharedRef<SWidget>& Widget)
+{
+	Panels.emplace(Panel, Widget);
+	// clang-format off
+	Column->AddSlot()
+	.FillHeight(1.0f)
+	[
+		SNew(SBox)
+		.Visibility_Lambda([this, Panel]() { return ShownIf(State.FrontTab == ToUtf8(Panel.ToString())); })
+		[
+			Widget
 		]
 	];
 	// clang-format on
 }
+
+TSharedRef<SWidget> SEditorFrame::MakeBottomArea()
+{
+	const auto MakeLook = [this](const FName& Name, const FText& Label, const FSlateBrush* Icon) {
+		FTabLook Look;
+		Look.Name = Name;
+		Look.Label = Label;
+		Look.Icon = Icon;
+		Look.bClosable = true;
+		Look.Visibility = TAttribute<EVisibility>::Create(
+			TAttribute<EVisibility>::FGetter::CreateLambda([this, Name]() { return ShownIf(IsPanelOpen(Name)); }));
+		return Look;
+	};
+	const std::vector<FTabLook> Tabs = {MakeLook(BrowserPanel, Commands.ContentBrowser->GetLabel(), Style.GetSmallIcon("Folder")),
+		MakeLook(LogPanel, Commands.OutputLog->GetLabel(), Style.GetSmallIcon("Log"))};
+	// clang-format off
+	const TSharedRef<SVerticalBox> Column = SNew(SVerticalBox)
+		+ SVerticalBox::Slot()
+		.AutoHeight()
+		[
+			SNew(STabStrip, Tabs)
+			.Front_Lambda([this]() { return FName(*FromUtf8(State.FrontTab)); })
+			.OnChosen_Lambda([this](FName Name) {
+				State.FrontTab = ToUtf8(Name.ToString());
+				Announce();
+			})
+			.OnClosed(this, &SEditorFrame::TogglePanel)
+		];
+	// clang-format on
+	AddPanel(Column, BrowserPanel, SNew(SContentBrowser));
+	if (Content.Log)
+	{
+		AddPanel(Column, LogPanel, SNew(SOutputLog).Log(Content.Log).Console(Content.Console));
+	}
+	return SNew(SBorder)
+		.BorderImage(FFrameStyle::GetPanel())
+		.Padding(FMargin(0.0f))
+		.Visibility(this, &SEditorFrame::GetBottomVisibility)[Column];
 }
+
+TSharedRef<SWidget> SEditorFrame::MakeMiddle(const TSharedRef<SWidget>& LevelEditor)
+{
+	const TSharedRef<SSplitter> Middle = SNew(SSplitter)
+											 .Orientation(Orient_Vertical)
+											 .PhysicalSplitterHandleSize(5.0f)
+											 .MinimumSlotHeight(60.0f)
+											 .OnSplitterFinishedResizing(this, &SEditorFrame::Announce);
+	const auto Share = [this](float (SEditorFrame::*Getter)() const) {
+		return TAttribute<float>::Create(TAttribute<float>::FGetter::CreateSP(this, Getter));
+	};
+	// clang-format off
+	Middle->AddSlot()
+	.Value(Share(&SEditorFrame::GetLevelShare))
+	.OnSlotResized(SSplitter::FOnSlotResized::CreateLambda([](float) {}))
+	[
+		MakeLevelArea(LevelEditor)
+	];
+	Middle->AddSlot()
+	.Value(Share(&SEditorFrame::GetBottomShare))
+	.OnSlotResized(SSplitter::FOnSlotResized::CreateSP(this, &SEditorFrame::OnBottomResized))
+	[
+		MakeBottomArea()
+	];
+	return SNew(SBorder)
+		.BorderImage(FFrameStyle::GetTabWell())
+		.Padding(FMargin(0.0f))
+		[
+			Middle
+		];
+	// clang-format on
+}
+
+TSharedRef<SWidget> SEditorFrame::MakeStatusLine()
+{
+	// clang-format off
+	return SNew(SBox)
+		.Visibility(this, &SEditorFrame::ShowAbove, StatusHeight)
+		[
+			SNew(SStatusLine)
+			.ProjectName(FText::FromString(FromUtf8(Content.ProjectName)))
+			.ProjectFolder(FText::FromString(FromUtf8(Content.ProjectFolder)))
+			.ReadOnly_Lambda([this]() { return Content.IsReadOnly && Content.IsReadOnly(); })
+			.OnNoticesClicked_Lambda([this]() { Notices->ShowAgain(); })
+		];
+	// clang-format on
+}
+
+void SEditorFrame::OnBottomResized(float NewShare)
+{
+	State.BottomShare = FMath::Clamp(NewShare, MinBottomShare, MaxBottomShare);
+}
+
+bool SEditorFrame::IsPanelOpen(const FName& Panel) const
+{
+	return Panels.count(Panel) > 0 && (Panel == BrowserPanel ? State.bContentBrowserOpen : State.bOutputLogOpen);
+}
+
+bool SEditorFrame::IsBottomShown() const
+{
+	return (IsPanelOpen(BrowserPanel) || IsPanelOpen(LogPanel)) && ShowAbove(BottomHeight).IsVisible();
+}
+
+EVisibility SEditorFrame::GetBottomVisibility() const
+{
+	return ShownIf(IsBottomShown());
+}
+
+void SEditorFrame::SetState(const FFrameState& NewState)
+{
+	State.BottomShare =
+		NewState.BottomShare >= MinBottomShare && NewState.BottomShare <= MaxBottomShare ? NewState.BottomShare : State.BottomShare;
+	State.bContentBrowserOpen = NewState.bContentBrowserOpen;
+	State.bOutputLogOpen = NewState.bOutputLogOpen;
+	const FName Wanted(*FromUtf8(NewState.FrontTab));
+	const FName Other = Wanted == BrowserPanel ? LogPanel : BrowserPanel;
+	State.FrontTab = ToUtf8((IsPanelOpen(Wanted) || !IsPanelOpen(Other) ? (Panels.count(Wanted) ? Wanted : BrowserPanel) : Other).ToString());
+}
+
+void SEditorFrame::TogglePanel(FName Panel)
+{
+	FFrameState NewState = State;
+	bool& bOpen = Panel == BrowserPanel ? NewState.bContentBrowserOpen : NewState.bOutputLogOpen;
+	bOpen = !bOpen;
+	if (bOpen)
+	{
+		NewState.FrontTab = ToUtf8(Panel.ToString());
+	}
+	SetState(NewState);
+	Announce();
+}
+
+void SEditorFrame::ShowPanel(FName Panel)
+{
+	const auto Found = Panels.find(Panel);
+	if (Found == Panels.end())
+	{
+		return;
+	}
+	FFrameState NewState = State;
+	(Panel == BrowserPanel ? NewState.bContentBrowserOpen : NewState.bOutputLogOpen) = true;
+	NewState.FrontTab = ToUtf8(Panel.ToString());
+	if (NewState != State)
+	{
+		SetState(NewState);
+		Announce();
+	}
+	FocusFirst(Found->second.ToSharedRef());
+}
+}
+
+#undef LOCTEXT_NAMESPACE

@@ -53,4 +53,12 @@ void FSystemCursors::Show(EMouseCursor::Type Shape)
 		SDL_SetCursor(Cursor.get());
 	}
 }
+
+void FSystemCursors::Abandon()
+{
+	for (auto& [Id, Cursor] : Cursors)
+	{
+		Cursor.release();
+	}
+}
 }

@@ -19,6 +19,9 @@ public:
 	/** Shows a shape; the one that is shown already costs nothing. */
 	void Show(EMouseCursor::Type Shape);
 
+	/** Lets go of the shapes without telling a display that went away. */
+	void Abandon();
+
 private:
 	std::map<SDL_SystemCursor, std::unique_ptr<SDL_Cursor, FSdlRelease>> Cursors;
 	EMouseCursor::Type Shown = EMouseCursor::Default;

@@ -31,6 +31,9 @@ public:
 	/** Waits for the next line of what it prints, without the line's end; "" when it prints no more. */
 	std::string ReadLine();
 
+	/** The process: its number, on Windows its handle. */
+	std::intptr_t GetProcess() const { return Process; }
+
 	/** Ends its standard input. */
 	void CloseInput();
 

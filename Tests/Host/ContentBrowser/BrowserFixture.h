@@ -10,6 +10,7 @@
 #include "Host/Ui/LookThumbnails.h"
 #include "Host/Ui/Person.h"
 #include "Host/Ui/Sight.h"
+#include "AssetRegistry/AssetRegistryModule.h"
 #include "StandIn/AssetFiles.h"
 #include "StandIn/EngineLoop.h"
 #include "StandIn/LookBuilder.h"
@@ -49,10 +50,7 @@ class FBrowserFixture : public testing::Test
 {
 protected:
 	/** A look that doubles nothing and halves nothing. */
-	static std::string MakeLook()
-	{
-		return "LUT_3D_SIZE 2\n0 0 0\n1 0 0\n0 1 0\n1 1 0\n0 0 1\n1 0 1\n0 1 1\n1 1 1\n";
-	}
+	static std::string MakeLook() { return "LUT_3D_SIZE 2\n0 0 0\n1 0 0\n0 1 0\n1 1 0\n0 0 1\n1 0 1\n0 1 1\n1 1 1\n"; }
 
 	/** Puts files into the project before the editor starts. */
 	virtual void WriteProject()
@@ -65,10 +63,13 @@ protected:
 		Project.Write("Content/Looks/Film/Silver.cube", MakeLook());
 	}
 
+	/** Where the project's assets lie. */
+	virtual FString GetContentFolder() const { return Project.Path("Content/"); }
+
 	virtual void SetUp() override
 	{
 		WriteProject();
-		StandIn::RegisterMountPoint(TEXT("/Game/"), Project.Path("Content/"));
+		StandIn::RegisterMountPoint(TEXT("/Game/"), GetContentFolder());
 		TextureFiles.emplace();
 		Options.MaximizedPane = NAME_None;
 		Loop.PreInit(Options);
@@ -160,8 +161,14 @@ protected:
 		Click(Label);
 		Person.HoldModifiers(FModifierKeysState());
 	}
-	void CtrlClick(const std::string& Label) { ClickWith(FModifierKeysState(false, false, true, false, false, false, false, false, false), Label); }
-	void ShiftClick(const std::string& Label) { ClickWith(FModifierKeysState(true, false, false, false, false, false, false, false, false), Label); }
+	void CtrlClick(const std::string& Label)
+	{
+		ClickWith(FModifierKeysState(false, false, true, false, false, false, false, false, false), Label);
+	}
+	void ShiftClick(const std::string& Label)
+	{
+		ClickWith(FModifierKeysState(true, false, false, false, false, false, false, false, false), Label);
+	}
 
 	void Press(const FKey& Key) { Person.Press(FInputChord(Key)); }
 	void PressControl(const FKey& Key) { Person.Press(FInputChord(EModifierKey::Control, Key)); }

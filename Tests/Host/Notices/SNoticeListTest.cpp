@@ -9,6 +9,8 @@
 #include "StandIn/Notices.h"
 #include "Widgets/SOverlay.h"
 
+#include <algorithm>
+
 using namespace TintmillHost;
 
 namespace
@@ -212,7 +214,6 @@ TEST_F(SNoticeListTest, InputBesideItReachesWhatLiesBelow)
 	Add("Key", "It broke.");
 	StandIn::AdvanceTime(0.5f);
 	TakeNotes();
-	StandIn::PressMouse();
 	StandIn::ClickAt(FVector2D(20.0f, 20.0f));
 	const FNotes Reached = TakeNotes();
 	EXPECT_NE(std::find(Reached.begin(), Reached.end(), "down"), Reached.end());

@@ -123,6 +123,16 @@ void FEditorViewportClient::RedrawRequested(FViewport*)
 	bNeedsRedraw = true;
 }
 
+bool FEditorViewportClient::InputKey(FViewport* InViewport, int32, FKey Key, EInputEvent Event, float, bool)
+{
+	if (Event != IE_Pressed || !StandIn::MoveCamera(*this, *InViewport, Key, 1.0f))
+	{
+		return false;
+	}
+	Invalidate(true, false);
+	return true;
+}
+
 bool FEditorViewportClient::InputAxis(FViewport* InViewport, int32, FKey Key, float Delta, float, int32, bool)
 {
 	if (!StandIn::MoveCamera(*this, *InViewport, Key, Delta))

@@ -47,13 +47,14 @@ UWorld* FLevelEditorViewportClient::GetWorld() const
 	return World != nullptr ? World : FEditorViewportClient::GetWorld();
 }
 
-bool FLevelEditorViewportClient::InputKey(FViewport*, int32, FKey, EInputEvent Event, float, bool)
+bool FLevelEditorViewportClient::InputKey(
+	FViewport* InViewport, int32 ControllerId, FKey Key, EInputEvent Event, float AmountDepressed, bool bGamepad)
 {
 	if (Event == IE_Pressed)
 	{
 		SetCurrentViewport();
 	}
-	return false;
+	return FEditorViewportClient::InputKey(InViewport, ControllerId, Key, Event, AmountDepressed, bGamepad);
 }
 
 void FLevelEditorViewportClient::ReceivedFocus(FViewport* InViewport)

@@ -92,6 +92,8 @@ public:
 	virtual UWorld* GetWorld() const override;
 	virtual void Draw(FViewport* InViewport, FCanvas* Canvas) override;
 	virtual void RedrawRequested(FViewport* InViewport) override;
+	virtual bool InputKey(FViewport* InViewport, int32 ControllerId, FKey Key, EInputEvent Event, float AmountDepressed = 1.f,
+		bool bGamepad = false) override;
 	virtual bool InputAxis(FViewport* InViewport, int32 ControllerId, FKey Key, float Delta, float DeltaTime, int32 NumSamples = 1,
 		bool bGamepad = false) override;
 	virtual void AddReferencedObjects(FReferenceCollector& Collector) override;

@@ -78,6 +78,7 @@ FReply FSceneViewport::OnMouseButtonDown(const FGeometry&, const FPointerEvent& 
 		return FReply::Unhandled();
 	}
 	HeldKeys.Add(MouseEvent.GetEffectingButton());
+	UpdateModifierKeys(MouseEvent);
 	ViewportClient->InputKey(this, 0, MouseEvent.GetEffectingButton(), IE_Pressed);
 	FReply Reply = FReply::Handled();
 	if (ViewportWidget.IsValid())
@@ -95,6 +96,7 @@ FReply FSceneViewport::OnMouseButtonUp(const FGeometry&, const FPointerEvent& Mo
 		return FReply::Unhandled();
 	}
 	HeldKeys.Remove(MouseEvent.GetEffectingButton());
+	UpdateModifierKeys(MouseEvent);
 	ViewportClient->InputKey(this, 0, MouseEvent.GetEffectingButton(), IE_Released);
 	FReply Reply = FReply::Handled();
 	const bool bStillHeld =
@@ -108,6 +110,7 @@ FReply FSceneViewport::OnMouseMove(const FGeometry&, const FPointerEvent& MouseE
 	{
 		return FReply::Unhandled();
 	}
+	UpdateModifierKeys(MouseEvent);
 	const FVector2D Delta = MouseEvent.GetCursorDelta();
 	if (Delta.X != 0.0f)
 	{
@@ -126,6 +129,7 @@ FReply FSceneViewport::OnMouseWheel(const FGeometry&, const FPointerEvent& Mouse
 	{
 		return FReply::Unhandled();
 	}
+	UpdateModifierKeys(MouseEvent);
 	const FKey Direction = MouseEvent.GetWheelDelta() < 0.0f ? EKeys::MouseScrollDown : EKeys::MouseScrollUp;
 	ViewportClient->InputKey(this, 0, Direction, IE_Pressed);
 	ViewportClient->InputKey(this, 0, Direction, IE_Released);
@@ -186,4 +190,25 @@ void FSceneViewport::OnFocusLost(const FFocusEvent&)
 	{
 		ViewportClient->LostFocus(this);
 	}
+}
+
+void FSceneViewport::UpdateModifierKeys(const FPointerEvent& InMouseEvent)
+{
+	// Events do not say which of two keys it is; the left one stands for both.
+	const auto Note = [this](const FKey& Left, const FKey& Right, bool bHeld) {
+		if (!bHeld)
+		{
+			HeldKeys.Remove(Left);
+			HeldKeys.Remove(Right);
+		}
+		else if (!HeldKeys.Contains(Right))
+		{
+			HeldKeys.Add(Left);
+		}
+	};
+	const FModifierKeysState& Modifiers = InMouseEvent.GetModifierKeys();
+	Note(EKeys::LeftAlt, EKeys::RightAlt, Modifiers.IsAltDown());
+	Note(EKeys::LeftControl, EKeys::RightControl, Modifiers.IsControlDown());
+	Note(EKeys::LeftShift, EKeys::RightShift, Modifiers.IsShiftDown());
+	Note(EKeys::LeftCommand, EKeys::RightCommand, Modifiers.IsCommandDown());
 }

@@ -65,6 +65,9 @@ public:
 	virtual void OnFocusLost(const FFocusEvent& InFocusEvent) override;
 
 private:
+	/** Notes which modifier keys are held, as the mouse's events say it. */
+	void UpdateModifierKeys(const FPointerEvent& InMouseEvent);
+
 	TWeakPtr<SViewport> ViewportWidget;
 	bool bForceViewportSize;
 	TSet<FKey> HeldKeys;

@@ -68,7 +68,11 @@ void AddMenus(FSlateStyleSet& Style)
 	Style.Set("Menu.Button.SubMenuOpen", FButtonStyle(MenuButton).SetNormal(Selected));
 
 	// View modes, in the engine under these names in the editor's style.
-	const TPair<const ANSICHAR*, EBrushShape> ViewModes[] = {
+	const struct
+	{
+		const ANSICHAR* Name;
+		EBrushShape Shape;
+	} ViewModes[] = {
 		{"EditorViewport.LitMode", EBrushShape::ViewLit},
 		{"EditorViewport.UnlitMode", EBrushShape::ViewUnlit},
 		{"EditorViewport.BrushWireframeMode", EBrushShape::ViewWireframe},
@@ -81,9 +85,9 @@ void AddMenus(FSlateStyleSet& Style)
 		{"EditorViewport.CollisionPawn", EBrushShape::ViewPlayerCollision},
 		{"EditorViewport.CollisionVisibility", EBrushShape::ViewVisibilityCollision},
 	};
-	for (const TPair<const ANSICHAR*, EBrushShape>& Mode : ViewModes)
+	for (const auto& Mode : ViewModes)
 	{
-		Style.Set(Mode.Key, new FShapeBrush(Mode.Value, FVector2D(16, 16), FLinearColor::White));
+		Style.Set(Mode.Name, new FShapeBrush(Mode.Shape, FVector2D(16, 16), FLinearColor::White));
 	}
 
 	// Tool bars that float over a viewport.

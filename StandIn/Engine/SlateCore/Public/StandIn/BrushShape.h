@@ -85,7 +85,9 @@ enum class EBrushShape : uint8
 	/** A capsule. */
 	ViewPlayerCollision,
 	/** An eye. */
-	ViewVisibilityCollision
+	ViewVisibilityCollision,
+	/** A sheet with lines of text. */
+	Log
 };
 
 /** A brush that names a shape. */

@@ -18,8 +18,8 @@ void SetCameraMover(FCameraMover InMover)
 	GetCameraMover() = MoveTemp(InMover);
 }
 
-bool MoveCamera(FEditorViewportClient& Client, FViewport& Viewport, const FKey& Axis, float Delta)
+bool MoveCamera(FEditorViewportClient& Client, FViewport& Viewport, const FKey& Key, float Delta)
 {
-	return GetCameraMover() && GetCameraMover()(Client, Viewport, Axis, Delta);
+	return GetCameraMover() && GetCameraMover()(Client, Viewport, Key, Delta);
 }
 }
