@@ -15,6 +15,10 @@ option(TINTMILL_SANITIZE "Build with the address and undefined-behaviour sanitiz
 
 add_compile_options(-Wall -Wextra -Wshadow -Wundef -Wsuggest-override -Werror)
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+    # Objects are constructed in memory that was zeroed for them and count on it, as the engine's do: what a constructor leaves out
+    # stays zero. An optimizer that takes an object's life to begin with its constructor would drop the zeros.
+    set(UE_OBJECT_OPTIONS -fno-lifetime-dse)
+    add_compile_options($<$<NOT:$<CONFIG:Dev>>:${UE_OBJECT_OPTIONS}>)
     # Unique symbols would keep a module's library mapped after it is unloaded.
     add_compile_options(-fno-gnu-unique)
 endif()
@@ -44,5 +48,5 @@ set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${UE_BINARIES_DIR})
 # ue_optimize(SOURCE...): full optimization in every build type, for sources that work on every pixel. Call it in the folder of
 # the target.
 function(ue_optimize)
-    set_source_files_properties(${ARGN} PROPERTIES COMPILE_OPTIONS -O3)
+    set_source_files_properties(${ARGN} PROPERTIES COMPILE_OPTIONS "-O3;${UE_OBJECT_OPTIONS}")
 endfunction()

@@ -57,6 +57,10 @@ void AddFileCommands(FConsole& Console, FHostProgram& Program)
 			Program.GetTourRun().GetFiles().Write(Folder, Words[1], ReadWhole(Folder / Words[0]));
 			Program.TickEditor(NoticeSeconds);
 		});
+	Console.Add("own-file FILE", "take away, when the run ends, a file that the tour is about to have made by the program",
+		{"own-file Looks/Fresh.cube"}, [&Program](const FArguments& Words, std::ostream&) {
+			Program.GetTourRun().GetFiles().Expect(Program.GetContentFolder(), Words[0]);
+		});
 	Console.Add("remove-file FILE", "take away a file that write-file or copy-file has written", {"remove-file Looks/Broken.cube"},
 		[&Program](const FArguments& Words, std::ostream&) {
 			Program.GetTourRun().GetFiles().Remove(Program.GetContentFolder(), Words[0]);

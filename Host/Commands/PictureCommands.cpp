@@ -104,7 +104,7 @@ void CompareLook(const FArguments& Words, FHostProgram& Program, std::ostream& O
 	}
 	const TSharedRef<SLevelViewport> Pane = Words.size() > 1 ? FindPane(Words[1]) : GetActivePane();
 	const std::string Name = Words[0].substr(Words[0].rfind('/') + 1);
-	const std::filesystem::path File = Program.GetOutDir() / (Words.size() > 2 ? Words[2] : Name + "-with-look.png");
+	const std::filesystem::path File = Program.GetOutDir() / (Words.size() > 2 ? Words[2] : Name + ".png");
 
 	FTintmillDisplayConfiguration& Record = GetPaneRecord(*Pane);
 	const FTintmillDisplayConfiguration Before = Record;

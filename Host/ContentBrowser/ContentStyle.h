@@ -22,7 +22,7 @@ constexpr float TileGap = 3.0f;
 constexpr float PlatePadding = 4.0f;
 
 /** Room for two lines of a name. */
-constexpr float NameHeight = 34.0f;
+constexpr float NameHeight = 30.0f;
 
 /** Height of the strip in the color of the type. */
 float GetStripHeight(float Thumbnail);

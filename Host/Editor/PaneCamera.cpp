@@ -25,7 +25,7 @@ constexpr float NotchFactor = 0.88f;
 constexpr float DragFactor = 0.994f;
 
 /** Of a mouse that moves no further than this, in pixels in both directions together, nobody says that it was dragged. */
-constexpr float ClickPixels = 3.0f;
+constexpr float ClickPixels = 4.0f;
 
 bool Pan(FSceneCamera& Camera, const FVector2D& Pixels, int32 PaneWidth)
 {

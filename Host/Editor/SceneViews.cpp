@@ -2,6 +2,7 @@
 
 #include "Host/Editor/SceneViews.h"
 
+#include "Host/Editor/ChartMenu.h"
 #include "Host/Program/Strings.h"
 #include "Host/Scene/ScenePainter.h"
 
@@ -71,6 +72,7 @@ std::string GetCameraKey(const FViewportClient& Client, const FLevelEditorViewpo
 }
 
 FSceneViews::FSceneViews()
+	: ChartMenu(std::make_unique<FChartMenu>(*this))
 {
 	StandIn::SetScenePainter(
 		[this](FViewportClient& Client, const FIntPoint& Size, FColor* Pixels) { PaintScene(GetCamera(Client), Size, Pixels); });

@@ -6,6 +6,7 @@
 #include "Host/Scene/SceneCamera.h"
 
 #include <map>
+#include <memory>
 #include <string>
 
 class FEditorViewportClient;
@@ -17,6 +18,8 @@ struct FKey;
 
 namespace TintmillHost
 {
+class FChartMenu;
+
 /** Paints the scene for all viewports while it lives, and moves the cameras of the editor's panes with the mouse. */
 class FSceneViews
 {
@@ -49,5 +52,6 @@ private:
 	std::map<std::string, FSceneCamera> Cameras;
 
 	FPaneDrag Drag;
+	std::unique_ptr<FChartMenu> ChartMenu;
 };
 }

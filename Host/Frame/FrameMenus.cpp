@@ -222,6 +222,15 @@ void RegisterToolBar(const TSharedRef<SEditorFrame>& Frame)
 	const FWeakFrame WeakFrame = Frame;
 	UToolMenu* const Bar = UToolMenus::Get()->RegisterMenu(FrameMenus::ToolBar, NAME_None, EMultiBoxType::ToolBar);
 	Bar->bToolBarIsFocusable = true;
+	const auto AddButton = [&](const TCHAR* Section, const TSharedPtr<FUICommandInfo>& Command, const FText& Label, const FName& Icon) {
+		Bar->AddSection(Section).AddEntry(FToolMenuEntry::InitToolBarButton(
+			Command->GetCommandName(), WhilePossible(WeakFrame, Command), Label, WithKey(*Command), FFrameStyle::GetIcon(Icon)));
+	};
+	Bar->AddSection("File").AddEntry(FToolMenuEntry::InitComboButton("Levels", FToolUIActionChoice(),
+		FNewToolMenuDelegate::CreateStatic(&FillLevels, WeakFrame), LOCTEXT("LevelsButton", "Levels"), WithKey(*Commands.OpenLevel),
+		FFrameStyle::GetIcon("Map")));
+	AddButton(TEXT("Content"), Commands.ContentBrowser, LOCTEXT("ContentButton", "Content"), "Folder");
+	AddButton(TEXT("Look"), Commands.ToggleLook, LOCTEXT("LookButton", "Look"), "Layers");
 	FToolMenuSection& Play = Bar->AddSection("Play");
 	Play.AddEntry(FToolMenuEntry::InitToolBarButton("Play", WhilePossible(WeakFrame, Commands.Play), Commands.Play->GetLabel(),
 		WithKey(*Commands.Play), TAttribute<FSlateIcon>::Create(TAttribute<FSlateIcon>::FGetter::CreateLambda([WeakFrame]() {
@@ -238,9 +247,6 @@ void RegisterToolBar(const TSharedRef<SEditorFrame>& Frame)
 		LOCTEXT("PlayModes_ToolTip", "How to play"), FSlateIcon(), true, "Play Modes"));
 	Play.AddEntry(FToolMenuEntry::InitToolBarButton("Stop", WhilePossible(WeakFrame, Commands.Stop), Commands.Stop->GetLabel(),
 		WithKey(*Commands.Stop), FFrameStyle::GetIcon("Stop")));
-	Bar->AddSection("Levels").AddEntry(FToolMenuEntry::InitComboButton("Maps", FToolUIActionChoice(),
-		FNewToolMenuDelegate::CreateStatic(&FillLevels, WeakFrame), LOCTEXT("Maps", "Maps"), WithKey(*Commands.OpenLevel),
-		FFrameStyle::GetIcon("Map")));
 }
 }
 

@@ -177,7 +177,12 @@ std::string GetStateWord(const std::string& Key, const std::vector<std::string>&
 
 FStateDrag::FStateDrag()
 {
-	++GetSaving().NumDrags;
+	FSaving& Saving = GetSaving();
+	if (Saving.NumDrags++ == 0)
+	{
+		// The first change is saved at once.
+		Saving.LastSave = Now() - SecondsBetweenSaves;
+	}
 }
 
 FStateDrag::~FStateDrag()

@@ -78,6 +78,17 @@ void FTourFiles::Write(const std::filesystem::path& Folder, const std::string& N
 	}
 }
 
+void FTourFiles::Expect(const std::filesystem::path& Folder, const std::string& Name)
+{
+	const std::filesystem::path File = FindPlace(Folder, Name);
+	std::error_code Error;
+	if (std::filesystem::exists(std::filesystem::symlink_status(File, Error)))
+	{
+		throw FCommandError("The file " + File.string() + " is there already, so a tour cannot make it.");
+	}
+	Files.push_back(File);
+}
+
 void FTourFiles::Remove(const std::filesystem::path& Folder, const std::string& Name)
 {
 	const std::filesystem::path File = FindPlace(Folder, Name);

@@ -27,6 +27,9 @@ public:
 	/** Writes a file below a folder, or writes one anew that Write has made. Throws FCommandError when it cannot or the file is not ours. */
 	void Write(const std::filesystem::path& Folder, const std::string& Name, const std::string& Bytes);
 
+	/** Takes a file for one of ours that somebody else is about to make. Throws FCommandError when it is there already. */
+	void Expect(const std::filesystem::path& Folder, const std::string& Name);
+
 	/** Takes away a file that Write has made. Throws FCommandError when it has not. */
 	void Remove(const std::filesystem::path& Folder, const std::string& Name);
 

@@ -2,6 +2,7 @@
 
 #include "Subsystems/AssetEditorSubsystem.h"
 #include "AssetToolsFixture.h"
+#include "StandIn/SimpleAssetEditors.h"
 
 using UAssetEditorSubsystemTest = FAssetToolsFixture;
 
@@ -112,4 +113,14 @@ TEST_F(UAssetEditorSubsystemTest, RefusesAnAssetWithoutActions)
 {
 	UAssetEditorSubsystem* Subsystem = MakeSubsystem();
 	EXPECT_DEATH(Subsystem->OpenEditorForAsset(MakeAsset()), "not in this stand-in: FSimpleAssetEditor");
+}
+
+TEST_F(UAssetEditorSubsystemTest, TellsWhoeverStandsInForTheSimpleEditorOfAnAssetWithoutActions)
+{
+	TArray<UObject*> Told;
+	StandIn::SetSimpleAssetEditor([&Told](const TArray<UObject*>& Assets) { Told = Assets; });
+	UObject* const Asset = MakeAsset();
+	MakeSubsystem()->OpenEditorForAsset(Asset);
+	StandIn::SetSimpleAssetEditor(StandIn::FSimpleAssetEditorCall());
+	EXPECT_TRUE(Told.Num() == 1 && Told[0] == Asset);
 }

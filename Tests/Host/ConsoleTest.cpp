@@ -69,7 +69,7 @@ TEST_F(Console, RefusesTooManyWords)
 
 TEST_F(Console, NamesTheCommandsThereAreWhenOneIsUnknown)
 {
-	EXPECT_EQ(Complaint("ecko"), "There is no command 'ecko'; there are echo, help.");
+	EXPECT_EQ(Complaint("ecko"), "There is no command 'ecko'; did you mean echo? There are echo, help.");
 }
 
 TEST_F(Console, ListsItsCommandsWithTheirSummaries)

@@ -43,6 +43,7 @@ TEST_F(HostProgram, OfTwoPairsWithOneKeyTheFirstIsShown)
 
 TEST_F(HostProgram, ALookThatDoesNotExistMakesOneNoticeWithFileAndLine)
 {
+	WriteRedLook("Red");
 	WriteSettings(Pair(0, "1.000000", "None") + Pair(1, "1.000000", Look("Gone")));
 	const FProgramResult Result = RunProject("--exec 'notices'");
 	const size_t First = Result.Output.find("\nNotice: ");

@@ -164,4 +164,27 @@ TEST_F(LookFiles, AreReadWhenTheirAssetIsLoaded)
 	StandIn::UnregisterMountPoint(TEXT("/LookFilesLoad/"));
 	EXPECT_EQ(StandIn::GetLookState(Asset), StandIn::ELookState::Ready);
 }
+
+TEST_F(LookFiles, HaveNoRevisionWithoutAFile)
+{
+	EXPECT_EQ(StandIn::GetLookRevision(NewLook()), 0u);
+}
+
+TEST_F(LookFiles, HaveAnotherRevisionWhenTheyAreAnotherLook)
+{
+	UTintmillObject* const Asset = NewLook();
+	Load(Asset, InvertingCube);
+	const uint64 Before = StandIn::GetLookRevision(Asset);
+	Load(Asset, "LUT_1D_SIZE 2\n0 0 0\n1 1 1\n");
+	EXPECT_NE(StandIn::GetLookRevision(Asset), Before);
+}
+
+TEST_F(LookFiles, HaveTheSameRevisionAsLongAsNothingChanges)
+{
+	UTintmillObject* const Asset = NewLook();
+	Load(Asset, InvertingCube);
+	const uint64 Before = StandIn::GetLookRevision(Asset);
+	StandIn::PollLookFiles();
+	EXPECT_EQ(StandIn::GetLookRevision(Asset), Before);
+}
 }

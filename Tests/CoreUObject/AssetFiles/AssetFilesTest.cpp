@@ -234,3 +234,57 @@ TEST(PackageName, KnowsInvalidNames)
 		EXPECT_FALSE(FPackageName::IsValidLongPackageName(Name)) << ToStd(Name);
 	}
 }
+
+namespace
+{
+/** A kind of file that yields, as long as it lives. */
+class FYieldingType
+{
+public:
+	FYieldingType()
+	{
+		StandIn::FAssetFileType Type;
+		Type.Extension = TEXT("aside");
+		Type.ClassName = FName(TEXT("CoreTestAsset"));
+		Type.bYields = true;
+		StandIn::RegisterAssetFileType(Type);
+	}
+	~FYieldingType() { StandIn::UnregisterAssetFileType(TEXT("aside")); }
+};
+}
+
+TEST_F(AssetFiles, PassOverAFileThatYieldsWithoutAWord)
+{
+	const FYieldingType Yielding;
+	Folder.Write("Content/Teal.aside", "");
+	Folder.Write("Content/Teal.coretest", "");
+	StandIn::FAssetScanReport Report;
+	EXPECT_EQ(Scan(Folder.Path("Content"), Report), "/Game/Teal ");
+	EXPECT_EQ(Report.SkippedFiles.Num(), 0);
+}
+
+TEST_F(AssetFiles, ListAFileThatYieldsWhereNoOtherHasItsName)
+{
+	const FYieldingType Yielding;
+	Folder.Write("Content/Amber.aside", "");
+	StandIn::FAssetScanReport Report;
+	EXPECT_EQ(Scan(Folder.Path("Content"), Report), "/Game/Amber ");
+}
+
+TEST_F(AssetFiles, FindTheFileThatDoesNotYield)
+{
+	const FYieldingType Yielding;
+	Folder.Write("Content/Teal.aside", "");
+	Folder.Write("Content/Teal.coretest", "");
+	StandIn::FAssetFile File;
+	ASSERT_TRUE(StandIn::FindAssetFile(TEXT("/Game/Teal"), File));
+	EXPECT_EQ(ToStd(File.FileName), ToStd(Folder.Path("Content/Teal.coretest")));
+}
+
+TEST_F(AssetFiles, FindAFileThatYieldsWhereNoOtherHasItsName)
+{
+	const FYieldingType Yielding;
+	Folder.Write("Content/Teal.aside", "");
+	StandIn::FAssetFile File;
+	EXPECT_TRUE(StandIn::FindAssetFile(TEXT("/Game/Teal"), File));
+}

@@ -91,3 +91,33 @@ public:
 	UCoreTestCareless();
 	static bool bCareless;
 };
+
+/** Sets little in its constructor and counts on the rest being zero. */
+UCLASS()
+class UCoreTestSparing : public UObject
+{
+	GENERATED_BODY()
+
+public:
+	UCoreTestSparing();
+
+	UPROPERTY()
+	int32 Untouched;
+
+	UPROPERTY()
+	uint8 bSet : 1;
+
+	UPROPERTY()
+	uint8 bUntouched : 1;
+
+	/** What the constructor found in Untouched. */
+	int32 Found;
+
+	/** What the constructor found in all bits around bSet. */
+	bool bFoundBit;
+
+	int32 Unreflected[16];
+
+	/** Zeroes 8 bytes and constructs something there that reads what it does not set; returns what it made of the zero. */
+	static int32 ConstructInMemoryZeroedOnTheSpot(void* Memory, int32& OutUntouched);
+};

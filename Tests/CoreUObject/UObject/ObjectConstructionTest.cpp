@@ -111,6 +111,40 @@ TEST(NewObject, LeavesWeakPointersToTheFormerObjectStale)
 	EXPECT_FALSE(Weak.IsValid());
 }
 
+TEST(NewObject, GivesItsConstructorZeroedMemory)
+{
+	// Memory that was something else before, so that zeros are not there by chance.
+	for (int32 Round = 0; Round < 20; ++Round)
+	{
+		void* const Used = FMemory::Malloc(sizeof(UCoreTestSparing));
+		FMemory::Memset(Used, 0xa5, sizeof(UCoreTestSparing));
+		FMemory::Free(Used);
+		const UCoreTestSparing* const Object = NewObject<UCoreTestSparing>();
+		ASSERT_EQ(Object->Found, 1);
+		ASSERT_FALSE(Object->bFoundBit);
+		for (const int32 Value : Object->Unreflected)
+		{
+			ASSERT_EQ(Value, 2);
+		}
+	}
+}
+
+TEST(NewObject, CanCountOnZeroesThatTheOptimizerSees)
+{
+	int32 Memory[2] = {-1, -1};
+	int32 Untouched = -1;
+	EXPECT_EQ(UCoreTestSparing::ConstructInMemoryZeroedOnTheSpot(Memory, Untouched), 1);
+	EXPECT_EQ(Untouched, 0);
+}
+
+TEST(NewObject, LeavesAtZeroWhatTheConstructorLeavesOut)
+{
+	const UCoreTestSparing* const Object = NewObject<UCoreTestSparing>();
+	EXPECT_TRUE(Object->bSet);
+	EXPECT_FALSE(Object->bUntouched);
+	EXPECT_EQ(Object->Untouched, 0);
+}
+
 TEST(NewObjectDeathTest, RefusesANameThatAnotherClassHas)
 {
 	UPackage* Package = MakePackage(TEXT("/Test/OtherClass"));

@@ -71,12 +71,12 @@ TEST_F(Progress, PrintsALineAfterHalfASecondAndOneAtTheEnd)
 TEST_F(Progress, PrintsNoMoreThanALineInTwoSeconds)
 {
 	TintmillHost::FProgress Work("Reading", 100);
-	for (int Step = 0; Step < 50; ++Step)
+	for (int Step = 0; Step < 40; ++Step)
 	{
-		Seconds += 0.1;
+		Seconds += 0.125;
 		Work.Step();
 	}
-	EXPECT_EQ(Lines.str(), "Reading: 5 of 100 ...\nReading: 25 of 100 ...\nReading: 45 of 100 ...\n");
+	EXPECT_EQ(Lines.str(), "Reading: 4 of 100 ...\nReading: 20 of 100 ...\nReading: 36 of 100 ...\n");
 }
 
 TEST_F(Progress, CountsWithoutATotalWhereNobodyKnowsIt)

@@ -46,4 +46,43 @@ TEST(SceneCamera, MovesItsTargetAgainstTheHand)
 	PanSceneCamera(Camera, 0.5f, 0.0f);
 	EXPECT_LT(Camera.Target.Y, 0.0f);
 }
+
+TEST(SceneCamera, ComesDownSlowlyWhenItLooksUp)
+{
+	FSceneCamera Camera = DefaultSceneCamera(1);
+	LookSceneCamera(Camera, 0.0f, -27.0f);
+	OrbitSceneCamera(Camera, 0.0f, 5.0f);
+	EXPECT_FLOAT_EQ(Camera.PitchDegrees, -15.0f);
+}
+
+TEST(SceneCamera, StandsStillWhenItLooksAround)
+{
+	FSceneCamera Camera = DefaultSceneCamera(1);
+	const FSceneVector Before = Camera.Target - SceneCameraAxes(Camera).Forward * Camera.Distance;
+	LookSceneCamera(Camera, 33.0f, 11.0f);
+	EXPECT_LT(Length(Camera.Target - SceneCameraAxes(Camera).Forward * Camera.Distance - Before), 0.001f);
+}
+
+TEST(SceneCamera, DoesNotLookStraightUp)
+{
+	FSceneCamera Camera = DefaultSceneCamera(1);
+	LookSceneCamera(Camera, 0.0f, -500.0f);
+	EXPECT_EQ(Camera.PitchDegrees, -60.0f);
+}
+
+TEST(SceneCamera, StaysAtItsHeightWhenItWalks)
+{
+	FSceneCamera Camera = DefaultSceneCamera(1);
+	const float Before = Camera.Target.Z;
+	WalkSceneCamera(Camera, 2.0f);
+	EXPECT_EQ(Camera.Target.Z, Before);
+}
+
+TEST(SceneCamera, IsLiftedFromBelowTheFloor)
+{
+	FSceneCamera Camera = DefaultSceneCamera(1);
+	Camera.Target.Z = -5.0f;
+	KeepSceneCameraAboveFloor(Camera);
+	EXPECT_NEAR(Camera.Target.Z - SceneCameraAxes(Camera).Forward.Z * Camera.Distance, 0.1f, 0.001f);
+}
 }

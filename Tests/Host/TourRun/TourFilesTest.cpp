@@ -31,7 +31,7 @@ std::string Complaint(ActionType Action)
 class TourFiles : public testing::Test
 {
 protected:
-	std::filesystem::path Root() const { return Folder.NativePath(); }
+	std::filesystem::path Root() const { return Folder.NativePath(""); }
 
 	FTestFolder Folder;
 };

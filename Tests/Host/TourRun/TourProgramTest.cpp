@@ -96,7 +96,7 @@ TEST_F(TourProgram, ALookIsComparedWithoutChangingThePane)
 	const std::string Before = Host.ReadSettings();
 	const FHostRun::FResult Result = PlayTour("compare-look TealOrange 1\nexpect 1.look WarmPrint\n");
 	EXPECT_EQ(Result.Code, 0) << Result.Output;
-	EXPECT_FALSE(Host.ReadPicture("TealOrange-with-look.png").Pixels == Host.ReadPicture("TealOrange-without-look.png").Pixels);
+	EXPECT_FALSE(Host.ReadPicture("TealOrange.png").Pixels == Host.ReadPicture("TealOrange-without-look.png").Pixels);
 	EXPECT_EQ(Host.ReadSettings(), Before);
 	EXPECT_TRUE(Has(ReadPage(), "type=\"range\""));
 }
@@ -123,7 +123,7 @@ TEST_F(TourProgram, WithoutAnyWishEveryLookOfAProjectIsComparedAndNothingChanged
 	EXPECT_EQ(Result.Code, 0) << Result.Output;
 	for (const char* const Look : {"BleachBypass", "CoolNight", "FalseColor", "Monochrome", "TealOrange", "WarmPrint"})
 	{
-		EXPECT_TRUE(std::filesystem::exists(Host.Path("out/" + std::string(Look) + "-with-look.png"))) << Look;
+		EXPECT_TRUE(std::filesystem::exists(Host.Path("out/" + std::string(Look) + ".png"))) << Look;
 		EXPECT_TRUE(Has(ReadPage(), "<span class=\"caption\">" + std::string(Look) + "</span>"));
 	}
 	EXPECT_EQ(Host.ReadSettings(), Before);

@@ -22,10 +22,10 @@ class TourRun : public testing::Test
 protected:
 	TourRun()
 	{
-		Console.Add("say WORD...", "repeat words", [](const FArguments& Words, std::ostream& Output) {
+		Console.Add("say WORD...", "repeat words", [](const FArguments& Words, std::ostream& Printed) {
 			for (const std::string& Word : Words)
 			{
-				Output << Word << '\n';
+				Printed << Word << '\n';
 			}
 		});
 		Console.Add("fail", "fail", [](const FArguments&, std::ostream&) { throw FCommandError("It did not work."); });

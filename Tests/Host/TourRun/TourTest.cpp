@@ -48,7 +48,7 @@ TEST(Tour, AFolderIsNoTour)
 {
 	FTestFolder Folder;
 	FTour Tour;
-	EXPECT_NE(ReadTour(Folder.NativePath(), Tour), "");
+	EXPECT_NE(ReadTour(Folder.NativePath(""), Tour), "");
 }
 
 TEST(Tour, APathBelowTheCurrentFolderIsShortened)

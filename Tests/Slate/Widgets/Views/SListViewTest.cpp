@@ -323,3 +323,29 @@ TEST_F(FLists, MoveThroughTilesInBothDirectionsByArrows)
 	ASSERT_EQ(1, Tiles->GetNumItemsSelected());
 	EXPECT_EQ(5, *Tiles->GetSelectedItems()[0]);
 }
+
+TEST_F(FLists, SelectManyItemsAtOnceAndTellOfItOnce)
+{
+	ShowList(5, ESelectionMode::Multi);
+	List->SetItemSelection(Items, true);
+	EXPECT_EQ(std::vector<int32>({0, 1, 2, 3, 4}), GetSelected());
+	EXPECT_EQ(1u, Notes.size());
+}
+
+TEST_F(FLists, TakeTheSelectionOfManyItemsAwayAtOnce)
+{
+	ShowList(3, ESelectionMode::Multi);
+	List->SetItemSelection(Items, true);
+	List->SetItemSelection({Items[0], Items[2]}, false);
+	EXPECT_EQ(std::vector<int32>({1}), GetSelected());
+}
+
+TEST_F(FLists, KeepTheOrderOfTheSelectionWhenItemsGo)
+{
+	ShowList(4, ESelectionMode::Multi);
+	List->SetItemSelection({Items[3], Items[1], Items[0]}, true);
+	Items.RemoveAt(1);
+	List->RequestListRefresh();
+	StandIn::AdvanceTime(0.0f);
+	EXPECT_EQ(std::vector<int32>({3, 0}), GetSelected());
+}
