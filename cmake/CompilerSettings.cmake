@@ -12,6 +12,7 @@ set(CMAKE_CXX_FLAGS_DEV "")
 set(CMAKE_CXX_FLAGS_RELEASE "-O3")
 
 option(TINTMILL_SANITIZE "Build with the address and undefined-behaviour sanitizers" OFF)
+option(TINTMILL_FUZZ "Build for the fuzz targets of Tests/Fuzz, with clang" OFF)
 
 add_compile_options(-Wall -Wextra -Wshadow -Wundef -Wsuggest-override -Werror)
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
@@ -19,12 +20,19 @@ if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
     # stays zero. An optimizer that takes an object's life to begin with its constructor would drop the zeros.
     set(UE_OBJECT_OPTIONS -fno-lifetime-dse)
     add_compile_options($<$<NOT:$<CONFIG:Dev>>:${UE_OBJECT_OPTIONS}>)
+    # This compiler sees overlaps in the standard library's strings that are none, once it optimizes.
+    add_compile_options($<$<NOT:$<CONFIG:Dev>>:-Wno-restrict>)
     # Unique symbols would keep a module's library mapped after it is unloaded.
     add_compile_options(-fno-gnu-unique)
 endif()
 if(TINTMILL_SANITIZE)
     # Generated code sets bits in memory that is no object yet, as the engine's does; the check of virtual tables would end there.
     add_compile_options(-fsanitize=address,undefined -fno-sanitize=vptr -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
+    add_link_options(-fsanitize=address,undefined)
+endif()
+
+if(TINTMILL_FUZZ)
+    add_compile_options(-fsanitize=fuzzer-no-link,address,undefined -fno-sanitize=vptr -fno-sanitize-recover=undefined)
     add_link_options(-fsanitize=address,undefined)
 endif()
 

@@ -91,7 +91,7 @@ void TakeBuilderShot(FHostProgram& Program, const FArguments& Words, std::ostrea
 	Program.TickEditor(0.0);
 	const FPicture Picture = Program.GetWindow().TakePictureOf(Window, Scale);
 
-	const std::filesystem::path File = Program.GetOutDir() / Words[1];
+	const std::filesystem::path File = Program.GetOutDir() / PathFromUtf8(Words[1]);
 	if (const std::string Problem = WritePng(Picture, File); !Problem.empty())
 	{
 		throw FCommandError(Problem);

@@ -5,6 +5,7 @@
 #include "Host/Commands/Labels.h"
 #include "Host/Console/Console.h"
 #include "Host/Program/HostProgram.h"
+#include "Host/Program/Strings.h"
 
 #include <filesystem>
 #include <fstream>
@@ -54,7 +55,7 @@ void AddFileCommands(FConsole& Console, FHostProgram& Program)
 	Console.Add("copy-file FROM FILE", "write a copy of a file of the content folder as write-file does",
 		{"copy-file Looks/WarmPrint.cube Looks/Mended.cube"}, [&Program](const FArguments& Words, std::ostream&) {
 			const std::filesystem::path Folder = Program.GetContentFolder();
-			Program.GetTourRun().GetFiles().Write(Folder, Words[1], ReadWhole(Folder / Words[0]));
+			Program.GetTourRun().GetFiles().Write(Folder, Words[1], ReadWhole(Folder / PathFromUtf8(Words[0])));
 			Program.TickEditor(NoticeSeconds);
 		});
 	Console.Add("own-file FILE", "take away, when the run ends, a file that the tour is about to have made by the program",

@@ -59,13 +59,14 @@ void ExpectNotice(const std::string& Text)
 
 void AddLogCommands(FConsole& Console, const FHostLog& Log)
 {
-	Console.Add("log [COUNT]", "show the last lines of the log", [&Log](const FArguments& Words, std::ostream& Output) {
+	const FConsole::FGroup Group(Console, "What there is");
+	Console.Add("log [COUNT]", "show the last lines of the log", {"log", "log 100"}, [&Log](const FArguments& Words, std::ostream& Output) {
 		PrintLastLines(
 			Log, Words.empty() ? UsualLines : static_cast<size_t>(ParseNumber(Words[0], 1.0, MaxLines, "a number of lines")), Output);
 	});
-	Console.Add("expect-log TEXT...", "end the run unless a line of the log contains the text",
+	Console.Add("expect-log TEXT...", "end the run unless a line of the log contains the text", {"expect-log LogInit:"},
 		[&Log](const FArguments& Words, std::ostream&) { ExpectLine(Log, JoinWords(Words)); });
-	Console.Add("expect-notice TEXT...", "end the run unless a notice contains the text",
+	Console.Add("expect-notice TEXT...", "end the run unless a notice contains the text", {"expect-notice could not be read"},
 		[](const FArguments& Words, std::ostream&) { ExpectNotice(JoinWords(Words)); });
 }
 }

@@ -91,7 +91,7 @@ void SaveGamePicture(const FArguments& Words, FHostProgram& Program, std::ostrea
 	const FPicture Game = DrawGame();
 	const std::string Name = Words.size() > 1 ? Words[1] : Words[0] + ".png";
 	Program.GetGallery().AddPicture(CaptionOf(Words, Description),
-		Save(Words[0] == "game" ? Game : PutBeside(DrawPane(*GetActivePane()), Game), Program.GetOutDir() / Name, Output));
+		Save(Words[0] == "game" ? Game : PutBeside(DrawPane(*GetActivePane()), Game), Program.GetOutDir() / PathFromUtf8(Name), Output));
 }
 
 /** LOOK [PANE] [FILE] [CAPTION...] */
@@ -104,7 +104,7 @@ void CompareLook(const FArguments& Words, FHostProgram& Program, std::ostream& O
 	}
 	const TSharedRef<SLevelViewport> Pane = Words.size() > 1 ? FindPane(Words[1]) : GetActivePane();
 	const std::string Name = Words[0].substr(Words[0].rfind('/') + 1);
-	const std::filesystem::path File = Program.GetOutDir() / (Words.size() > 2 ? Words[2] : Name + ".png");
+	const std::filesystem::path File = Program.GetOutDir() / PathFromUtf8(Words.size() > 2 ? Words[2] : Name + ".png");
 
 	FTintmillDisplayConfiguration& Record = GetPaneRecord(*Pane);
 	const FTintmillDisplayConfiguration Before = Record;
@@ -114,7 +114,7 @@ void CompareLook(const FArguments& Words, FHostProgram& Program, std::ostream& O
 	const FPicture With = DrawPaneWithLook(*Pane, true);
 	Record = Before;
 
-	const std::filesystem::path WithoutFile = Save(Without, File.parent_path() / (File.stem().string() + "-without-look.png"), Output);
+	const std::filesystem::path WithoutFile = Save(Without, File.parent_path() / PathFromUtf8(File.stem().string() + "-without-look.png"), Output);
 	const std::string Caption = JoinWordsFrom(Words, 3);
 	const std::string Problem = ToUtf8(StandIn::GetLookProblem(Look));
 	Program.GetGallery().AddComparison(
@@ -129,8 +129,8 @@ void SavePictures(FHostProgram& Program, std::ostream& Output)
 		const std::string Stem = MakeFileStem(Pane->GetConfigKey());
 		const std::string Caption = ToUtf8(Pane->GetConfigKey().ToString()) + ": " + DescribeRecord(GetPaneRecord(*Pane));
 		const std::filesystem::path Without =
-			Save(DrawPaneWithLook(*Pane, false), Program.GetOutDir() / (Stem + "-without-look.png"), Output);
-		const std::filesystem::path With = Save(DrawPaneWithLook(*Pane, true), Program.GetOutDir() / (Stem + "-with-look.png"), Output);
+			Save(DrawPaneWithLook(*Pane, false), Program.GetOutDir() / PathFromUtf8(Stem + "-without-look.png"), Output);
+		const std::filesystem::path With = Save(DrawPaneWithLook(*Pane, true), Program.GetOutDir() / PathFromUtf8(Stem + "-with-look.png"), Output);
 		Program.GetGallery().AddComparison(Caption, Without, With);
 	}
 }
@@ -158,7 +158,7 @@ void AddPictureCommands(FConsole& Console, FHostProgram& Program)
 			}
 			const TSharedRef<SLevelViewport> Pane = FindPane(Words[0]);
 			const std::string Name = Words.size() > 1 ? Words[1] : MakeFileStem(Pane->GetConfigKey()) + ".png";
-			const std::filesystem::path File = Save(DrawPane(*Pane), Program.GetOutDir() / Name, Output);
+			const std::filesystem::path File = Save(DrawPane(*Pane), Program.GetOutDir() / PathFromUtf8(Name), Output);
 			Program.GetGallery().AddPicture(
 				CaptionOf(Words, ToUtf8(Pane->GetConfigKey().ToString()) + ": " + DescribeRecord(GetPaneRecord(*Pane))), File);
 		});
@@ -169,7 +169,7 @@ void AddPictureCommands(FConsole& Console, FHostProgram& Program)
 			const FPicture Joined = JoinHalves(DrawPaneWithLook(*Pane, false), DrawPaneWithLook(*Pane, true));
 			Program.GetGallery().AddPicture(
 				ToUtf8(Pane->GetConfigKey().ToString()) + ": without and with " + DescribeRecord(GetPaneRecord(*Pane)),
-				Save(Joined, Program.GetOutDir() / Name, Output));
+				Save(Joined, Program.GetOutDir() / PathFromUtf8(Name), Output));
 		});
 	Console.Add("compare-look LOOK [PANE] [FILE] [CAPTION...]",
 		"save pictures of a pane, the active one if none is named, without any look and with this one at full intensity; the pane keeps its own",

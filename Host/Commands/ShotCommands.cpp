@@ -8,6 +8,7 @@
 #include "Host/Editor/Panes.h"
 #include "Host/Picture/PngFile.h"
 #include "Host/Program/HostProgram.h"
+#include "Host/Program/Strings.h"
 
 #include "LevelEditorViewport.h"
 #include "SLevelViewport.h"
@@ -34,7 +35,7 @@ struct FShotWords
 FShotWords ParseShot(FHostProgram& Program, const FArguments& Words)
 {
 	FShotWords Shot;
-	Shot.File = Program.GetOutDir() / Words[0];
+	Shot.File = Program.GetOutDir() / PathFromUtf8(Words[0]);
 	const bool bScale = Words.size() > 1 && Words[1].find_first_not_of("0123456789.") == std::string::npos;
 	Shot.Scale = bScale ? ParseNumber(Words[1], 0.5, MaxShotScale, "a scale") : 1.0;
 	Shot.Caption = JoinWordsFrom(Words, bScale ? 2 : 1);
@@ -96,7 +97,7 @@ private:
 void TakeComparedShots(FHostProgram& Program, const FArguments& Words, std::ostream& Output)
 {
 	const FShotWords Shot = ParseShot(Program, Words);
-	const std::filesystem::path Without = Shot.File.parent_path() / (Shot.File.stem().string() + "-without-looks.png");
+	const std::filesystem::path Without = Shot.File.parent_path() / PathFromUtf8(Shot.File.stem().string() + "-without-looks.png");
 	{
 		const FLooksOff LooksOff;
 		SaveShot(Program, Without, Shot.Scale, Output);

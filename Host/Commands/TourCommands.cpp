@@ -30,7 +30,13 @@ void AddTourCommands(FConsole& Console, FHostProgram& Program)
 		Program.TickEditor(ParseNumber(Words[0], 0.0, MaxWaitSeconds, "a time in seconds"));
 	});
 	Console.Add("restart", "leave the editor as the engine does, start it anew, and go on with the next command", {"restart"},
-		[&Program](const FArguments&, std::ostream&) { Program.GetTourRun().AskForRestart(); });
+		[&Program](const FArguments&, std::ostream&) {
+			if (!Program.GetTourRun().IsPlaying())
+			{
+				throw FCommandError("Only a tour can restart the editor: it goes on with its next command then.");
+			}
+			Program.GetTourRun().AskForRestart();
+		});
 	Console.Add("keep-settings", "put the project's settings back, byte for byte, when the run ends, whatever happens until then",
 		{"keep-settings"}, [&Program](const FArguments&, std::ostream&) {
 			Program.GetTourRun().GetKeptSettings().Keep(ToUtf8(FPaths::ConvertRelativePathToFull(GEditorPerProjectIni)));

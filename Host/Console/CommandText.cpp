@@ -22,9 +22,9 @@ std::string Trimmed(std::string_view Text)
 	}
 	return std::string(Text.substr(First, Text.find_last_not_of(Blanks) - First + 1));
 }
-}
 
-std::vector<FNumberedCommand> SplitNumberedCommands(std::string_view Text)
+/** Splits at line ends and, if wanted, at semicolons. */
+std::vector<FNumberedCommand> Split(std::string_view Text, bool bAtSemicolons)
 {
 	std::vector<FNumberedCommand> Commands;
 	std::string Current;
@@ -58,7 +58,7 @@ std::vector<FNumberedCommand> SplitNumberedCommands(std::string_view Text)
 			Current += Character;
 			Quote = Character == Quote ? 0 : Quote;
 		}
-		else if (Character == ';')
+		else if (Character == ';' && bAtSemicolons)
 		{
 			Finish();
 		}
@@ -77,10 +77,17 @@ std::vector<FNumberedCommand> SplitNumberedCommands(std::string_view Text)
 	return Commands;
 }
 
+}
+
+std::vector<FNumberedCommand> SplitLines(std::string_view Text)
+{
+	return Split(Text, false);
+}
+
 std::vector<std::string> SplitCommands(std::string_view Text)
 {
 	std::vector<std::string> Commands;
-	for (FNumberedCommand& Command : SplitNumberedCommands(Text))
+	for (FNumberedCommand& Command : Split(Text, true))
 	{
 		Commands.push_back(std::move(Command.Text));
 	}

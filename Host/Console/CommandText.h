@@ -17,8 +17,8 @@ struct FNumberedCommand
 	std::string Text;
 };
 
-/** Splits as SplitCommands does and says on which line each command begins. */
-std::vector<FNumberedCommand> SplitNumberedCommands(std::string_view Text);
+/** Splits as SplitCommands does, but at line ends alone, and says on which line each command stands. */
+std::vector<FNumberedCommand> SplitLines(std::string_view Text);
 
 /** Splits at semicolons and line ends that stand outside quotation marks; leaves out empty commands and comments (# to the line's end). A mark inside of a word, as in "pane's", is part of the word. */
 std::vector<std::string> SplitCommands(std::string_view Text);

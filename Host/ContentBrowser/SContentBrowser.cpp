@@ -292,6 +292,7 @@ TArray<FTilePlace> SContentBrowser::GetPlaces() const
 			(static_cast<float>(Index % LineLength) + 0.5f) * Width, (static_cast<float>(Index / LineLength) - FirstLine + 0.5f) * Height);
 		Place.Center = Geometry.LocalToAbsolute(Local);
 		const float View = Geometry.GetLocalSize().Y;
+		Place.bInSight = Local.Y + Height * 0.5f > 0.0f && Local.Y - Height * 0.5f < View;
 		if (Local.Y < 0.0f || Local.Y >= View)
 		{
 			Place.Notches = static_cast<int32>(std::lround((View * 0.5f - Local.Y) / NotchHeight));

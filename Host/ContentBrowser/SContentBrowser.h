@@ -31,7 +31,10 @@ struct FTilePlace
 	/** Where to point at it, on the desktop; where it would be if it is scrolled out of sight. */
 	FVector2D Center = FVector2D(0.0f, 0.0f);
 
-	/** Notches of the wheel, positive away from the person, that bring it into sight; 0 if it is. */
+	/** Whether any part of it is in sight. */
+	bool bInSight = false;
+
+	/** Notches of the wheel, positive away from the person, that bring its middle into sight; 0 if it is. */
 	int32 Notches = 0;
 };
 
@@ -82,6 +85,9 @@ public:
 	bool IsNaming() const { return NewItem.IsValid(); }
 
 	virtual void Tick(const FGeometry& AllottedGeometry, const double InCurrentTime, const float InDeltaTime) override;
+
+	/** Ctrl+F goes to the search from everywhere in here. */
+	virtual FReply OnKeyDown(const FGeometry& MyGeometry, const FKeyEvent& InKeyEvent) override;
 	virtual FReply OnMouseButtonDown(const FGeometry& MyGeometry, const FPointerEvent& MouseEvent) override;
 	virtual FReply OnMouseWheel(const FGeometry& MyGeometry, const FPointerEvent& MouseEvent) override;
 

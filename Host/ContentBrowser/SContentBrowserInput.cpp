@@ -22,6 +22,15 @@ constexpr float MaxThumbnail = 192.0f;
 constexpr float ThumbnailStep = 16.0f;
 }
 
+FReply SContentBrowser::OnKeyDown(const FGeometry& MyGeometry, const FKeyEvent& InKeyEvent)
+{
+	if (InKeyEvent.GetKey() == EKeys::F && InKeyEvent.IsControlDown() && !InKeyEvent.IsShiftDown() && !InKeyEvent.IsAltDown())
+	{
+		return FReply::Handled().SetUserFocus(SearchBox.ToSharedRef(), EFocusCause::SetDirectly);
+	}
+	return SCompoundWidget::OnKeyDown(MyGeometry, InKeyEvent);
+}
+
 FReply SContentBrowser::OnMouseButtonDown(const FGeometry& MyGeometry, const FPointerEvent& MouseEvent)
 {
 	// Tiles take the press themselves: this one was beside them.
@@ -62,10 +71,6 @@ FReply SContentBrowser::OnTilesKeyDown(const FGeometry&, const FKeyEvent& Event)
 	{
 		CopyReferences(GetSelection());
 		return FReply::Handled();
-	}
-	if (Key == EKeys::F && Event.IsControlDown())
-	{
-		return FReply::Handled().SetUserFocus(SearchBox.ToSharedRef(), EFocusCause::SetDirectly);
 	}
 	if (Key == EKeys::BackSpace)
 	{

@@ -36,7 +36,7 @@ void FillMenu(UToolMenu& Menu, FSceneViews& Views)
 			Client.Invalidate();
 		}
 	};
-	Menu.AddSection(TEXT("LevelViewportColorChart"), FText::FromString(TEXT("Color Chart")))
+	Menu.AddSection(TEXT("LevelViewportColorChart"), FText::FromString(TEXT("Chart")))
 		.AddMenuEntry(TEXT("ColorChart"), FText::FromString(TEXT("Color Chart")),
 			FText::FromString(TEXT("Shows patches, skin tones and ramps instead of the scene, to judge a look by.")), FSlateIcon(),
 			FUIAction(FExecuteAction::CreateLambda(Toggle), FCanExecuteAction(), FIsActionChecked::CreateLambda(IsShown)),
@@ -50,7 +50,8 @@ FChartMenu::FChartMenu(FSceneViews& InViews)
 	const FToolMenuOwnerScoped Owner(this);
 	UToolMenus::Get()
 		->ExtendMenu(TEXT("LevelEditor.LevelViewportToolBar.Camera"))
-		->AddDynamicSection(TEXT("ColorChartSection"), FNewToolMenuDelegate::CreateLambda([this](UToolMenu* Menu) { FillMenu(*Menu, Views); }));
+		->AddDynamicSection(
+			TEXT("ColorChartSection"), FNewToolMenuDelegate::CreateLambda([this](UToolMenu* Menu) { FillMenu(*Menu, Views); }));
 }
 
 FChartMenu::~FChartMenu()

@@ -74,10 +74,16 @@ std::string GetCameraKey(const FViewportClient& Client, const FLevelEditorViewpo
 FSceneViews::FSceneViews()
 	: ChartMenu(std::make_unique<FChartMenu>(*this))
 {
-	StandIn::SetScenePainter(
-		[this](FViewportClient& Client, const FIntPoint& Size, FColor* Pixels) { PaintScene(GetCamera(Client), Size, Pixels); });
+	StandIn::SetScenePainter([this](FViewportClient& Client, const FIntPoint& Size, FColor* Pixels) {
+		MovingScenes.Paint(Client, GetCamera(Client), Size, Pixels);
+	});
 	StandIn::SetCameraMover([this](FEditorViewportClient& Client, FViewport& Viewport, const FKey& Key, float Delta) {
-		return MoveCamera(Client, Viewport, Key, Delta);
+		const bool bMoved = MoveCamera(Client, Viewport, Key, Delta);
+		if (bMoved)
+		{
+			MovingScenes.NoteMove(Client);
+		}
+		return bMoved;
 	});
 }
 
@@ -128,8 +134,8 @@ bool FSceneViews::PressKey(FSceneCamera& Camera, const FViewport& Viewport, cons
 		Drag.Begin();
 		return false;
 	}
-	const bool bPlain = !Viewport.KeyState(EKeys::LeftControl) && !Viewport.KeyState(EKeys::RightControl)
-		&& !GetPaneButtons(Viewport).bAlt && !Viewport.KeyState(EKeys::LeftShift) && !Viewport.KeyState(EKeys::RightShift);
+	const bool bPlain = !Viewport.KeyState(EKeys::LeftControl) && !Viewport.KeyState(EKeys::RightControl) && !GetPaneButtons(Viewport).bAlt
+		&& !Viewport.KeyState(EKeys::LeftShift) && !Viewport.KeyState(EKeys::RightShift);
 	return Key == EKeys::F && bPlain && FramePaneCamera(Camera);
 }
 }

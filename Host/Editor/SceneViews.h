@@ -2,6 +2,7 @@
 
 #pragma once
 
+#include "Host/Editor/MovingScenes.h"
 #include "Host/Editor/PaneCamera.h"
 #include "Host/Scene/SceneCamera.h"
 
@@ -44,6 +45,9 @@ public:
 	/** Whether the viewport sees the chart. */
 	bool IsChartShown(FViewportClient& Client) { return GetCamera(Client).View == ESceneView::Chart; }
 
+	/** Has pictures follow the mouse, if need be coarsely, while a camera moves. */
+	void HurryWhileMoving() { MovingScenes.Hurry(); }
+
 private:
 	bool MoveCamera(FEditorViewportClient& Client, FViewport& Viewport, const FKey& Key, float Delta);
 	bool PressKey(FSceneCamera& Camera, const FViewport& Viewport, const FKey& Key);
@@ -52,6 +56,7 @@ private:
 	std::map<std::string, FSceneCamera> Cameras;
 
 	FPaneDrag Drag;
+	FMovingScenes MovingScenes;
 	std::unique_ptr<FChartMenu> ChartMenu;
 };
 }

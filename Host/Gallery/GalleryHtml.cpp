@@ -41,10 +41,10 @@ void WritePicture(std::ostream& Page, const FGalleryPicture& Picture, const std:
 {
 	Page << "<span class=\"pic p" << Picture.Whole << MoreClasses << "\" role=\"img\" aria-label=\"" << EscapeHtml(Alternative)
 		 << "\" style=\"aspect-ratio:" << Picture.Width << "/" << Picture.Height << "\">";
-	if (Picture.Part >= 0)
+	for (const FGalleryPart& Part : Picture.Parts)
 	{
-		const FIntRect& Area = Picture.PartArea;
-		Page << "<span class=\"part p" << Picture.Part << "\" style=\"left:" << Percent(Area.Min.X, Picture.Width)
+		const FIntRect& Area = Part.Area;
+		Page << "<span class=\"part p" << Part.Number << "\" style=\"left:" << Percent(Area.Min.X, Picture.Width)
 			 << ";top:" << Percent(Area.Min.Y, Picture.Height) << ";width:" << Percent(Area.Width(), Picture.Width)
 			 << ";height:" << Percent(Area.Height(), Picture.Height) << "\"></span>";
 	}

@@ -91,7 +91,8 @@ std::string FGalleryPage::Write(
 	{
 		std::filesystem::create_directories(File.parent_path(), Error);
 	}
-	const std::filesystem::path Unfinished = File.string() + ".new";
+	std::filesystem::path Unfinished = File;
+	Unfinished += ".new";
 	{
 		std::ofstream Page(Unfinished, std::ios::binary);
 		WriteGalleryHtml(Page, Title.empty() ? TitleOtherwise : Title, GetSteps(), Log);

@@ -3,10 +3,10 @@
 #include "Host/Gallery/GalleryPictures.h"
 
 #include "Host/Gallery/HtmlText.h"
+#include "Host/Gallery/PictureDifference.h"
 #include "Host/Picture/PngFile.h"
 
 #include <algorithm>
-#include <cstring>
 
 namespace TintmillHost
 {
@@ -20,35 +20,6 @@ constexpr double MaxPartShare = 0.6;
 
 /** Unchanged pixels around a part, so that its edge is not seen when a browser scales both pictures. */
 constexpr int32 PartMargin = 8;
-
-bool AreSameColors(const FColor& A, const FColor& B)
-{
-	return A.R == B.R && A.G == B.G && A.B == B.B;
-}
-
-/** The smallest area that holds all pixels that differ; empty if none does. Both pictures have one size. */
-FIntRect FindDifference(const FPicture& A, const FPicture& B)
-{
-	FIntRect Area(A.Width, A.Height, 0, 0);
-	for (int32 Row = 0; Row < A.Height; ++Row)
-	{
-		const FColor* const RowA = A.Pixels.GetData() + static_cast<size_t>(Row) * A.Width;
-		const FColor* const RowB = B.Pixels.GetData() + static_cast<size_t>(Row) * A.Width;
-		if (std::memcmp(RowA, RowB, static_cast<size_t>(A.Width) * sizeof(FColor)) == 0)
-		{
-			continue;
-		}
-		for (int32 Column = 0; Column < A.Width; ++Column)
-		{
-			if (!AreSameColors(RowA[Column], RowB[Column]))
-			{
-				Area.Min = FIntPoint(std::min(Area.Min.X, Column), std::min(Area.Min.Y, Row));
-				Area.Max = FIntPoint(std::max(Area.Max.X, Column + 1), std::max(Area.Max.Y, Row + 1));
-			}
-		}
-	}
-	return Area.Max.X > Area.Min.X ? Area : FIntRect(0, 0, 0, 0);
-}
 
 FPicture CutOut(const FPicture& Picture, const FIntRect& Area)
 {
@@ -70,9 +41,14 @@ FIntRect Widen(const FIntRect& Area, const FPicture& Picture)
 		std::min(Area.Max.X + PartMargin, Picture.Width), std::min(Area.Max.Y + PartMargin, Picture.Height));
 }
 
-double MeasureArea(const FIntRect& Area)
+double MeasureAreas(const std::vector<FIntRect>& Areas)
 {
-	return static_cast<double>(Area.Width()) * Area.Height();
+	double Sum = 0.0;
+	for (const FIntRect& Area : Areas)
+	{
+		Sum += static_cast<double>(Area.Width()) * Area.Height();
+	}
+	return Sum;
 }
 }
 
@@ -85,32 +61,32 @@ FGalleryPicture FGalleryPictures::Add(const std::string& Png)
 	}
 
 	const FWhole* Nearest = nullptr;
-	FIntRect Smallest;
+	std::vector<FIntRect> Smallest;
 	for (const FWhole& Whole : Wholes)
 	{
 		if (Whole.Picture->Width != Picture->Width || Whole.Picture->Height != Picture->Height)
 		{
 			continue;
 		}
-		const FIntRect Difference = FindDifference(*Whole.Picture, *Picture);
-		if (!Nearest || MeasureArea(Difference) < MeasureArea(Smallest))
+		std::vector<FIntRect> Difference = FindDifferences(*Whole.Picture, *Picture);
+		if (!Nearest || MeasureAreas(Difference) < MeasureAreas(Smallest))
 		{
 			Nearest = &Whole;
-			Smallest = Difference;
+			Smallest = std::move(Difference);
 		}
 	}
 
 	FGalleryPicture Result;
 	Result.Width = Picture->Width;
 	Result.Height = Picture->Height;
-	if (Nearest && MeasureArea(Smallest) == 0.0)
+	if (Nearest && MeasureAreas(Smallest) <= MaxPartShare * Picture->Width * Picture->Height)
 	{
 		Result.Whole = Nearest->Number;
+		for (const FIntRect& Area : Smallest)
+		{
+			Result.Parts.push_back(AddPart(Widen(Area, *Picture), *Picture));
+		}
 		return Result;
-	}
-	if (Nearest && MeasureArea(Smallest) <= MaxPartShare * Picture->Width * Picture->Height)
-	{
-		return AddPart(*Nearest, Widen(Smallest, *Picture), *Picture);
 	}
 
 	Result.Whole = Store(Png);
@@ -136,24 +112,19 @@ int FGalleryPictures::Store(std::string Png)
 	return static_cast<int>(Blobs.size()) - 1;
 }
 
-FGalleryPicture FGalleryPictures::AddPart(const FWhole& Whole, const FIntRect& Area, const FPicture& Picture)
+FGalleryPart FGalleryPictures::AddPart(const FIntRect& Area, const FPicture& Picture)
 {
-	FPart Part;
-	Part.Pixels = CutOut(Picture, Area);
-	for (const FPart& Known : Parts)
+	FStoredPart Part{-1, CutOut(Picture, Area)};
+	for (const FStoredPart& Known : StoredParts)
 	{
-		const bool bSamePlace = Known.Picture.Whole == Whole.Number && Known.Picture.PartArea == Area;
-		if (bSamePlace && MeasureArea(FindDifference(Known.Pixels, Part.Pixels)) == 0.0)
+		const bool bSameSize = Known.Pixels.Width == Part.Pixels.Width && Known.Pixels.Height == Part.Pixels.Height;
+		if (bSameSize && FindDifferences(Known.Pixels, Part.Pixels).empty())
 		{
-			return Known.Picture;
+			return {Known.Number, Area};
 		}
 	}
-	Part.Picture.Width = Picture.Width;
-	Part.Picture.Height = Picture.Height;
-	Part.Picture.Whole = Whole.Number;
-	Part.Picture.PartArea = Area;
-	Part.Picture.Part = Store(EncodePng(Part.Pixels));
-	Parts.push_back(Part);
-	return Part.Picture;
+	Part.Number = Store(EncodePng(Part.Pixels));
+	StoredParts.push_back(Part);
+	return {Part.Number, Area};
 }
 }

@@ -10,11 +10,23 @@
 #include <vector>
 
 // The pictures of a page, each of its pixels in it once: a picture that was there before is named again, and one that differs
-// from another in a part of it, as a window with an open menu does, is the other with that part above it.
+// from another in parts of it, as a window with an open menu does, is the other with those parts above it.
 
 namespace TintmillHost
 {
-/** A picture on the page: stored whole, or as another one and a part that lies above it. */
+/** A part of a picture that lies above another picture. */
+struct FGalleryPart
+{
+	/** The number of the stored part. */
+	int Number = -1;
+
+	/** Where it lies, in pixels. */
+	FIntRect Area;
+
+	bool operator==(const FGalleryPart& Other) const { return Number == Other.Number && Area == Other.Area; }
+};
+
+/** A picture on the page: stored whole, or as another one and parts that lie above it. */
 struct FGalleryPicture
 {
 	int Width = 0;
@@ -23,15 +35,14 @@ struct FGalleryPicture
 	/** The number of the stored picture. */
 	int Whole = -1;
 
-	/** The number of the stored part above it, -1 if there is none, and where it lies, in pixels. */
-	int Part = -1;
-	FIntRect PartArea;
+	/** What lies above it. */
+	std::vector<FGalleryPart> Parts;
 
 	/** Whether there is a picture at all. */
 	bool IsValid() const { return Whole >= 0; }
 
 	/** Whether both show the same pixels. */
-	bool operator==(const FGalleryPicture& Other) const { return Whole == Other.Whole && Part == Other.Part; }
+	bool operator==(const FGalleryPicture& Other) const { return Whole == Other.Whole && Parts == Other.Parts; }
 };
 
 /** Stores pictures for a page and writes them as its style sheet. */
@@ -54,14 +65,14 @@ private:
 		std::shared_ptr<const FPicture> Picture;
 	};
 
-	struct FPart
+	struct FStoredPart
 	{
-		FGalleryPicture Picture;
+		int Number;
 		FPicture Pixels;
 	};
 
 	int Store(std::string Png);
-	FGalleryPicture AddPart(const FWhole& Whole, const FIntRect& Area, const FPicture& Picture);
+	FGalleryPart AddPart(const FIntRect& Area, const FPicture& Picture);
 
 	/** The PNGs' bytes. */
 	std::vector<std::string> Blobs;
@@ -69,6 +80,6 @@ private:
 	/** Whole pictures with their pixels, the newest last; old ones are forgotten. */
 	std::vector<FWhole> Wholes;
 
-	std::vector<FPart> Parts;
+	std::vector<FStoredPart> StoredParts;
 };
 }

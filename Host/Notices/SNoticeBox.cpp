@@ -34,7 +34,8 @@ const FSlateBrush* FindSign(StandIn::ENoticeKind Kind)
 
 const FSlateBrush* BoxBrush()
 {
-	static const StandIn::FShapeBrush Brush(StandIn::EBrushShape::FramedBox, FVector2D(16.0f, 16.0f), FLinearColor(FColor(0x38, 0x38, 0x38)), 4.0f);
+	static const StandIn::FShapeBrush Brush(
+		StandIn::EBrushShape::FramedBox, FVector2D(16.0f, 16.0f), FLinearColor(FColor(0x38, 0x38, 0x38)), 4.0f);
 	return &Brush;
 }
 }

@@ -85,14 +85,13 @@ protected:
 	virtual FVector2D ComputeDesiredSize(float LayoutScaleMultiplier) const override;
 
 private:
-	void OnVerticallyScrolled(float Part);
-	void OnHorizontallyScrolled(float Part);
+	void OnVerticallyScrolled(float Share);
+	void OnHorizontallyScrolled(float Share);
 	void ScrollTo(double Line);
 	double GetFurthest() const;
 	void UpdateBars(const FVector2D& Size);
 	void FollowDrag();
 	FLogPlace FindPlace(const FVector2D& Local) const;
-	int32 FindWordEnd(const FString& Text, int32 Column, int32 Step) const;
 	int32 GetFirstSeen() const { return static_cast<int32>(ScrollLine); }
 	int32 GetEndOfSeen() const;
 	void PaintSelection(

@@ -9,7 +9,6 @@
 
 #include "Brushes/SlateColorBrush.h"
 #include "Editor.h"
-#include "Framework/MultiBox/MultiBoxBuilder.h"
 #include "Styling/CoreStyle.h"
 #include "Widgets/Input/SComboButton.h"
 #include "Widgets/Input/SSearchBox.h"
@@ -156,90 +155,6 @@ TSharedRef<SWidget> SOutputLog::MakeToolBar()
 			]
 		];
 	// clang-format on
-}
-
-TSharedRef<SWidget> SOutputLog::MakeFilterMenu()
-{
-	FMenuBuilder Menu(true, nullptr);
-	Menu.BeginSection("OutputLogVerbosityEntries", Label(TEXT("Verbosity")));
-	const auto AddVerbosity = [&](const TCHAR* Name, const TCHAR* Hint, bool FLogFilter::*Which) {
-		AddToggle(
-			Menu, Label(Name), Label(Hint), [this, Which] { return Lines->GetFilter().*Which; },
-			[this, Which] { ChangeFilter([Which](FLogFilter& Filter) { Filter.*Which = !(Filter.*Which); }); });
-	};
-	AddVerbosity(TEXT("Messages"), TEXT("Filter the Output Log to show messages"), &FLogFilter::bMessages);
-	AddVerbosity(TEXT("Warnings"), TEXT("Filter the Output Log to show warnings"), &FLogFilter::bWarnings);
-	AddVerbosity(TEXT("Errors"), TEXT("Filter the Output Log to show errors"), &FLogFilter::bErrors);
-	Menu.EndSection();
-	Menu.BeginSection("OutputLogMiscEntries", Label(TEXT("Miscellaneous")));
-	Menu.AddSubMenu(Label(TEXT("Categories")), Label(TEXT("Select Categories to display.")),
-		FNewMenuDelegate::CreateSP(this, &SOutputLog::FillCategoryMenu));
-	Menu.EndSection();
-	return Menu.MakeWidget();
-}
-
-void SOutputLog::FillCategoryMenu(FMenuBuilder& Menu)
-{
-	Menu.BeginSection("OutputLogCategoriesEntries", Label(TEXT("Categories")));
-	AddToggle(
-		Menu, Label(TEXT("Show All")), Label(TEXT("Filter the Output Log to show all categories")),
-		[this] { return Lines->GetFilter().HiddenCategories.empty(); },
-		[this] {
-			ChangeFilter([this](FLogFilter& Filter) {
-				// Taken away, it hides every category there is.
-				const std::vector<std::string> All = Lines->ListCategories();
-				Filter.HiddenCategories =
-					Filter.HiddenCategories.empty() ? std::set<std::string>(All.begin(), All.end()) : std::set<std::string>();
-			});
-		});
-	for (const std::string& Category : Lines->ListCategories())
-	{
-		const FString Name = FromUtf8(Category);
-		AddToggle(
-			Menu, FText::FromString(Name), FText::FromString(TEXT("Filter the Output Log to show category: ") + Name),
-			[this, Category] { return Lines->GetFilter().HiddenCategories.count(Category) == 0; },
-			[this, Category] { ToggleCategory(Category); });
-	}
-	Menu.EndSection();
-}
-
-TSharedRef<SWidget> SOutputLog::MakeViewMenu()
-{
-	FMenuBuilder Menu(true, nullptr);
-	AddToggle(
-		Menu, Label(TEXT("Show Timestamps")), Label(TEXT("Begin each line with the seconds since the start.")),
-		[this] { return Lines->bTimes; },
-		[this] {
-			Lines->bTimes = !Lines->bTimes;
-			LinesWidget->ClearSelection();
-		});
-	AddToggle(
-		Menu, Label(TEXT("Clear on PIE")), Label(TEXT("Clear the log when play begins.")), [this] { return bClearOnPlay; },
-		[this] { bClearOnPlay = !bClearOnPlay; });
-	return Menu.MakeWidget();
-}
-
-TSharedRef<SWidget> SOutputLog::MakeContextMenu()
-{
-	FMenuBuilder Menu(true, nullptr);
-	Menu.AddMenuEntry(Label(TEXT("Copy")), Label(TEXT("Copy the selected text.")), FSlateIcon(),
-		FUIAction(FExecuteAction::CreateSP(LinesWidget.ToSharedRef(), &SLogLines::CopySelection),
-			FCanExecuteAction::CreateSP(LinesWidget.ToSharedRef(), &SLogLines::HasSelection)));
-	Menu.AddMenuEntry(Label(TEXT("Select All")), Label(TEXT("Select all lines.")), FSlateIcon(),
-		FUIAction(FExecuteAction::CreateSP(LinesWidget.ToSharedRef(), &SLogLines::SelectAll)));
-	Menu.AddMenuSeparator();
-	Menu.AddMenuEntry(Label(TEXT("Clear Log")), Label(TEXT("Clears all log messages.")), FSlateIcon(),
-		FUIAction(FExecuteAction::CreateSP(this, &SOutputLog::ClearLog)));
-	return Menu.MakeWidget();
-}
-
-void SOutputLog::AddToggle(
-	FMenuBuilder& Menu, const FText& LabelText, const FText& Hint, std::function<bool()> IsChecked, std::function<void()> Toggle)
-{
-	// Menus close before the panel goes, so the functions may speak of it.
-	Menu.AddMenuEntry(LabelText, Hint, FSlateIcon(),
-		FUIAction(FExecuteAction::CreateLambda(std::move(Toggle)), FCanExecuteAction(), FIsActionChecked::CreateLambda(std::move(IsChecked))),
-		NAME_None, EUserInterfaceActionType::ToggleButton);
 }
 
 void SOutputLog::ChangeFilter(const std::function<void(FLogFilter&)>& Change)

@@ -257,13 +257,18 @@ FDropResult AddDroppedFiles(const std::vector<std::filesystem::path>& FilesAndFo
 	return Drop.Result;
 }
 
-std::string AddDroppedFile(const std::filesystem::path& FileOrFolder)
+std::string AddDroppedFiles(const std::vector<std::string>& FilesAndFolders)
 {
 	FString Content;
 	if (!StandIn::FindAssetFolder(TEXT("/Game"), Content))
 	{
 		return "No project is open.";
 	}
-	return Summarize(AddDroppedFiles({FileOrFolder}, std::filesystem::path(*Content)).Problems);
+	std::vector<std::filesystem::path> Paths;
+	for (const std::string& Name : FilesAndFolders)
+	{
+		Paths.emplace_back(std::u8string(Name.begin(), Name.end()));
+	}
+	return Summarize(AddDroppedFiles(Paths, std::filesystem::path(*Content)).Problems);
 }
 }

@@ -23,6 +23,6 @@ struct FDropResult
 /** Copies look files, and all look files of folders, into a folder of the project, under names that assets may have and that are free. */
 FDropResult AddDroppedFiles(const std::vector<std::filesystem::path>& FilesAndFolders, const std::filesystem::path& TargetFolder);
 
-/** Copies one file or folder into the content folder. Returns "", or one sentence on what could not be added, as a notice does too. */
-std::string AddDroppedFile(const std::filesystem::path& FileOrFolder);
+/** The same into the content folder, with names in UTF-8. Returns "", or one sentence on what could not be added, as a notice does too. */
+std::string AddDroppedFiles(const std::vector<std::string>& FilesAndFolders);
 }

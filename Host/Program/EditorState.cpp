@@ -3,8 +3,8 @@
 #include "Host/Program/EditorState.h"
 
 #include "Host/Editor/Maps.h"
-#include "Host/Program/HostState.h"
 #include "Host/Program/Strings.h"
+#include "Host/Ui/SEditorFrame.h"
 
 #include "LevelEditor.h"
 #include "LevelEditorViewport.h"
@@ -15,7 +15,7 @@
 #include "StandIn/EngineLoop.h"
 #include "StandIn/LevelEditorPanes.h"
 
-#include <map>
+#include <cstdio>
 #include <vector>
 
 namespace TintmillHost
@@ -25,14 +25,19 @@ namespace
 const std::string DefaultLayout = "FourPanes2x2";
 const std::string AllPanes = "None";
 const std::string MapKey = "Map";
-const std::string MaximizedKey = "MaximizedPane";
 const std::string ActiveKey = "ActivePane";
-
+const std::string FrontTabKey = "FrontViewportTab";
+const std::string PanelKey = "BottomTab";
+const std::string BrowserOpenKey = "ContentBrowserOpen";
+const std::string LogOpenKey = "OutputLogOpen";
+const FStateNumber BottomShare{"BottomShare", 0.05, 0.95, 0.3};
+constexpr const char* Yes = "True";
+constexpr const char* No = "False";
 constexpr int LastTab = 4;
 
-std::string TabKey(int Tab)
+std::string TabKey(int Tab, const char* What)
 {
-	return "Tab" + std::to_string(Tab) + "Layout";
+	return "Viewport" + std::to_string(Tab) + What;
 }
 
 std::vector<std::string> KnownLayouts()
@@ -45,19 +50,12 @@ std::vector<std::string> KnownLayouts()
 	return Names;
 }
 
-/** The parts of a pane's key such as "FourPanes2x2.Viewport 1.Viewport0". */
-struct FPaneKey
+/** The last part of a pane's key such as "FourPanes2x2.Viewport 1.Viewport0"; "None" without a pane. */
+std::string GetPaneName(const TSharedPtr<SLevelViewport>& Pane)
 {
-	explicit FPaneKey(const SLevelViewport& Pane) { Pane.GetConfigKey().ToString().ParseIntoArray(Parts, TEXT(".")); }
-
-	std::string Layout() const { return Parts.Num() == 3 ? ToUtf8(Parts[0]) : std::string(); }
-	std::string Pane() const { return Parts.Num() == 3 ? ToUtf8(Parts[2]) : std::string(); }
-
-	/** 1 for "Viewport 1"; 0 for anything else. */
-	int Tab() const { return Parts.Num() == 3 && Parts[1].StartsWith(TEXT("Viewport ")) ? FCString::Atoi(*Parts[1].RightChop(9)) : 0; }
-
-	TArray<FString> Parts;
-};
+	const std::string Key = Pane.IsValid() ? ToUtf8(Pane->GetConfigKey().ToString()) : AllPanes;
+	return Key.substr(Key.rfind('.') + 1);
+}
 
 std::string FindActivePane()
 {
@@ -72,13 +70,47 @@ bool IsMap(const std::string& Name)
 	return FPackageName::IsValidLongPackageName(FromUtf8(Name))
 		&& FPackageName::TryConvertLongPackageNameToFilename(FromUtf8(Name), File, TEXT(".umap")) && FPaths::FileExists(File);
 }
+
+std::string WriteShares(const TArray<float>& Shares)
+{
+	std::string Text;
+	for (const float Share : Shares)
+	{
+		char Number[32];
+		std::snprintf(Number, sizeof(Number), "%.4f", static_cast<double>(Share));
+		Text += (Text.empty() ? "" : " ") + std::string(Number);
+	}
+	return Text;
+}
+
+/** The numbers of a text; none where one of them cannot be a share. */
+TArray<float> ReadShares(const std::string& Text)
+{
+	TArray<FString> Words;
+	TArray<float> Shares;
+	FromUtf8(Text).ParseIntoArray(Words, TEXT(" "));
+	for (const FString& Word : Words)
+	{
+		const float Share = Word.IsNumeric() ? FCString::Atof(*Word) : 0.0f;
+		if (!(Share > 0.01f && Share <= 1.0f))
+		{
+			return {};
+		}
+		Shares.Add(Share);
+	}
+	return Shares;
+}
+
+FName MakeName(const std::string& Text)
+{
+	return FName(*FromUtf8(Text));
+}
 }
 
 void FEditorState::Restore(StandIn::FEngineLoopOptions& InOutOptions)
 {
-	InOutOptions.Layout = FName(*FromUtf8(GetStateWord(TabKey(1), KnownLayouts(), DefaultLayout)));
-	InOutOptions.MaximizedPane =
-		FName(*FromUtf8(GetStateWord(MaximizedKey, {"Viewport0", "Viewport1", "Viewport2", "Viewport3"}, AllPanes)));
+	InOutOptions.Layout = MakeName(GetStateWord(TabKey(1, "Layout"), KnownLayouts(), DefaultLayout));
+	InOutOptions.MaximizedPane = NAME_None;
 	const std::string Map = GetStateText(MapKey, "");
 	if (IsMap(Map))
 	{
@@ -86,52 +118,107 @@ void FEditorState::Restore(StandIn::FEngineLoopOptions& InOutOptions)
 	}
 }
 
-void FEditorState::FinishRestoring()
+void FEditorState::RestoreLevelEditor()
 {
-	const std::string None;
 	FirstActive = FindActivePane();
-	for (int Tab = 2; Tab <= LastTab; ++Tab)
+	for (int Tab = 1; Tab <= LastTab; ++Tab)
 	{
-		const std::string Layout = GetStateWord(TabKey(Tab), KnownLayouts(), None);
-		if (!Layout.empty())
+		const std::string Layout = GetStateWord(TabKey(Tab, "Layout"), KnownLayouts(), Tab == 1 ? DefaultLayout : "");
+		if (Layout.empty())
 		{
-			StandIn::OpenViewportTab(Tab, FName(*FromUtf8(Layout)));
+			continue;
 		}
+		StandIn::OpenViewportTab(Tab, MakeName(Layout));
+		DescribeHandles(Tab, Layout);
+		if (const TArray<float> Shares = ReadShares(GetStateText(TabKey(Tab, "Handles"), "")); Shares.Num() > 0)
+		{
+			StandIn::SetPaneShares(Shares, Tab);
+		}
+		const std::string Pane = GetStateWord(TabKey(Tab, "Filled"), {"Viewport0", "Viewport1", "Viewport2", "Viewport3"}, "");
+		StandIn::MaximizePane(MakeName(Layout + ".Viewport " + std::to_string(Tab) + "." + Pane), true);
+	}
+	const int Front = static_cast<int>(GetStateNumber({FrontTabKey, 1.0, static_cast<double>(LastTab), 1.0}));
+	if (StandIn::GetViewportTabs().Contains(Front))
+	{
+		StandIn::OpenViewportTab(Front, MakeName(DefaultLayout));
 	}
 	const std::string Active = GetStateText(ActiveKey, "");
 	if (!Active.empty() && Active.size() < NAME_SIZE / 2)
 	{
-		StandIn::ActivatePane(FName(*FromUtf8(Active)));
+		StandIn::ActivatePane(MakeName(Active));
 	}
 }
 
-void FEditorState::Keep() const
+void FEditorState::RestoreFrame(SEditorFrame& Frame)
 {
-	std::map<int, std::string> Layouts;
-	std::string Maximized = AllPanes;
-	for (const TSharedPtr<SLevelViewport>& Pane : StandIn::GetPanes())
+	FFrameState State = Frame.GetState();
+	const FFrameState Untouched;
+	State.BottomShare = static_cast<float>(GetStateNumber(BottomShare));
+	State.bContentBrowserOpen = GetStateFlag(BrowserOpenKey, Untouched.bContentBrowserOpen);
+	State.bOutputLogOpen = GetStateFlag(LogOpenKey, Untouched.bOutputLogOpen);
+	State.FrontTab = GetStateWord(PanelKey, {"ContentBrowser", "OutputLog"}, Untouched.FrontTab);
+	Frame.SetState(State);
+}
+
+void FEditorState::Keep(const SEditorFrame* Frame)
+{
+	FValues Values;
+	AddTabs(Values);
+	Values[ActiveKey] = {FindActivePane(), FirstActive};
+	const std::string Map = GetOpenMap();
+	Values[MapKey] = {Map.starts_with("/Temp/") ? "" : Map, ""};
+	if (Frame != nullptr)
 	{
-		const FPaneKey Key(*Pane);
-		Layouts[Key.Tab()] = Key.Layout();
-		if (Key.Tab() == 1 && Pane->IsMaximized())
+		AddFrame(*Frame, Values);
+	}
+	if (Values == Last)
+	{
+		Drag.reset();
+		return;
+	}
+	// At the first frame nothing has changed yet.
+	if (!Drag && !Last.empty())
+	{
+		Drag.emplace();
+	}
+	for (const auto& [Key, Value] : Values)
+	{
+		const auto Before = Last.find(Key);
+		if (Before == Last.end() || Before->second != Value)
 		{
-			Maximized = Key.Pane();
+			SetStateText(Key, Value.Text, Value.Default);
 		}
 	}
-	if (!Layouts[1].empty())
+	Last = std::move(Values);
+}
+
+void FEditorState::AddTabs(FValues& OutValues)
+{
+	const TArray<int32> Open = StandIn::GetViewportTabs();
+	for (int Tab = 1; Tab <= LastTab; ++Tab)
 	{
-		SetStateText(TabKey(1), Layouts[1], DefaultLayout);
+		const bool bOpen = Open.Contains(Tab);
+		const std::string Layout = bOpen ? ToUtf8(StandIn::GetViewportLayout(Tab).ToString()) : std::string();
+		OutValues[TabKey(Tab, "Layout")] = {Layout, Tab == 1 ? DefaultLayout : ""};
+		OutValues[TabKey(Tab, "Handles")] = {bOpen ? DescribeHandles(Tab, Layout) : "", ""};
+		OutValues[TabKey(Tab, "Filled")] = {bOpen ? GetPaneName(StandIn::GetMaximizedPane(Tab)) : AllPanes, AllPanes};
 	}
-	SetStateText(MaximizedKey, Maximized, AllPanes);
-	for (int Tab = 2; Tab <= LastTab; ++Tab)
-	{
-		SetStateText(TabKey(Tab), Layouts[Tab], "");
-	}
-	if (const std::string Active = FindActivePane(); !Active.empty())
-	{
-		SetStateText(ActiveKey, Active, FirstActive);
-	}
-	const std::string Map = GetOpenMap();
-	SetStateText(MapKey, Map.starts_with("/Temp/") ? "" : Map, "");
+	OutValues[FrontTabKey] = {std::to_string(StandIn::GetFrontViewportTab()), "1"};
+}
+
+void FEditorState::AddFrame(const SEditorFrame& Frame, FValues& OutValues)
+{
+	const FFrameState& State = Frame.GetState();
+	const FFrameState Untouched;
+	OutValues[BottomShare.Key] = {WriteShares({State.BottomShare}), WriteShares({Untouched.BottomShare})};
+	OutValues[BrowserOpenKey] = {State.bContentBrowserOpen ? Yes : No, Untouched.bContentBrowserOpen ? Yes : No};
+	OutValues[LogOpenKey] = {State.bOutputLogOpen ? Yes : No, Untouched.bOutputLogOpen ? Yes : No};
+	OutValues[PanelKey] = {State.FrontTab, Untouched.FrontTab};
+}
+
+std::string FEditorState::DescribeHandles(int Tab, const std::string& Layout)
+{
+	const std::string Text = WriteShares(StandIn::GetPaneShares(Tab));
+	return UntouchedHandles.try_emplace(Layout, Text).first->second == Text ? std::string() : Text;
 }
 }

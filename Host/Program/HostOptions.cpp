@@ -2,6 +2,8 @@
 
 #include "Host/Program/HostOptions.h"
 
+#include "Host/Program/PathText.h"
+
 #include <CLI/CLI.hpp>
 
 namespace TintmillHost
@@ -33,22 +35,27 @@ std::variant<FHostOptions, FHostExit> ParseCommandLine(const std::vector<std::st
 	std::string Size = "640x360";
 	std::string WindowSize = "1280x720";
 	std::string Exec;
+	std::string Project;
+	std::string Tour;
+	std::string Resume;
+	std::string OutDir = PathToUtf8(Options.OutDir);
 
 	CLI::App App("Opens a project of look files in an editor and shows its looks on the viewports.", "tintmill-editor");
-	App.add_option("PROJECT,--project", Options.Project, "Folder of look files, or a .uproject file; the demo project if left out");
+	App.add_option("PROJECT,--project", Project, "Folder of look files, or a .uproject file; the demo project if left out");
 	App.add_flag("--headless", Options.bHeadless, "Run without a window");
 	App.add_flag(
 		"--last-session", Options.bLastSession, "Without a window too, begin with the layout and map of the last session and keep them");
 	CLI::Option* const ExecOption = App.add_option("--exec", Exec, "Console commands to run, separated by semicolons ('help' lists them)");
-	App.add_option("--tour", Options.Tour, "Tour file to play: console commands, one a line");
+	App.add_option("--tour", Tour, "Tour file to play: console commands, one a line");
 	App.add_flag("--help-tours", Options.bHelpTours, "Print how tours are written and all their commands, and end");
 	App.add_flag("--times", Options.bTimes, "Print at the end how long the start and every command took");
-	CLI::Option* const ResumeOption = App.add_option("--resume", Options.Resume)->group("");
-	App.add_option("--out", Options.OutDir, "Folder for pictures and pages")->capture_default_str();
+	CLI::Option* const ResumeOption = App.add_option("--resume", Resume)->group("");
+	App.add_option("--out", OutDir, "Folder for pictures and pages")->capture_default_str();
 	App.add_option("--size", Size, "Size of one pane in pixels")->capture_default_str();
 	CLI::Option* const WindowOption =
 		App.add_option("--window", WindowSize, "Size of the editor's window in pixels")->capture_default_str();
-	App.add_option("--scale", Options.Scale, "Pixels for a unit of the window's user interface, from 0.5 to 4; as the display asks for if left out")
+	App.add_option(
+		   "--scale", Options.Scale, "Pixels for a unit of the window's user interface, from 0.5 to 4; as the display asks for if left out")
 		->check(CLI::Range(0.5, 4.0));
 	App.add_flag("--list", Options.bList, "Print what is registered once everything has started, and end");
 
@@ -72,6 +79,10 @@ std::variant<FHostOptions, FHostExit> ParseCommandLine(const std::vector<std::st
 		return FHostExit{2, std::string(Error.what()) + "\n"};
 	}
 
+	Options.Project = PathFromUtf8(Project);
+	Options.Tour = PathFromUtf8(Tour);
+	Options.Resume = PathFromUtf8(Resume);
+	Options.OutDir = PathFromUtf8(OutDir);
 	Options.bWindowSizeGiven = WindowOption->count() > 0;
 	Options.Arguments = Arguments;
 	if (ResumeOption->count() > 0)

@@ -7,8 +7,10 @@
 #include "Host/Commands/EditorCommands.h"
 #include "Host/Commands/FileCommands.h"
 #include "Host/Commands/ListCommands.h"
+#include "Host/Commands/LogCommands.h"
 #include "Host/Commands/MouseCommands.h"
 #include "Host/Commands/PictureCommands.h"
+#include "Host/Commands/PlaceCommands.h"
 #include "Host/Commands/PlayCommands.h"
 #include "Host/Commands/RecordCommands.h"
 #include "Host/Commands/ShotCommands.h"
@@ -128,7 +130,7 @@ void FHostProgram::KeepState()
 {
 	if (bKeepsState)
 	{
-		EditorState.Keep();
+		EditorState.Keep(Window ? &Window->GetFrame() : nullptr);
 	}
 	TickState();
 }
@@ -165,7 +167,7 @@ void FHostProgram::StartEditor()
 	EngineLoop.InitEditor();
 	if (bKeepsState)
 	{
-		EditorState.FinishRestoring();
+		EditorState.RestoreLevelEditor();
 	}
 	StartClock.EndPhase("level editor, panes restored");
 	ResizePanes();
@@ -190,6 +192,10 @@ FEditorWindow& FHostProgram::GetWindow()
 		Content.IsReadOnly = [this] { return !Project.GetReadOnlySentence().empty(); };
 		Window.emplace(FIntPoint(Options.WindowWidth, Options.WindowHeight), Content,
 			[this](const FSlateBrush& Brush, const FIntPoint& DeviceSize) { return LookBuilders->FindPicture(Brush, DeviceSize); });
+		if (bKeepsState)
+		{
+			FEditorState::RestoreFrame(Window->GetFrame());
+		}
 		ResizePanes();
 		// The first frame lays the panes out, the second draws them in their size.
 		TickEditor(2.0 * FrameSeconds);
@@ -204,8 +210,10 @@ void FHostProgram::RegisterCommands()
 	AddEditorCommands(Console, *this);
 	AddFileCommands(Console, *this);
 	AddListCommands(Console);
+	AddLogCommands(Console, Log);
 	AddMouseCommands(Console, *this);
 	AddPictureCommands(Console, *this);
+	AddPlaceCommands(Console, *this);
 	AddPlayCommands(Console, *this);
 	AddRecordCommands(Console);
 	AddShotCommands(Console, *this);
@@ -238,18 +246,18 @@ FTour FHostProgram::ChooseTour(std::string& OutProblem) const
 	}
 	if (Options.bList || Options.Exec)
 	{
-		return MakeTour("", Options.bList ? "registered" : *Options.Exec);
+		return MakeTourOfCommands(Options.bList ? "registered" : *Options.Exec);
 	}
 	if (!HasPngFiles())
 	{
-		return MakeTour("", DefaultCommandsWithoutPictures);
+		return MakeTourOfCommands(DefaultCommandsWithoutPictures);
 	}
 	if (Project.IsDemo())
 	{
 		OutProblem = ReadTour(ShortenPath(FProject::GetDemoTour()), Tour);
 		return Tour;
 	}
-	return MakeTour("", MakeProjectRoad(Project.GetName(), ListLooks()));
+	return MakeTourOfCommands(MakeProjectRoad(Project.GetName(), ListLooks()));
 }
 
 bool FHostProgram::RunCommands()
@@ -338,6 +346,7 @@ bool FHostProgram::WriteGallery()
 
 void FHostProgram::ExitEditor()
 {
+	KeepState();
 	FlushState();
 	ContentWatch.reset();
 	LookBuilders.reset();

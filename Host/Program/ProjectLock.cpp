@@ -6,6 +6,25 @@
 
 namespace TintmillHost
 {
+namespace
+{
+/** Removes a folder and those in it as far as there are no files in them. */
+void RemoveEmptyFolders(const std::filesystem::path& Folder)
+{
+	std::error_code Error;
+	for (const std::filesystem::directory_entry& Entry : std::filesystem::directory_iterator(Folder, Error))
+	{
+		std::error_code EntryError;
+		if (Entry.is_directory(EntryError) && !Entry.is_symlink(EntryError))
+		{
+			RemoveEmptyFolders(Entry.path());
+		}
+	}
+	// Fails where a file is left.
+	std::filesystem::remove(Folder, Error);
+}
+}
+
 FProjectLock::~FProjectLock()
 {
 	if (Handle != -1)
@@ -14,9 +33,7 @@ FProjectLock::~FProjectLock()
 	}
 	if (bMadeFolder)
 	{
-		// Stays where something has been saved in it.
-		std::error_code Error;
-		std::filesystem::remove(File.parent_path(), Error);
+		RemoveEmptyFolders(File.parent_path());
 	}
 }
 

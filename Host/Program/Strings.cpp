@@ -15,12 +15,6 @@ FString FromUtf8(const std::string& String)
 	return FString(UTF8_TO_TCHAR(String.c_str()));
 }
 
-std::string PathToUtf8(const std::filesystem::path& Path)
-{
-	const std::u8string Text = Path.u8string();
-	return std::string(Text.begin(), Text.end());
-}
-
 FString PathToEngine(const std::filesystem::path& Path)
 {
 	const std::u8string Text = Path.generic_u8string();

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "CoreMinimal.h"
+#include "Host/Program/PathText.h"
 
 #include <filesystem>
 #include <string>
@@ -16,9 +17,6 @@ std::string ToUtf8(const FString& String);
 
 /** UTF-8 as an engine string. */
 FString FromUtf8(const std::string& String);
-
-/** A path as UTF-8, with the system's own slashes. */
-std::string PathToUtf8(const std::filesystem::path& Path);
 
 /** A path as the engine writes paths: with forward slashes. */
 FString PathToEngine(const std::filesystem::path& Path);

@@ -52,8 +52,8 @@ FText GetProgressText()
 TOptional<float> GetProgressPart()
 {
 	const FProgress* const Progress = GetCurrentProgress();
-	const float Part = Progress ? static_cast<float>(Progress->GetFraction()) : 0.0f;
-	return Part > 0.0f ? TOptional<float>(Part) : TOptional<float>();
+	const float Share = Progress ? static_cast<float>(Progress->GetFraction()) : 0.0f;
+	return Share > 0.0f ? TOptional<float>(Share) : TOptional<float>();
 }
 }
 
@@ -82,7 +82,11 @@ void SStatusLine::Construct(const FArguments& InArgs)
 	.VAlign(VAlign_Center)
 	.Padding(8.0f, 0.0f)
 	[
-		MakeProgress()
+		// Takes its place also while there is nothing in it.
+		SNew(SBox)
+		[
+			MakeProgress()
+		]
 	];
 	Row->AddSlot()
 	.AutoWidth()

@@ -3,6 +3,7 @@
 #include "Host/TourRun/KeptSettings.h"
 
 #include "Host/Gallery/Packing.h"
+#include "Host/Program/Strings.h"
 
 #include <fstream>
 #include <iterator>
@@ -45,7 +46,8 @@ std::string FKeptSettings::PutBack() const
 		std::filesystem::remove(File, Error);
 		return Error ? "The settings " + File.string() + " cannot be taken away again: " + Error.message() + "." : std::string();
 	}
-	const std::filesystem::path Unfinished = File.string() + ".new";
+	std::filesystem::path Unfinished = File;
+	Unfinished += ".new";
 	bool bWritten = false;
 	{
 		std::ofstream Stream(Unfinished, std::ios::binary);
@@ -77,7 +79,7 @@ void FKeptSettings::Save(std::ostream& Stream) const
 void FKeptSettings::Load(std::istream& Stream)
 {
 	bKept = UnpackNumber(Stream) > 0.0;
-	File = UnpackText(Stream);
+	File = PathFromUtf8(UnpackText(Stream));
 	const bool bHasBytes = UnpackNumber(Stream) > 0.0;
 	Bytes = UnpackText(Stream);
 	if (!bHasBytes)

@@ -15,7 +15,17 @@ std::string FTour::GetPlace(size_t Index) const
 
 FTour MakeTour(const std::string& Name, const std::string& Text)
 {
-	return {Name, SplitNumberedCommands(Text)};
+	return {Name, SplitLines(Text)};
+}
+
+FTour MakeTourOfCommands(const std::string& Text)
+{
+	FTour Tour;
+	for (const std::string& Command : SplitCommands(Text))
+	{
+		Tour.Commands.push_back({0, Command});
+	}
+	return Tour;
 }
 
 std::string ReadTour(const std::filesystem::path& File, FTour& OutTour)

@@ -24,8 +24,11 @@ struct FTour
 	std::string GetPlace(size_t Index) const;
 };
 
-/** Commands from a text. */
+/** Commands of a file's text: one a line, so that captions may hold semicolons. */
 FTour MakeTour(const std::string& Name, const std::string& Text);
+
+/** Commands that stand in no file, parted by semicolons or lines. */
+FTour MakeTourOfCommands(const std::string& Text);
 
 /** Reads a tour file. Returns an empty string, or one sentence why it could not. */
 std::string ReadTour(const std::filesystem::path& File, FTour& OutTour);

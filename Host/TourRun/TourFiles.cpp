@@ -4,6 +4,7 @@
 
 #include "Host/Console/Console.h"
 #include "Host/Gallery/Packing.h"
+#include "Host/Program/Strings.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -18,7 +19,7 @@ namespace
 /** The file of a name below a folder. Throws FCommandError for names that lead out of it. */
 std::filesystem::path FindPlace(const std::filesystem::path& Folder, const std::string& Name)
 {
-	const std::filesystem::path Relative(Name);
+	const std::filesystem::path Relative = PathFromUtf8(Name);
 	const bool bLeadsOut = std::find(Relative.begin(), Relative.end(), "..") != Relative.end();
 	if (Relative.empty() || Relative.is_absolute() || Relative.has_root_name() || bLeadsOut)
 	{
@@ -42,7 +43,7 @@ std::vector<std::filesystem::path> LoadPaths(std::istream& Stream)
 	const double Count = UnpackNumber(Stream);
 	for (double Index = 0.0; Stream && Index < Count; ++Index)
 	{
-		Paths.push_back(UnpackText(Stream));
+		Paths.push_back(PathFromUtf8(UnpackText(Stream)));
 	}
 	return Paths;
 }

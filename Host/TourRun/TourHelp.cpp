@@ -23,7 +23,7 @@ constexpr const char* Syntax = R"(A tour is a text file of console commands, one
   shot done.png The look is on      a picture for the page, with its caption
 
 Play one with:  tintmill-editor --headless --tour FILE --out FOLDER
-Several commands on one line stand apart by semicolons. Words with blanks stand in quotation marks where a command takes more
+After --exec the same commands are parted by semicolons. Words with blanks stand in quotation marks where a command takes more
 words after them; at a command's end they need none. PANE is a pane's number, 0 to 3, or its name. Where nothing bears a label,
 the run ends, says so with file, line and the labels that are in sight, leaves the page of what went before, and returns 2.
 The page, FOLDER/index.html, shows every picture with its caption, its commands and their times, and the log.

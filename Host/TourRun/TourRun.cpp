@@ -68,24 +68,10 @@ FTourRun::FTourRun(const FConsole& InConsole, FGalleryPage& InPage, const FHostL
 
 bool FTourRun::Play(const FTour& Tour, std::ostream& Output, std::ostream& Errors)
 {
-	const FClock::time_point Start = FClock::now();
-	while (NextCommand < Tour.Commands.size() && !bWantsRestart)
-	{
-		if (Listener.ShouldEnd && Listener.ShouldEnd())
-		{
-			return true;
-		}
-		const size_t Index = NextCommand++;
-		if (!Tour.Name.empty() && SecondsSince(Start) >= QuietSeconds)
-		{
-			Errors << '[' << Index + 1 << '/' << Tour.Commands.size() << "] " << Tour.Commands[Index].Text << std::endl;
-		}
-		if (!RunCommand(Tour, Index, Output, Errors))
-		{
-			return false;
-		}
-	}
-	return true;
+	bPlaying = true;
+	const bool bDone = PlayCommands(Tour, Output, Errors);
+	bPlaying = false;
+	return bDone;
 }
 
 std::vector<FGalleryLogLine> FTourRun::MakeLog() const
@@ -146,6 +132,28 @@ bool FTourRun::TakeOver(std::istream& Stream)
 	KeptSettings.Load(Stream);
 	Files.TakeOver(Stream);
 	return Page.Load(Stream);
+}
+
+bool FTourRun::PlayCommands(const FTour& Tour, std::ostream& Output, std::ostream& Errors)
+{
+	const FClock::time_point Start = FClock::now();
+	while (NextCommand < Tour.Commands.size() && !bWantsRestart)
+	{
+		if (Listener.ShouldEnd && Listener.ShouldEnd())
+		{
+			return true;
+		}
+		const size_t Index = NextCommand++;
+		if (!Tour.Name.empty() && SecondsSince(Start) >= QuietSeconds)
+		{
+			Errors << '[' << Index + 1 << '/' << Tour.Commands.size() << "] " << Tour.Commands[Index].Text << std::endl;
+		}
+		if (!RunCommand(Tour, Index, Output, Errors))
+		{
+			return false;
+		}
+	}
+	return true;
 }
 
 bool FTourRun::RunCommand(const FTour& Tour, size_t Index, std::ostream& Output, std::ostream& Errors)

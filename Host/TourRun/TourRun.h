@@ -48,6 +48,9 @@ public:
 	/** Ends the tour after the command that runs; another run of the program goes on with it. */
 	void AskForRestart() { bWantsRestart = true; }
 
+	/** Whether commands are being carried out. */
+	bool IsPlaying() const { return bPlaying; }
+
 	/** Whether another run is to go on. */
 	bool WantsRestart() const { return bWantsRestart; }
 
@@ -77,6 +80,7 @@ private:
 		FGalleryLogLine Line;
 	};
 
+	bool PlayCommands(const FTour& Tour, std::ostream& Output, std::ostream& Errors);
 	bool RunCommand(const FTour& Tour, size_t Index, std::ostream& Output, std::ostream& Errors);
 	void AddLine(const std::string& Kind, const std::string& Text);
 
@@ -90,6 +94,7 @@ private:
 	std::vector<FAddedLine> AddedLines;
 	std::vector<FGalleryLogLine> EarlierLog;
 	size_t NextCommand = 0;
+	bool bPlaying = false;
 	bool bWantsRestart = false;
 };
 }

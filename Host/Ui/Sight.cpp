@@ -8,6 +8,7 @@
 #include "Host/Program/Strings.h"
 
 #include "Framework/Application/SlateApplication.h"
+#include "Layout/ArrangedChildren.h"
 #include "Layout/Children.h"
 #include "StandIn/AssetPickerRows.h"
 #include "StandIn/MenuRows.h"
@@ -40,7 +41,7 @@ FName GetShortType(const SWidget& Widget)
 
 bool IsButton(const FName& Type)
 {
-	static const FName Types[] = {"SButton", "SEditorViewportToolbarMenu", "SEditorViewportViewMenu", "SLevelEditorViewportViewMenu"};
+	static const FName Types[] = {"SButton", "SComboButton", "SMenuBarHead", "STabHead", "SEditorViewportToolbarMenu", "SEditorViewportViewMenu", "SLevelEditorViewportViewMenu"};
 	return std::find(std::begin(Types), std::end(Types), Type) != std::end(Types);
 }
 
@@ -101,6 +102,17 @@ public:
 		{
 			// One that shows a picture is known by its name.
 			Note(ESeenKind::Button, Widget->GetTag().ToString(), *Widget, bNowEnabled);
+		}
+		if (Type == "SToolBarRow")
+		{
+			// Buttons without room are in a menu.
+			FArrangedChildren Arranged(EVisibility::Visible);
+			Widget->ArrangeChildren(Widget->GetCachedGeometry(), Arranged);
+			for (int32 Index = 0; Index < Arranged.Num(); ++Index)
+			{
+				Walk(Arranged[Index].Widget, bNowEnabled, bInButton);
+			}
+			return;
 		}
 		// The texts of a menu row are the row's label already.
 		FChildren* const Children = Widget->GetChildren();
@@ -173,7 +185,7 @@ private:
 			FSeen& Thing = Note(ESeenKind::Tile, Place.Item->Label, *Browser, true);
 			Thing.Center = Place.Center;
 			Thing.bChecked = Place.bSelected;
-			Thing.bMarked = Place.Notches == 0 && !GetAssetProblem(*Place.Item).IsEmpty();
+			Thing.bMarked = Place.bInSight && !GetAssetProblem(*Place.Item).IsEmpty();
 			Thing.ScrollRows = -Place.Notches;
 			Thing.ListCenter = Browser->GetTilesCenter();
 		}

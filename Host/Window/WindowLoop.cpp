@@ -47,6 +47,7 @@ FWindowLoop::FWindowLoop(FHostProgram& InProgram, FSdlWindow& InDisplay)
 
 void FWindowLoop::Run()
 {
+	Program.GetSceneViews().HurryWhileMoving();
 	FitToDisplay();
 	SDL_StartTextInput();
 	while (!MustLeave())
@@ -96,10 +97,10 @@ void FWindowLoop::Handle(const SDL_Event& Event)
 	if (Input.Handle(Event))
 	{
 		Pacer.Wake(GetNow());
-		for (const std::string& File : Input.TakeDroppedFiles())
+		if (const std::vector<std::string> Files = Input.TakeDroppedFiles(); !Files.empty())
 		{
 			// What cannot be added makes a notice.
-			AddDroppedFile(File);
+			AddDroppedFiles(Files);
 			NextPoll = GetNow();
 		}
 	}

@@ -7,27 +7,29 @@
 #include <cstdlib>
 #include <string_view>
 
-// Tours: commands come in the order of their lines and have words, and the numbered ones are the others.
+// Tours: commands come in the order of their lines, none is empty, and each can be split into words.
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* Data, std::size_t Size)
 {
 	const std::string_view Text(reinterpret_cast<const char*>(Data), Size);
-	const std::vector<TintmillHost::FNumberedCommand> Numbered = TintmillHost::SplitNumberedCommands(Text);
-	const std::vector<std::string> Plain = TintmillHost::SplitCommands(Text);
 	const int NumLines = 1 + static_cast<int>(std::count(Text.begin(), Text.end(), '\n'));
-	int Line = 1;
-	if (Numbered.size() != Plain.size())
+	int Line = 0;
+	for (const TintmillHost::FNumberedCommand& Command : TintmillHost::SplitLines(Text))
 	{
-		std::abort();
-	}
-	for (std::size_t Index = 0; Index < Numbered.size(); ++Index)
-	{
-		if (Numbered[Index].Text != Plain[Index] || Plain[Index].empty() || Numbered[Index].Line < Line || Numbered[Index].Line > NumLines)
+		if (Command.Text.empty() || Command.Line <= Line || Command.Line > NumLines)
 		{
 			std::abort();
 		}
-		Line = Numbered[Index].Line;
-		TintmillHost::SplitWords(Plain[Index]);
+		Line = Command.Line;
+		TintmillHost::SplitWords(Command.Text);
+	}
+	for (const std::string& Command : TintmillHost::SplitCommands(Text))
+	{
+		if (Command.empty())
+		{
+			std::abort();
+		}
+		TintmillHost::SplitWords(Command);
 	}
 	return 0;
 }

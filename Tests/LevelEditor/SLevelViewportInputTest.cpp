@@ -35,9 +35,9 @@ protected:
 	}
 };
 
-TEST_F(FLevelViewportInputTest, GivesEachPaneAQuarterOfTheWindow)
+TEST_F(FLevelViewportInputTest, GivesEachPaneAQuarterOfWhatTheHandlesLeave)
 {
-	EXPECT_EQ(GetPane(2)->GetActiveViewport()->GetSizeXY(), FIntPoint(400, 300));
+	EXPECT_EQ(GetPane(2)->GetActiveViewport()->GetSizeXY(), FIntPoint(398, 298));
 }
 
 TEST_F(FLevelViewportInputTest, GivesAMaximizedPaneTheWholeWindow)
@@ -50,7 +50,7 @@ TEST_F(FLevelViewportInputTest, GivesAMaximizedPaneTheWholeWindow)
 TEST_F(FLevelViewportInputTest, DrawsAPaneOnTheTickAfterItGotItsSize)
 {
 	Loop.Tick();
-	EXPECT_EQ(GetPane(2)->GetSceneViewport()->GetPresentedSurface().Size, FIntPoint(400, 300));
+	EXPECT_EQ(GetPane(2)->GetSceneViewport()->GetPresentedSurface().Size, FIntPoint(398, 298));
 }
 
 TEST_F(FLevelViewportInputTest, MakesAClickedPaneTheOneThatIsWorkedIn)
@@ -69,7 +69,7 @@ TEST_F(FLevelViewportInputTest, GivesAGameTheSizeOfItsPane)
 {
 	Play(GetPane(2));
 	Loop.Tick();
-	EXPECT_EQ(GEditor->GetPIEViewport()->GetSizeXY(), FIntPoint(400, 300));
+	EXPECT_EQ(GEditor->GetPIEViewport()->GetSizeXY(), FIntPoint(398, 298));
 }
 
 TEST_F(FLevelViewportInputTest, GivesAGameInAWindowItsOwnSize)

@@ -2,10 +2,13 @@
 
 #include "SLevelViewportToolBar.h"
 #include "SEditorViewportViewMenuContext.h"
+#include "StandIn/BrushShape.h"
 #include "StandIn/ViewportToolBarButtons.h"
 #include "Support/EditorFixture.h"
 #include "Support/MenuUser.h"
 #include "ToolMenus.h"
+
+#include <set>
 
 namespace
 {
@@ -194,6 +197,13 @@ TEST_F(FLevelViewportToolBarTest, OpensTheViewMenuAgainOnAThirdClick)
 	EXPECT_EQ(User->CountMenus(), 1);
 }
 
+TEST_F(FLevelViewportToolBarTest, OpensTheMenuOfTheButtonThatHasTheKeyboard)
+{
+	FSlateApplication::Get().SetKeyboardFocus(FindViewButton(1).Widget);
+	User->Press(EKeys::Enter);
+	EXPECT_TRUE(IsText(User->GetHeadings(), TEXT("View Mode|Collision|Landscape|Exposure")));
+}
+
 TEST_F(FLevelViewportToolBarTest, LeavesNoPaneBehindWhenTheLevelEditorCloses)
 {
 	OpenViewMenu(0);
@@ -204,4 +214,24 @@ TEST_F(FLevelViewportToolBarTest, LeavesNoPaneBehindWhenTheLevelEditorCloses)
 	const bool bGone = !Pane.IsValid();
 	StandIn::OpenLevelEditor("OnePane", NAME_None);
 	EXPECT_TRUE(bGone);
+}
+
+TEST_F(FLevelViewportToolBarTest, EveryViewModeHasAnIconOfItsOwnInOneColumn)
+{
+	OpenViewMenu(0);
+	const TSharedRef<SWindow> Window = FSlateApplication::Get().GetVisibleMenuWindow().ToSharedRef();
+	std::set<StandIn::EBrushShape> Icons;
+	std::set<float> Columns;
+	for (const FSlateDrawElement& Element : Window->GetElementList().GetElements())
+	{
+		const bool bBox = Element.GetElementType() == EElementType::ET_Box;
+		const StandIn::EBrushShape Shape = bBox ? StandIn::GetBrushShape(Element.GetBrush()) : StandIn::EBrushShape::None;
+		if (Shape >= StandIn::EBrushShape::ViewLit && Shape <= StandIn::EBrushShape::ViewVisibilityCollision)
+		{
+			Icons.insert(Shape);
+			Columns.insert(Element.GetPosition().X);
+		}
+	}
+	EXPECT_EQ(Icons.size(), 11u);
+	EXPECT_EQ(Columns.size(), 1u);
 }

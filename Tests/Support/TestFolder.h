@@ -37,24 +37,28 @@ public:
 	/** Full name of something in the folder, "" for the folder itself; with forward slashes. */
 	FString Path(const std::string& Leaf = "") const
 	{
-		const std::string Full = Leaf.empty() ? Folder.generic_string() : (Folder / Leaf).generic_string();
+		const std::string Full = Leaf.empty() ? Folder.generic_string() : NativePath(Leaf).generic_string();
 		return FString(UTF8_TO_TCHAR(Full.c_str()));
 	}
 
 	/** The same for the C++ library. */
-	std::filesystem::path NativePath(const std::string& Leaf) const { return Folder / Leaf; }
+	std::filesystem::path NativePath(const std::string& Leaf) const
+	{
+		// Names in tests are UTF-8, also where the system has another encoding for narrow text.
+		return Folder / std::filesystem::path(std::u8string(Leaf.begin(), Leaf.end()));
+	}
 
 	/** Writes a file's bytes, making folders on the way. */
 	void Write(const std::string& Leaf, const std::string& Bytes) const
 	{
-		std::filesystem::create_directories((Folder / Leaf).parent_path());
-		std::ofstream(Folder / Leaf, std::ios::binary) << Bytes;
+		std::filesystem::create_directories(NativePath(Leaf).parent_path());
+		std::ofstream(NativePath(Leaf), std::ios::binary) << Bytes;
 	}
 
 	/** Reads a file's bytes; empty when there is none. */
 	std::string Read(const std::string& Leaf) const
 	{
-		std::ifstream File(Folder / Leaf, std::ios::binary);
+		std::ifstream File(NativePath(Leaf), std::ios::binary);
 		return std::string(std::istreambuf_iterator<char>(File), std::istreambuf_iterator<char>());
 	}
 
@@ -62,7 +66,7 @@ public:
 	std::vector<std::string> List(const std::string& Leaf = "") const
 	{
 		std::vector<std::string> Names;
-		for (const std::filesystem::directory_entry& Entry : std::filesystem::directory_iterator(Folder / Leaf))
+		for (const std::filesystem::directory_entry& Entry : std::filesystem::directory_iterator(NativePath(Leaf)))
 		{
 			Names.push_back(Entry.path().filename().string());
 		}

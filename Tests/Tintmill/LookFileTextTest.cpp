@@ -37,6 +37,13 @@ TEST(LookFileText, DropsAByteOrderMark)
 		"a");
 }
 
+TEST(LookFileText, DropsAllByteOrderMarksOfJoinedFiles)
+{
+	EXPECT_EQ(Normalized("\xef\xbb\xbf\xef\xbb\xbf"
+						 "LUT_3D_SIZE 2"),
+		"LUT_3D_SIZE 2");
+}
+
 TEST(LookFileText, RefusesUtf16)
 {
 	EXPECT_EQ(Refused("\xff\xfe"

@@ -1,5 +1,6 @@
 // Copyright The Tintmill authors. All rights reserved.
 
+#include "Widgets/SBoxPanel.h"
 #include "Widgets/STintmillWidget.h"
 
 #include "TintmillEditor/ViewMenuFixture.h"
@@ -536,6 +537,13 @@ TEST_F(FTintmillWidget, HoldsTheMenuInAVerticalAndAHorizontalBox)
 	const TSharedRef<SWidget> Menu = GetOnlyChild(Horizontal);
 	EXPECT_EQ(ToStd(Vertical->GetType()) + " " + ToStd(Horizontal->GetType()) + " " + ToStd(Menu->GetType()),
 		"SVerticalBox SHorizontalBox SMultiBoxWidget");
+}
+
+TEST_F(FTintmillWidget, HoldsTheMenuInTheMiddleOfTheHorizontalBox)
+{
+	// The box is no higher than the menu, so that only its slot tells.
+	const TSharedRef<SWidget> Horizontal = GetOnlyChild(GetOnlyChild(Make()));
+	EXPECT_EQ(StaticCastSharedRef<SHorizontalBox>(Horizontal)->GetSlot(0).VAlignment, VAlign_Center);
 }
 
 TEST_F(FTintmillWidget, WishesForFourUnitsMoreThanTheMenuIsWide)

@@ -2,6 +2,8 @@
 
 #include "Host/Program/ProgramText.h"
 
+#include "Host/Program/PathText.h"
+
 #ifndef WIN32_LEAN_AND_MEAN
 #define WIN32_LEAN_AND_MEAN
 #endif
@@ -11,8 +13,6 @@
 #include <windows.h>
 
 #include <shellapi.h>
-
-#include <filesystem>
 
 namespace TintmillHost
 {
@@ -24,7 +24,7 @@ std::vector<std::string> GetProgramArguments(int, char**)
 	wchar_t** const Words = CommandLineToArgvW(GetCommandLineW(), &Count);
 	for (int Index = 1; Words != nullptr && Index < Count; ++Index)
 	{
-		Utf8.push_back(std::filesystem::path(Words[Index]).string());
+		Utf8.push_back(PathToUtf8(Words[Index]));
 	}
 	LocalFree(Words);
 	return Utf8;

@@ -2,6 +2,8 @@
 
 #include "Host/TourRun/RunAgain.h"
 
+#include "Host/Program/PathText.h"
+
 #include <cstdio>
 #include <filesystem>
 #include <iostream>
@@ -38,7 +40,7 @@ int RunAgain(const std::vector<std::string>& Arguments)
 	std::wstring Line = Quote(Program);
 	for (const std::string& Argument : Arguments)
 	{
-		Line += L" " + Quote(std::filesystem::path(Argument).wstring());
+		Line += L" " + Quote(PathFromUtf8(Argument).native());
 	}
 	std::cout.flush();
 	std::fflush(nullptr);

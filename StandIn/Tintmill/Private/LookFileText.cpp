@@ -115,14 +115,16 @@ bool SameWord(std::string_view A, std::string_view B)
 
 bool NormalizeText(std::string& InOutText, FProblem& OutProblem)
 {
-	const std::string_view View = InOutText;
-	if (View.substr(0, 2) == "\xff\xfe" || View.substr(0, 2) == "\xfe\xff")
+	// Programs that join files leave more than one mark.
+	std::size_t MarkBytes = 0;
+	while (InOutText.compare(MarkBytes, 3, "\xef\xbb\xbf") == 0)
+	{
+		MarkBytes += 3;
+	}
+	InOutText.erase(0, MarkBytes);
+	if (InOutText.compare(0, 2, "\xff\xfe") == 0 || InOutText.compare(0, 2, "\xfe\xff") == 0)
 	{
 		return Refuse(OutProblem, 0, "the file is UTF-16 text; save it as plain text or UTF-8");
-	}
-	if (View.substr(0, 3) == "\xef\xbb\xbf")
-	{
-		InOutText.erase(0, 3);
 	}
 	LookFileTextPrivate::UnifyLineEnds(InOutText);
 	std::int64_t Line = 1;

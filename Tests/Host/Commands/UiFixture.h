@@ -33,7 +33,7 @@ protected:
 	FProgramResult Run(const std::string& Commands) const
 	{
 		return RunProgram(TINTMILL_EDITOR,
-			{"--headless", "--size", "16x16", "--window", "1000x560", "--out", Folder.NativePath("out").string(), "--project",
+			{"--headless", "--size", "16x16", "--window", "1000x720", "--out", Folder.NativePath("out").string(), "--project",
 				Folder.NativePath("Project").string(), "--exec", Commands});
 	}
 

@@ -88,7 +88,7 @@ protected:
 		Project.Write(
 			"Content/Odd/Returns.cube", "\xEF\xBB\xBFTITLE \"x\"\r\nDOMAIN_MIN 0 0 0\r\nDOMAIN_MAX 1 1 1\r\nLUT_3D_SIZE 2\r\n" + Rows);
 		Project.Write("Content/Odd/Folder.cube/Inner.cube", MakeLook());
-		const std::filesystem::path Folder(TintmillHost::ToUtf8(Project.Path("Content/Odd")));
+		const std::filesystem::path Folder = TintmillHost::PathFromUtf8(TintmillHost::ToUtf8(Project.Path("Content/Odd")));
 		std::ofstream(Folder / "Giant.cube") << "LUT_3D_SIZE 2\n";
 		std::filesystem::resize_file(Folder / "Giant.cube", 200u << 20);
 		// Where links cannot be made there is nothing to get lost in.
@@ -172,7 +172,7 @@ TEST_F(LooksThatChange, ANewFileAppears)
 
 TEST_F(LooksThatChange, ARemovedFileDisappearsThoughItsLookWasLoaded)
 {
-	std::filesystem::remove(std::filesystem::path(TintmillHost::ToUtf8(Project.Path("Content/Looks/Teal.cube"))));
+	std::filesystem::remove(TintmillHost::PathFromUtf8(TintmillHost::ToUtf8(Project.Path("Content/Looks/Teal.cube"))));
 	Rescan();
 	Wait(0.1);
 	EXPECT_EQ(ListItems(), "Film|Amber|Cyan");
@@ -181,7 +181,7 @@ TEST_F(LooksThatChange, ARemovedFileDisappearsThoughItsLookWasLoaded)
 TEST_F(LooksThatChange, ARemovedFileIsSelectedNoMore)
 {
 	Click("Teal");
-	std::filesystem::remove(std::filesystem::path(TintmillHost::ToUtf8(Project.Path("Content/Looks/Teal.cube"))));
+	std::filesystem::remove(TintmillHost::PathFromUtf8(TintmillHost::ToUtf8(Project.Path("Content/Looks/Teal.cube"))));
 	Rescan();
 	Wait(0.1);
 	EXPECT_EQ(ListSelection(), "");
@@ -207,7 +207,7 @@ TEST_F(LooksThatChange, ANewFolderAppearsInTheTree)
 TEST_F(LooksThatChange, AShownFolderThatGoesAwayGivesWayToTheOneAbove)
 {
 	Browser->ShowFolder(TEXT("/Game/Looks/Film"));
-	std::filesystem::remove_all(std::filesystem::path(TintmillHost::ToUtf8(Project.Path("Content/Looks/Film"))));
+	std::filesystem::remove_all(TintmillHost::PathFromUtf8(TintmillHost::ToUtf8(Project.Path("Content/Looks/Film"))));
 	Rescan();
 	Wait(0.1);
 	EXPECT_EQ(ToText(Browser->GetFolder()), "/Game/Looks");

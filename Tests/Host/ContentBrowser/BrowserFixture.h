@@ -6,6 +6,7 @@
 #include "Host/Assets/TextureAssets.h"
 #include "Host/Commands/Labels.h"
 #include "Host/ContentBrowser/SContentBrowser.h"
+#include "Host/Program/PathText.h"
 #include "Host/Program/Strings.h"
 #include "Host/Ui/LookThumbnails.h"
 #include "Host/Ui/Person.h"

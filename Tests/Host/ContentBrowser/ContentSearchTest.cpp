@@ -96,6 +96,13 @@ TEST_F(ContentSearch, DownInTheSearchGoesToTheFirstTile)
 	EXPECT_EQ(ListSelection(), "Teal");
 }
 
+TEST_F(ContentSearch, ControlAndFGoToTheSearchFromAnywhereInTheContentBrowser)
+{
+	ClickFolder(TEXT("/Game/Looks"));
+	PressControl(EKeys::F);
+	EXPECT_TRUE(See("Search Content").bFocused);
+}
+
 TEST_F(ContentSearch, ABreadcrumbShowsTheFolderAbove)
 {
 	Browser->ShowFolder(TEXT("/Game/Looks/Film"));
@@ -148,7 +155,7 @@ TEST_F(ContentSearch, TheArrowKeysExpandAndShowFoldersInTheTree)
 
 TEST_F(ContentSearch, AnEmptyFolderSaysWhatCanBeDone)
 {
-	std::filesystem::create_directory(std::filesystem::path(TintmillHost::ToUtf8(Project.Path("Content/Empty"))));
+	std::filesystem::create_directory(TintmillHost::PathFromUtf8(TintmillHost::ToUtf8(Project.Path("Content/Empty"))));
 	IAssetRegistry::GetChecked().AddPath(TEXT("/Game/Empty"));
 	Browser->ShowFolder(TEXT("/Game/Empty"));
 	Wait(0.1);

@@ -14,7 +14,7 @@ class NewAsset : public FBrowserFixture
 protected:
 	bool HasFile(const char* Path) const
 	{
-		return std::filesystem::exists(std::filesystem::path(TintmillHost::ToUtf8(Project.Path(Path))));
+		return std::filesystem::exists(TintmillHost::PathFromUtf8(TintmillHost::ToUtf8(Project.Path(Path))));
 	}
 
 	/** The name as it is edited. */
@@ -210,7 +210,7 @@ protected:
 	{
 		NewAsset::SetUp();
 		BeginNewLook();
-		const std::filesystem::path Looks(TintmillHost::ToUtf8(Project.Path("Content/Looks")));
+		const std::filesystem::path Looks = TintmillHost::PathFromUtf8(TintmillHost::ToUtf8(Project.Path("Content/Looks")));
 		std::filesystem::remove_all(Looks);
 		std::ofstream(Looks) << "in the way";
 		Type("Fresh");

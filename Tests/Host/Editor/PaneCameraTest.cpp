@@ -106,10 +106,7 @@ protected:
 	}
 
 	/** Where a camera stands. */
-	static FSceneVector PlaceOf(const FSceneCamera& Camera)
-	{
-		return Camera.Target - SceneCameraAxes(Camera).Forward * Camera.Distance;
-	}
+	static FSceneVector PlaceOf(const FSceneCamera& Camera) { return Camera.Target - SceneCameraAxes(Camera).Forward * Camera.Distance; }
 
 	static float DistanceOf(const FSceneVector& A, const FSceneVector& B) { return Length(A - B); }
 

@@ -2,8 +2,10 @@
 
 #pragma once
 
+#include "Engine/GameViewportClient.h"
 #include "Framework/Application/SlateApplication.h"
 #include "Host/Commands/Labels.h"
+#include "Host/Console/Console.h"
 #include "Host/Editor/Maps.h"
 #include "Host/Editor/Panes.h"
 #include "Host/Program/HostLog.h"
@@ -39,6 +41,7 @@ protected:
 		Project.Write("Content/Maps/Yard.umap", "");
 		Project.Write("Content/Maps/Hall.umap", "");
 		StandIn::RegisterMountPoint(TEXT("/Game/"), Project.Path("Content/"));
+		DropBindingsOfEarlierModules();
 		Options.MaximizedPane = NAME_None;
 		Loop.PreInit(Options);
 		Loop.Init();
@@ -52,11 +55,20 @@ protected:
 		CloseWindow();
 		Loop.CloseMainFrame();
 		Loop.Exit();
+		DropBindingsOfEarlierModules();
 		StandIn::UnregisterMountPoint(TEXT("/Game/"));
 		for (const StandIn::FNotice& Notice : TArray<StandIn::FNotice>(StandIn::GetNotices()))
 		{
 			StandIn::ClearNotice(Notice.Key);
 		}
+	}
+
+	/** The module leaves bindings in place on purpose, as if the process ended with the engine; here another engine comes after it. */
+	static void DropBindingsOfEarlierModules()
+	{
+		FEditorDelegates::PreBeginPIE.Clear();
+		FEditorDelegates::PostPIEStarted.Clear();
+		UGameViewportClient::OnViewportCreated().Clear();
 	}
 
 	void OpenWindow()

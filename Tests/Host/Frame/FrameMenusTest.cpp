@@ -163,6 +163,7 @@ TEST_F(FrameMenus, ShowWhatAPlugInAddsToThem)
 		->ExtendMenu("LevelEditor.MainMenu.Window")
 		->AddSection("Mine")
 		.AddEntry(FToolMenuEntry::InitMenuEntry("Mine", FText::FromString(TEXT("Mine")), FText(), FSlateIcon(), FUIAction()));
+	Wait(0.1);
 	Click("Window");
 	EXPECT_TRUE(Sees("Mine"));
 }

@@ -56,17 +56,37 @@ TEST_F(GalleryPictures, OfAPictureThatDiffersALittleOnlyThePartIsStored)
 	const FGalleryPicture First = Add(Grey);
 	const FGalleryPicture Second = Add(WithRectangle(40, 30, 60, 45, FColor::Red));
 	EXPECT_EQ(Second.Whole, First.Whole);
-	ASSERT_GE(Second.Part, 0);
+	ASSERT_EQ(Second.Parts.size(), 1u);
 	// Some pixels around it are the same in both.
-	EXPECT_EQ(Second.PartArea, FIntRect(32, 22, 68, 53));
+	EXPECT_EQ(Second.Parts[0].Area, FIntRect(32, 22, 68, 53));
 	EXPECT_FALSE(Second == First);
 }
 
 TEST_F(GalleryPictures, APartEndsAtTheEdgeOfThePicture)
 {
 	Add(Grey);
-	EXPECT_EQ(Add(WithRectangle(0, 0, 10, 10, FColor::Red)).PartArea, FIntRect(0, 0, 18, 18));
-	EXPECT_EQ(Add(WithRectangle(95, 75, 100, 80, FColor::Red)).PartArea, FIntRect(87, 67, 100, 80));
+	EXPECT_EQ(Add(WithRectangle(0, 0, 10, 10, FColor::Red)).Parts.at(0).Area, FIntRect(0, 0, 18, 18));
+	EXPECT_EQ(Add(WithRectangle(95, 75, 100, 80, FColor::Red)).Parts.at(0).Area, FIntRect(87, 67, 100, 80));
+}
+
+TEST_F(GalleryPictures, PartsThatLieFarApartAreStoredApart)
+{
+	Add(Grey);
+	FPicture Corners = WithRectangle(0, 0, 10, 10, FColor::Red);
+	Corners.Pixels[79 * 100 + 99] = FColor::Green;
+	const std::vector<FGalleryPart> Parts = Add(Corners).Parts;
+	ASSERT_EQ(Parts.size(), 2u);
+	EXPECT_EQ(Parts[0].Area, FIntRect(0, 0, 18, 18));
+	EXPECT_EQ(Parts[1].Area, FIntRect(91, 71, 100, 80));
+}
+
+TEST_F(GalleryPictures, APartSeenElsewhereIsNotStoredAgain)
+{
+	Add(Grey);
+	const FGalleryPart First = Add(WithRectangle(20, 30, 30, 40, FColor::Red)).Parts.at(0);
+	const FGalleryPart Second = Add(WithRectangle(60, 30, 70, 40, FColor::Red)).Parts.at(0);
+	EXPECT_EQ(First.Number, Second.Number);
+	EXPECT_EQ(Second.Area, FIntRect(52, 22, 78, 48));
 }
 
 TEST_F(GalleryPictures, APictureSeenBeforeWithAPartIsNotStoredAgain)
@@ -81,7 +101,7 @@ TEST_F(GalleryPictures, APictureSeenBeforeWithAPartIsNotStoredAgain)
 TEST_F(GalleryPictures, APictureThatDiffersAlmostEverywhereIsStoredWhole)
 {
 	Add(Grey);
-	EXPECT_EQ(Add(Plain(100, 80, FColor::Red)).Part, -1);
+	EXPECT_TRUE(Add(Plain(100, 80, FColor::Red)).Parts.empty());
 	EXPECT_EQ(Subject.CountStored(), 2);
 }
 
@@ -97,7 +117,7 @@ TEST_F(GalleryPictures, TheNearestPictureLiesBelowAPart)
 TEST_F(GalleryPictures, PicturesOfOtherSizesAreNotCompared)
 {
 	Add(Grey);
-	EXPECT_EQ(Add(Plain(80, 100, FColor(90, 90, 90))).Part, -1);
+	EXPECT_TRUE(Add(Plain(80, 100, FColor(90, 90, 90))).Parts.empty());
 	EXPECT_EQ(Subject.CountStored(), 2);
 }
 

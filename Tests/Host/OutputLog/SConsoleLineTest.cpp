@@ -15,7 +15,8 @@ protected:
 	void SetUp() override
 	{
 		FOutputLogFixture::SetUp();
-		Open({{"help", "help", "list the commands"}, {"hover", "hover LABEL...", "rest the mouse"}, {"layout", "layout NAME", "change it"}});
+		Open(
+			{{"help", "help", "list the commands"}, {"hover", "hover LABEL...", "rest the mouse"}, {"layout", "layout NAME", "change it"}});
 		ClickLabel("Enter Console Command");
 	}
 

@@ -45,7 +45,10 @@ protected:
 		StandIn::ShutdownObjectSystem();
 	}
 
-	std::string Drop(const std::string& Leaf) const { return AddDroppedFile(Folder.NativePath(Leaf)); }
+	std::string Drop(const std::string& Leaf) const
+	{
+		return AddDroppedFiles(std::vector<std::string>{PathToUtf8(Folder.NativePath(Leaf))});
+	}
 
 	FNames Content() const { return Folder.List("Content"); }
 

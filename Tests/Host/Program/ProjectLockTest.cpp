@@ -69,6 +69,26 @@ TEST_F(ProjectLock, LeavesTheFolderAsItWas)
 	EXPECT_EQ(Folder.List("Project"), FNames());
 }
 
+TEST_F(ProjectLock, LeavesNoEmptyFoldersOfItsOwnBehind)
+{
+	{
+		FProjectLock First;
+		Take(First);
+		std::filesystem::create_directories(Folder.NativePath("Project/Saved/Config/Linux"));
+	}
+	EXPECT_EQ(Folder.List("Project"), FNames());
+}
+
+TEST_F(ProjectLock, LeavesFoldersThatWereThereBefore)
+{
+	std::filesystem::create_directories(Folder.NativePath("Project/Saved/Config"));
+	{
+		FProjectLock First;
+		Take(First);
+	}
+	EXPECT_EQ(Folder.List("Project/Saved"), FNames{"Config"});
+}
+
 TEST_F(ProjectLock, LeavesWhatWasSavedMeanwhile)
 {
 	{

@@ -107,6 +107,14 @@ TEST_F(SStatusLineTest, AClickOnTheNumberAsksForThem)
 	EXPECT_EQ(TakeNotes(), FNotes{"clicked"});
 }
 
+TEST_F(SStatusLineTest, TheNumberIsAtTheRight)
+{
+	Open();
+	StandIn::AddNotice(TEXT("Key"), TEXT("It broke."));
+	StandIn::AdvanceTime(0.1f);
+	EXPECT_GT(FindSeen(LookAround(), "1 notice")->Center.X, 340.0f);
+}
+
 TEST_F(SStatusLineTest, LongWorkIsShown)
 {
 	Open();

@@ -36,13 +36,13 @@ std::map<std::string, std::string> ReadFolder(const std::filesystem::path& Folde
 
 std::vector<std::string> ListTours()
 {
-	std::vector<std::string> Names;
+	std::vector<std::string> Files{REPOSITORY_DIR "/Docs/Pictures/pictures.tour"};
 	for (const std::filesystem::directory_entry& Entry : std::filesystem::directory_iterator(REPOSITORY_DIR "/Host/Tours"))
 	{
-		Names.push_back(Entry.path().stem().string());
+		Files.push_back(Entry.path().string());
 	}
-	std::sort(Names.begin(), Names.end());
-	return Names;
+	std::sort(Files.begin(), Files.end());
+	return Files;
 }
 
 class CommittedTour : public testing::TestWithParam<std::string>
@@ -52,7 +52,7 @@ TEST_P(CommittedTour, PlaysToItsEndAndLeavesTheProjectAsItWas)
 {
 	const FHostRun Host;
 	const std::map<std::string, std::string> Before = ReadFolder(Host.Path("Project"));
-	const FHostRun::FResult Result = Host.Run("--tour '" REPOSITORY_DIR "/Host/Tours/" + GetParam() + ".tour'");
+	const FHostRun::FResult Result = Host.Run("--tour '" + GetParam() + "'");
 	EXPECT_EQ(Result.Code, 0) << Result.Output;
 	EXPECT_TRUE(ReadFolder(Host.Path("Project")) == Before);
 	const std::string Page = ReadBytes(Host.Path("out/index.html"));
@@ -62,7 +62,7 @@ TEST_P(CommittedTour, PlaysToItsEndAndLeavesTheProjectAsItWas)
 }
 
 INSTANTIATE_TEST_SUITE_P(All, CommittedTour, testing::ValuesIn(ListTours()), [](const auto& Info) {
-	std::string Name = Info.param;
+	std::string Name = std::filesystem::path(Info.param).stem().string();
 	Name.erase(std::remove(Name.begin(), Name.end(), '-'), Name.end());
 	return Name;
 });
@@ -74,6 +74,9 @@ TEST(ProjectTour, PlaysOnAPlainFolderOfLookFiles)
 	Host.Write("Project/Red.cube", "LUT_3D_SIZE 2\n0 0 0\n1 0 0\n0 0 0\n1 0 0\n0 0 0\n1 0 0\n0 0 0\n1 0 0\n");
 	const FHostRun::FResult Result = Host.Run("--tour '" REPOSITORY_DIR "/Host/Tours/project.tour'");
 	EXPECT_EQ(Result.Code, 0) << Result.Output;
-	EXPECT_EQ(ReadFolder(Host.Path("Project")).size(), 1u);
+	// Beside the look there are the settings that a new project gets.
+	const std::map<std::string, std::string> Files = ReadFolder(Host.Path("Project"));
+	EXPECT_EQ(Files.count("Red.cube"), 1u);
+	EXPECT_EQ(Files.size(), 2u);
 }
 }

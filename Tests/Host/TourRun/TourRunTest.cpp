@@ -44,7 +44,7 @@ protected:
 
 	bool Play(const std::string& Text, const std::string& Name = "Host/Tours/my.tour")
 	{
-		return Run.Play(MakeTour(Name, Text), Output, Errors);
+		return Run.Play(Name.empty() ? MakeTourOfCommands(Text) : MakeTour(Name, Text), Output, Errors);
 	}
 
 	std::vector<std::string> LogTexts(const std::string& Kind) const
@@ -72,7 +72,7 @@ using FTexts = std::vector<std::string>;
 
 TEST_F(TourRun, RunsItsCommandsInTheirOrder)
 {
-	EXPECT_TRUE(Play("say one\nsay two; say three"));
+	EXPECT_TRUE(Play("say one\nsay two\nsay three"));
 	EXPECT_EQ(Output.str(), "one\ntwo\nthree\n");
 }
 
@@ -204,6 +204,16 @@ TEST_F(TourRun, AnotherRunGoesOnAfterARestart)
 	ASSERT_EQ(OtherPage.GetSteps().size(), 1u);
 	EXPECT_EQ(OtherPage.GetSteps()[0].Commands.size(), 4u);
 	EXPECT_EQ(Other.MakeLog().front().Text, "chapter");
+}
+
+TEST_F(TourRun, PlaysWhileItsCommandsRun)
+{
+	bool bPlaying = false;
+	Console.Add("look", "look", [this, &bPlaying](const FArguments&, std::ostream&) { bPlaying = Run.IsPlaying(); });
+	EXPECT_FALSE(Run.IsPlaying());
+	Play("look");
+	EXPECT_TRUE(bPlaying);
+	EXPECT_FALSE(Run.IsPlaying());
 }
 
 TEST_F(TourRun, RefusesToGoOnWithAnotherFile)

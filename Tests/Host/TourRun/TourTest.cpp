@@ -11,12 +11,11 @@ namespace
 {
 TEST(Tour, EveryCommandHasTheLineItStandsOn)
 {
-	const FTour Tour = MakeTour("a.tour", "# first\n\npanes; notices\n\n  tick # last\n");
-	ASSERT_EQ(Tour.Commands.size(), 3u);
+	const FTour Tour = MakeTour("a.tour", "# first\n\npanes\n\n  tick # last\n");
+	ASSERT_EQ(Tour.Commands.size(), 2u);
 	EXPECT_EQ(Tour.GetPlace(0), "a.tour:3");
-	EXPECT_EQ(Tour.GetPlace(1), "a.tour:3");
-	EXPECT_EQ(Tour.GetPlace(2), "a.tour:5");
-	EXPECT_EQ(Tour.Commands[2].Text, "tick");
+	EXPECT_EQ(Tour.GetPlace(1), "a.tour:5");
+	EXPECT_EQ(Tour.Commands[1].Text, "tick");
 }
 
 TEST(Tour, LinesMayEndAsOnWindows)
@@ -26,7 +25,19 @@ TEST(Tour, LinesMayEndAsOnWindows)
 
 TEST(Tour, CommandsOfNoFileHaveNoPlace)
 {
-	EXPECT_EQ(MakeTour("", "panes").GetPlace(0), "");
+	EXPECT_EQ(MakeTourOfCommands("panes; tick").GetPlace(1), "");
+}
+
+TEST(Tour, ALineOfAFileIsOneCommandWhateverItsCaption)
+{
+	const FTour Tour = MakeTour("a.tour", "shot a.png One; and another\n");
+	ASSERT_EQ(Tour.Commands.size(), 1u);
+	EXPECT_EQ(Tour.Commands[0].Text, "shot a.png One; and another");
+}
+
+TEST(Tour, CommandsOfNoFileArePartedBySemicolonsToo)
+{
+	EXPECT_EQ(MakeTourOfCommands("panes; notices\ntick").Commands.size(), 3u);
 }
 
 TEST(Tour, AFileIsReadByTheNameThatTheUserGave)

@@ -58,8 +58,7 @@ FRunningProgram::FRunningProgram(const std::filesystem::path& Program, const std
 	std::wstring Line = Quote(Program.native());
 	for (const std::string& Argument : Arguments)
 	{
-		// A path takes UTF-8 and keeps it in the system's encoding.
-		Line += L" " + Quote(std::filesystem::path(Argument).native());
+		Line += L" " + Quote(std::filesystem::path(std::u8string(Argument.begin(), Argument.end())).native());
 	}
 	STARTUPINFOW Start = {};
 	Start.cb = sizeof(Start);

@@ -41,21 +41,20 @@ public:
 	{
 		return (Filter.PackageNames.Num() == 0 || Filter.PackageNames.Contains(Data.PackageName))
 			&& (Filter.ObjectPaths.Num() == 0 || Filter.ObjectPaths.Contains(Data.ObjectPath))
-			&& (Filter.ClassNames.Num() == 0 || ClassNames.Contains(Data.AssetClass)) && FitsFolder(Data.PackagePath.ToString())
-			&& FitsTags(Data);
+			&& (Filter.ClassNames.Num() == 0 || ClassNames.Contains(Data.AssetClass))
+			&& (Folders.Num() == 0 || FitsFolder(Data.PackagePath.ToString())) && (Filter.TagsAndValues.Num() == 0 || FitsTags(Data));
 	}
 
 private:
 	bool FitsFolder(const FString& Path) const
 	{
-		return Folders.Num() == 0 || Folders.ContainsByPredicate([&](const FString& Folder) {
-			return Filter.bRecursivePaths ? AssetPaths::IsAtOrBelow(Path, Folder) : Path == Folder;
-		});
+		return Folders.ContainsByPredicate(
+			[&](const FString& Folder) { return Filter.bRecursivePaths ? AssetPaths::IsAtOrBelow(Path, Folder) : Path == Folder; });
 	}
 
 	bool FitsTags(const FAssetData& Data) const
 	{
-		bool bFits = Filter.TagsAndValues.Num() == 0;
+		bool bFits = false;
 		for (const TPair<FName, TOptional<FString>>& Tag : Filter.TagsAndValues)
 		{
 			FString Value;

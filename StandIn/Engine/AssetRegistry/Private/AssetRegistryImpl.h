@@ -77,6 +77,8 @@ private:
 	void ReportTrouble(const FString& Folder, const StandIn::FAssetScanReport& Report) const;
 
 	FAssetMap DiskAssets;
+	/** Where the next asset of a scan most likely belongs. */
+	FAssetMap::iterator NextPlace = DiskAssets.end();
 	TSet<FName> GoneAssets;
 	std::set<FName, FNameLess> Paths;
 	/** Mount points that have been scanned. */

@@ -55,13 +55,17 @@ void FAssetRegistryImpl::PutPath(const FString& Path)
 
 void FAssetRegistryImpl::PutAsset(const FAssetData& Data)
 {
-	GoneAssets.Remove(Data.ObjectPath);
-	const FNameLess Less;
-	const auto Place = DiskAssets.lower_bound(Data.ObjectPath);
-	if (Place == DiskAssets.end() || Less(Data.ObjectPath, Place->first))
+	if (GoneAssets.Num() > 0)
+	{
+		GoneAssets.Remove(Data.ObjectPath);
+	}
+	// Scans come in order, so that the place is most often behind the last one.
+	const size_t NumBefore = DiskAssets.size();
+	const auto Place = DiskAssets.emplace_hint(NextPlace, Data.ObjectPath, Data);
+	NextPlace = std::next(Place);
+	if (DiskAssets.size() != NumBefore)
 	{
 		PutPath(Data.PackagePath.ToString());
-		DiskAssets.emplace_hint(Place, Data.ObjectPath, Data);
 		AssetAddedEvent.Broadcast(Data);
 	}
 	else if (Place->second.AssetClass != Data.AssetClass)
@@ -77,6 +81,7 @@ void FAssetRegistryImpl::DropAsset(FName ObjectPath)
 	if (Found != DiskAssets.end())
 	{
 		const FAssetData Data = Found->second;
+		NextPlace = NextPlace == Found ? std::next(Found) : NextPlace;
 		DiskAssets.erase(Found);
 		AssetRemovedEvent.Broadcast(Data);
 	}

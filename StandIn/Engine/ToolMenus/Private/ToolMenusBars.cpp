@@ -96,7 +96,7 @@ void UToolMenus::PopulateToolBarEntry(FToolBarBuilder& ToolBarBuilder, UToolMenu
 		Arguments.MakeSubMenu =
 			FOnGetContent::CreateUObject(this, &UToolMenus::MakeComboButtonMenu, TWeakObjectPtr<UToolMenu>(MenuData), Block.Name);
 	}
-	ToolBarBuilder.AddButton(Arguments, Block.Icon, bCombo, Block.ToolBarData.bSimpleComboBox);
+	ToolBarBuilder.AddButton(Arguments, Block.Icon, bCombo, Block.ToolBarData.bSimpleComboBox, Block.TutorialHighlightName);
 }
 
 TSharedRef<SWidget> UToolMenus::MakeComboButtonMenu(TWeakObjectPtr<UToolMenu> InParent, FName InBlockName)

@@ -125,7 +125,7 @@ void FEditorViewportClient::RedrawRequested(FViewport*)
 
 bool FEditorViewportClient::InputKey(FViewport* InViewport, int32, FKey Key, EInputEvent Event, float, bool)
 {
-	if (Event != IE_Pressed || !StandIn::MoveCamera(*this, *InViewport, Key, 1.0f))
+	if (Event != IE_Pressed || InViewport == nullptr || !StandIn::MoveCamera(*this, *InViewport, Key, 1.0f))
 	{
 		return false;
 	}

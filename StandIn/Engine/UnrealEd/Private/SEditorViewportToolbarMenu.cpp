@@ -123,3 +123,14 @@ FReply SEditorViewportToolbarMenu::OnMouseButtonDoubleClick(const FGeometry& InM
 {
 	return OnMouseButtonDown(InMyGeometry, InMouseEvent);
 }
+
+FReply SEditorViewportToolbarMenu::OnKeyDown(const FGeometry& MyGeometry, const FKeyEvent& InKeyEvent)
+{
+	const FKey Key = InKeyEvent.GetKey();
+	if (Key == EKeys::Enter || Key == EKeys::SpaceBar || Key == EKeys::Down)
+	{
+		SetMenuOpen(true);
+		return FReply::Handled();
+	}
+	return SCompoundWidget::OnKeyDown(MyGeometry, InKeyEvent);
+}

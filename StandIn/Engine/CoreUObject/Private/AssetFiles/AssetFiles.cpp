@@ -108,8 +108,12 @@ bool FindName(const TArray<FString>& Names, const FString& Wanted, bool bFiles, 
 
 bool IsInvalid(TCHAR Character)
 {
-	return FCString::Strchr(INVALID_LONGPACKAGE_CHARACTERS, Character) != nullptr
-		|| FCString::Strchr(INVALID_OBJECTNAME_CHARACTERS, Character) != nullptr;
+	// Letters and digits are most of what names have.
+	const bool bWord = (Character >= TEXT('a') && Character <= TEXT('z')) || (Character >= TEXT('A') && Character <= TEXT('Z'))
+		|| (Character >= TEXT('0') && Character <= TEXT('9')) || Character == TEXT('_') || Character > 127;
+	return !bWord
+		&& (FCString::Strchr(INVALID_LONGPACKAGE_CHARACTERS, Character) != nullptr
+			|| FCString::Strchr(INVALID_OBJECTNAME_CHARACTERS, Character) != nullptr);
 }
 
 // The file whose name is an asset's to the letter, without reading the whole folder.

@@ -1,6 +1,7 @@
 // Copyright The Tintmill authors. All rights reserved.
 
 #include "AssetFiles/NativeFolder.h"
+#include "Containers/Map.h"
 #include "Containers/Set.h"
 #include "Misc/Paths.h"
 #include "StandIn/AssetFiles.h"
@@ -32,11 +33,7 @@ public:
 	{
 		for (const StandIn::FAssetFileType& Type : StandIn::GetAssetFileTypes())
 		{
-			Extensions.Add(Type.Extension);
-			if (Type.bYields)
-			{
-				YieldingExtensions.Add(Type.Extension);
-			}
+			Types.Add(Type.Extension, &Type);
 		}
 	}
 
@@ -66,11 +63,20 @@ public:
 	}
 
 private:
+	// A file that may be an asset, and the name that it gives.
+	struct FCandidate
+	{
+		FString FileName;
+		FString AssetName;
+		const StandIn::FAssetFileType* Type;
+	};
+
 	// Files with names of their own come before those whose names have to be made up, and those that yield come last.
 	void AddFiles(const FString& Folder, const TArray<FString>& Names)
 	{
-		TArray<FString> Later;
-		TArray<FString> Last;
+		TArray<FCandidate> Later;
+		TArray<FCandidate> Last;
+		const FString PackagePath = FindPackagePath(Folder);
 		for (const FString& Name : Names)
 		{
 			if (bStopped)
@@ -78,48 +84,66 @@ private:
 				return;
 			}
 			bStopped = Progress && ++NumFiles % FilesAReport == 0 && !Progress(NumFiles);
-			if (Name.StartsWith(TEXT(".")) || !Extensions.Contains(FPaths::GetExtension(Name)))
+			int32 Dot = INDEX_NONE;
+			if (!Name.FindLastChar(TEXT('.'), Dot) || Name[0] == TEXT('.'))
 			{
 				continue;
 			}
-			const FString BaseName = FPaths::GetBaseFilename(Name);
-			if (YieldingExtensions.Contains(FPaths::GetExtension(Name)))
+			const StandIn::FAssetFileType* const* Type = Types.Find(Name.RightChop(Dot + 1));
+			if (Type == nullptr)
 			{
-				Last.Add(Name);
+				continue;
 			}
-			else if (StandIn::MakeAssetName(BaseName).Equals(BaseName))
+			const FString BaseName = Name.Left(Dot);
+			const FCandidate Candidate{Folder + Name, StandIn::MakeAssetName(BaseName), *Type};
+			if ((*Type)->bYields)
 			{
-				AddFile(Folder + Name, false);
+				Last.Add(Candidate);
+			}
+			else if (Candidate.AssetName.Equals(BaseName))
+			{
+				AddFile(PackagePath, Candidate);
 			}
 			else
 			{
-				Later.Add(Name);
+				Later.Add(Candidate);
 			}
 		}
-		for (const FString& Name : Later)
+		Later.Append(Last);
+		for (const FCandidate& Candidate : Later)
 		{
-			AddFile(Folder + Name, false);
-		}
-		for (const FString& Name : Last)
-		{
-			AddFile(Folder + Name, true);
+			AddFile(PackagePath, Candidate);
 		}
 	}
 
-	void AddFile(const FString& FileName, bool bYielding)
+	// The start of the package names of all files in a folder; "" where there can be none.
+	FString FindPackagePath(const FString& Folder) const
 	{
 		StandIn::FAssetFile File;
-		const bool bDescribed = StandIn::DescribeAssetFile(FileName, File);
-		if (!bDescribed || PackageNames.Contains(File.PackageName))
+		const bool bFound = Types.Num() > 0 && StandIn::DescribeAssetFile(Folder + TEXT("A.") + Types.begin()->Key, File);
+		return bFound ? File.PackageName.LeftChop(1) : FString();
+	}
+
+	void AddFile(const FString& PackagePath, const FCandidate& Candidate)
+	{
+		StandIn::FAssetFile File;
+		File.PackageName = PackagePath + Candidate.AssetName;
+		File.FileName = Candidate.FileName;
+		File.ClassName = Candidate.Type->ClassName;
+		const bool bValid = PackagePath.Len() > 0 && File.PackageName.Len() < NAME_SIZE / 2;
+		bool bTaken = false;
+		if (bValid)
 		{
-			if (!bDescribed || !bYielding)
-			{
-				Report.SkippedFiles.Add(FileName);
-			}
-			return;
+			PackageNames.Add(File.PackageName, &bTaken);
 		}
-		PackageNames.Add(File.PackageName);
-		Files.Add(MoveTemp(File));
+		if (bValid && !bTaken)
+		{
+			Files.Add(MoveTemp(File));
+		}
+		else if (!bValid || !Candidate.Type->bYields)
+		{
+			Report.SkippedFiles.Add(Candidate.FileName);
+		}
 	}
 
 	TArray<StandIn::FAssetFile>& Files;
@@ -127,8 +151,7 @@ private:
 	const TFunction<bool(int32)>& Progress;
 	// Sets of strings do not tell upper from lower case: neither do package names.
 	TSet<FString> PackageNames;
-	TSet<FString> Extensions;
-	TSet<FString> YieldingExtensions;
+	TMap<FString, const StandIn::FAssetFileType*> Types;
 	std::set<FString, FSpellingLess> SeenFolders;
 	int32 NumFiles;
 	bool bStopped;

@@ -99,8 +99,7 @@ FReply FSceneViewport::OnMouseButtonUp(const FGeometry&, const FPointerEvent& Mo
 	UpdateModifierKeys(MouseEvent);
 	ViewportClient->InputKey(this, 0, MouseEvent.GetEffectingButton(), IE_Released);
 	FReply Reply = FReply::Handled();
-	const bool bStillHeld =
-		KeyState(EKeys::LeftMouseButton) || KeyState(EKeys::MiddleMouseButton) || KeyState(EKeys::RightMouseButton);
+	const bool bStillHeld = KeyState(EKeys::LeftMouseButton) || KeyState(EKeys::MiddleMouseButton) || KeyState(EKeys::RightMouseButton);
 	return bStillHeld ? Reply : Reply.ReleaseMouseCapture();
 }
 

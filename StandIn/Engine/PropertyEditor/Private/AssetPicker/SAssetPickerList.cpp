@@ -4,10 +4,46 @@
 #include "AssetPicker/AssetPickerListPrivate.h"
 #include "AssetToolsModule.h"
 
+#include <algorithm>
+
 TSharedPtr<IAssetTypeActions> AssetPickerListPrivate::FindActions(const FAssetData& Asset)
 {
 	const UClass* Class = Asset.GetClass();
 	return Class ? FAssetToolsModule::GetModule().Get().GetAssetTypeActionsForClass(Class).Pin() : TSharedPtr<IAssetTypeActions>();
+}
+
+namespace AssetPickerListPrivate
+{
+/** Sorts by merging the parts that are in order already: assets come folder by folder, each in order. */
+template <typename LessType>
+void SortRuns(TArray<int32>& Places, LessType Less)
+{
+	int32* const Data = Places.GetData();
+	TArray<int32> Ends;
+	for (int32 Index = 1; Index <= Places.Num(); ++Index)
+	{
+		if (Index == Places.Num() || Less(Data[Index], Data[Index - 1]))
+		{
+			Ends.Add(Index);
+		}
+	}
+	while (Ends.Num() > 1)
+	{
+		TArray<int32> Merged;
+		int32 Start = 0;
+		for (int32 Run = 0; Run < Ends.Num(); Run += 2)
+		{
+			const int32 End = Ends[FMath::Min(Run + 1, Ends.Num() - 1)];
+			if (Run + 1 < Ends.Num())
+			{
+				std::inplace_merge(Data + Start, Data + Ends[Run], Data + End, Less);
+			}
+			Merged.Add(End);
+			Start = End;
+		}
+		Ends = MoveTemp(Merged);
+	}
+}
 }
 
 SAssetPickerList::SAssetPickerList()
@@ -36,7 +72,7 @@ void SAssetPickerList::SetItems(TArray<FItem> InItems)
 	{
 		Order.Add(Keys.Add(Item.Label.ToLower()));
 	}
-	Order.Sort([&InItems, &Keys](const int32 A, const int32 B) {
+	AssetPickerListPrivate::SortRuns(Order, [&InItems, &Keys](const int32 A, const int32 B) {
 		const int32 Result = Keys[A].Compare(Keys[B], ESearchCase::CaseSensitive);
 		return Result != 0 ? Result < 0 : InItems[A].Asset.ObjectPath.ToString() < InItems[B].Asset.ObjectPath.ToString();
 	});

@@ -70,7 +70,7 @@ void FToolBarBuilder::SetStyle(const ISlateStyle* InStyleSet, const FName&)
 
 void FToolBarBuilder::AddToolBarButton(const TSharedPtr<const FUICommandInfo> InCommand, FName InExtensionHook,
 	const TAttribute<FText>& InLabelOverride, const TAttribute<FText>& InToolTipOverride, const TAttribute<FSlateIcon>& InIconOverride,
-	FName)
+	FName InTutorialHighlightName)
 {
 	check(InCommand.IsValid());
 	FMenuEntryArguments Arguments;
@@ -79,12 +79,12 @@ void FToolBarBuilder::AddToolBarButton(const TSharedPtr<const FUICommandInfo> In
 	Arguments.ToolTip = InToolTipOverride;
 	Arguments.Command = InCommand;
 	Arguments.UserInterfaceActionType = InCommand->GetUserInterfaceType();
-	AddButton(Arguments, InIconOverride, false, false);
+	AddButton(Arguments, InIconOverride, false, false, InTutorialHighlightName);
 }
 
 void FToolBarBuilder::AddToolBarButton(const FUIAction& InAction, FName InExtensionHook, const TAttribute<FText>& InLabelOverride,
 	const TAttribute<FText>& InToolTipOverride, const TAttribute<FSlateIcon>& InIconOverride,
-	const EUserInterfaceActionType UserInterfaceActionType, FName)
+	const EUserInterfaceActionType UserInterfaceActionType, FName InTutorialHighlightName)
 {
 	FMenuEntryArguments Arguments;
 	Arguments.ExtensionHook = InExtensionHook;
@@ -92,12 +92,12 @@ void FToolBarBuilder::AddToolBarButton(const FUIAction& InAction, FName InExtens
 	Arguments.ToolTip = InToolTipOverride;
 	Arguments.Action = InAction;
 	Arguments.UserInterfaceActionType = UserInterfaceActionType;
-	AddButton(Arguments, InIconOverride, false, false);
+	AddButton(Arguments, InIconOverride, false, false, InTutorialHighlightName);
 }
 
 void FToolBarBuilder::AddComboButton(const FUIAction& InAction, const FOnGetContent& InMenuContentGenerator,
 	const TAttribute<FText>& InLabelOverride, const TAttribute<FText>& InToolTipOverride, const TAttribute<FSlateIcon>& InIconOverride,
-	bool bInSimpleComboBox, FName)
+	bool bInSimpleComboBox, FName InTutorialHighlightName)
 {
 	FMenuEntryArguments Arguments;
 	Arguments.Label = InLabelOverride;
@@ -105,11 +105,11 @@ void FToolBarBuilder::AddComboButton(const FUIAction& InAction, const FOnGetCont
 	Arguments.Action = InAction;
 	Arguments.bIsSubMenu = true;
 	Arguments.MakeSubMenu = InMenuContentGenerator;
-	AddButton(Arguments, InIconOverride, true, bInSimpleComboBox);
+	AddButton(Arguments, InIconOverride, true, bInSimpleComboBox, InTutorialHighlightName);
 }
 
 void FToolBarBuilder::AddButton(
-	FMenuEntryArguments& Arguments, const TAttribute<FSlateIcon>& Icon, const bool bCombo, const bool bSimpleCombo)
+	FMenuEntryArguments& Arguments, const TAttribute<FSlateIcon>& Icon, const bool bCombo, const bool bSimpleCombo, const FName InTag)
 {
 	if (!Arguments.CommandList.IsValid())
 	{
@@ -123,6 +123,7 @@ void FToolBarBuilder::AddButton(
 	Look.bFocusable = bIsFocusable;
 	Look.bCombo = bCombo;
 	Look.bSimpleCombo = bSimpleCombo;
+	Look.Tag = InTag;
 	AddBlock(MakeShared<FToolBarButtonBlock>(
 		MakeShared<FMenuEntryBlock>(Arguments, false, ExtenderStack.Last(), StyleSet, MenuName), Look));
 }

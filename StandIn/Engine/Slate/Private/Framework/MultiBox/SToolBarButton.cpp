@@ -81,6 +81,7 @@ void SToolBarButton::Construct(const FArguments&, const TSharedRef<const FToolBa
 				MakeContent()
 			];
 	}
+	Button->SetTag(Look.Tag);
 	if (!InBlock->GetEntry()->GetToolTip().IsEmpty())
 	{
 		Button->SetToolTip(TSharedPtr<IToolTip>(FMenuLook::MakeToolTip(ToolTipText)));

@@ -18,6 +18,9 @@ struct FToolBarButtonLook
 	bool bFocusable = false;
 	bool bCombo = false;
 	bool bSimpleCombo = false;
+
+	/** Name under which tutorials and tests find the button. */
+	FName Tag;
 };
 
 /** Block of a button in a tool bar, which may open a menu; an entry of a menu where the bar has no room for it. */

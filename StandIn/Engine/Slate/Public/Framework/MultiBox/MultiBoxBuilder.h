@@ -12,7 +12,7 @@
 struct FMenuEntryArguments;
 
 // Builders describe a menu, a menu bar or a tool bar block by block and make its widget. Left out: button rows, vertical and
-// uniform tool bars, block groups, editable text entries. Names for tutorials are taken and have no effect. Uncertain in the
+// uniform tool bars, block groups, editable text entries. Names for tutorials become the tags of tool bar buttons. Uncertain in the
 // engine and settled here: FToolBarBuilder has the constructor without an orientation.
 
 /** Base of the builders: the box being filled, and the command lists and extenders in force. */
@@ -215,7 +215,8 @@ public:
 private:
 	friend class UToolMenus;
 
-	void AddButton(FMenuEntryArguments& Arguments, const TAttribute<FSlateIcon>& Icon, const bool bCombo, const bool bSimpleCombo);
+	void AddButton(FMenuEntryArguments& Arguments, const TAttribute<FSlateIcon>& Icon, const bool bCombo, const bool bSimpleCombo,
+		const FName InTag);
 	void AddBlock(const TSharedRef<const FMultiBlock>& InBlock);
 	void ApplyHook(FName InExtensionHook, EExtensionHook::Position HookPosition);
 

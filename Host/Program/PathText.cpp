@@ -1,0 +1,17 @@
+// Copyright The Tintmill authors. All rights reserved.
+
+#include "Host/Program/PathText.h"
+
+namespace TintmillHost
+{
+std::string PathToUtf8(const std::filesystem::path& Path)
+{
+	const std::u8string Text = Path.u8string();
+	return std::string(Text.begin(), Text.end());
+}
+
+std::filesystem::path PathFromUtf8(const std::string& String)
+{
+	return std::filesystem::path(std::u8string(String.begin(), String.end()));
+}
+}

@@ -1,0 +1,299 @@
+// Copyright The Tintmill authors. All rights reserved.
+
+#include "Host/Window/WindowRun.h"
+
+#include "Desktop.h"
+#include "Host/Picture/PngFile.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <csignal>
+#include <cstdlib>
+#include <filesystem>
+#include <sstream>
+
+using namespace TintmillHost;
+
+// The real program in a real window, used by a mouse and a keyboard of the window system.
+
+namespace
+{
+struct FPlace
+{
+	int X = 0;
+	int Y = 0;
+
+	/** As xdotool wants it. */
+	std::string Words() const { return std::to_string(X) + " " + std::to_string(Y); }
+};
+
+/** Pixels around the mouse's arrow, which the picture without a window has and the window has not. */
+constexpr int PointerSize = 24;
+
+/** Steps of 255 that a channel in the window may be off the picture that is made without one: none. */
+constexpr int Tolerance = 0;
+
+/** How many pixels outside of the arrow's are off by more than the tolerance; all of them if the sizes differ. */
+int CountStrays(const FPicture& Actual, const FPicture& Expected, const FPlace& Pointer)
+{
+	if (Actual.Width != Expected.Width || Actual.Height != Expected.Height)
+	{
+		return Expected.Pixels.Num();
+	}
+	int Strays = 0;
+	const FColor* const ActualPixels = Actual.Pixels.GetData();
+	const FColor* const ExpectedPixels = Expected.Pixels.GetData();
+	for (int32 Index = 0; Index < Expected.Pixels.Num(); ++Index)
+	{
+		const FColor& A = ActualPixels[Index];
+		const FColor& B = ExpectedPixels[Index];
+		if (A.R == B.R && A.G == B.G && A.B == B.B)
+		{
+			continue;
+		}
+		const int X = Index % Expected.Width - Pointer.X;
+		const int Y = Index / Expected.Width - Pointer.Y;
+		const bool bUnderPointer = X >= -2 && X < PointerSize && Y >= -2 && Y < PointerSize;
+		const int Steps = std::max({std::abs(A.R - B.R), std::abs(A.G - B.G), std::abs(A.B - B.B)});
+		Strays += !bUnderPointer && Steps > Tolerance ? 1 : 0;
+	}
+	return Strays;
+}
+
+class WindowRun : public testing::Test
+{
+protected:
+	WindowRun()
+	{
+		std::filesystem::copy(std::filesystem::path(REPOSITORY_DIR) / "Host/DemoProject", Folder.NativePath("Project"),
+			std::filesystem::copy_options::recursive);
+	}
+
+	/** Starts the program and waits until its first picture is on the screen. */
+	void Start(std::vector<std::string> Arguments = {})
+	{
+		Arguments.insert(Arguments.begin(), {"--project", Folder.NativePath("Project").string(), "--out", Folder.NativePath("out").string()});
+		Editor = std::make_unique<FWindowedEditor>(Desktop.GetName(), Arguments);
+		ASSERT_TRUE(WaitUntil([this] {
+			const FPicture Screen = Desktop.TakePicture();
+			const FColor* const Row = Screen.Pixels.GetData() + Screen.Width * (Screen.Height / 2);
+			return std::any_of(Row, Row + Screen.Width, [](const FColor& Pixel) { return Pixel.R + Pixel.G + Pixel.B > 0; });
+		}));
+		WaitUntilStill();
+	}
+
+	/** Waits until the screen stays the same for a while. */
+	void WaitUntilStill()
+	{
+		FPicture Last = Desktop.TakePicture();
+		int Still = 0;
+		WaitUntil([&] {
+			const FPicture Now = Desktop.TakePicture();
+			Still = CountStrays(Now, Last, {-100, -100}) == 0 ? Still + 1 : 0;
+			Last = Now;
+			return Still >= 15;
+		});
+	}
+
+	/** What console commands print in a run without a window, on a copy of the project as it was at first. */
+	std::string Ask(const std::string& Commands)
+	{
+		const std::filesystem::path Copy = Folder.NativePath("Asked");
+		std::filesystem::remove_all(Copy);
+		std::filesystem::copy(
+			std::filesystem::path(REPOSITORY_DIR) / "Host/DemoProject", Copy, std::filesystem::copy_options::recursive);
+		const FProgramResult Result = RunProgram(TINTMILL_EDITOR,
+			{"--headless", "--project", Copy.string(), "--out", Folder.NativePath("out").string(), "--exec", "window 1280 800; " + Commands});
+		EXPECT_EQ(Result.Code, 0) << Result.Output;
+		return Result.Output;
+	}
+
+	/** Where something is after some console commands, "PANE|all LABEL". */
+	FPlace Find(const std::string& Commands, const std::string& What)
+	{
+		std::istringstream Lines(Ask(Commands + (Commands.empty() ? "" : "; ") + "where " + What));
+		FPlace Place;
+		for (std::string Line; std::getline(Lines, Line);)
+		{
+			std::istringstream Words(Line);
+			FPlace Candidate;
+			std::string Rest;
+			if (Words >> Candidate.X >> Candidate.Y && !(Words >> Rest))
+			{
+				Place = Candidate;
+			}
+		}
+		EXPECT_GT(Place.Y, 0) << What;
+		return Place;
+	}
+
+	void Click(const FPlace& Place) { Desktop.Do("mousemove " + Place.Words() + " click 1"); }
+
+	/** Rests on a place until tool tips and submenus have come. */
+	void Hover(const FPlace& Place)
+	{
+		Desktop.Do("mousemove " + Place.Words());
+		WaitUntilStill();
+	}
+
+	/** Waits until the window shows what the commands show without one; returns how many pixels differ in the end. */
+	int WaitForPicture(const std::string& Commands, const FPlace& Pointer)
+	{
+		Ask(Commands + "; shot expected.png");
+		FPicture Expected;
+		EXPECT_EQ(ReadPng(Folder.NativePath("out/expected.png"), Expected), "");
+		int Strays = Expected.Pixels.Num();
+		WaitUntil([&] {
+			Strays = CountStrays(Desktop.TakePicture(), Expected, Pointer);
+			return Strays == 0;
+		});
+		if (Strays != 0)
+		{
+			WritePng(Desktop.TakePicture(), std::filesystem::temp_directory_path() / "tintmill-window-actual.png");
+			WritePng(Expected, std::filesystem::temp_directory_path() / "tintmill-window-expected.png");
+		}
+		return Strays;
+	}
+
+	std::string ReadSettings() const { return Folder.Read("Project/Saved/Config/Linux/EditorPerProjectUserSettings.ini"); }
+
+	FTestFolder Folder;
+	FDesktop Desktop;
+	std::unique_ptr<FWindowedEditor> Editor;
+};
+
+const std::vector<std::string> WholeScreen = {"--window", "1280x800"};
+}
+
+TEST_F(WindowRun, ShowsWhatThePictureWithoutAWindowShows)
+{
+	Start(WholeScreen);
+	const FPlace Place = Find("", "1 Lit");
+	Hover(Place);
+	EXPECT_EQ(WaitForPicture("open 1 View; close-menus; tick 1", Place), 0);
+}
+
+TEST_F(WindowRun, LeavesInTheEnginesOrderWhenItIsTerminated)
+{
+	Start(WholeScreen);
+	Editor->Signal(SIGTERM);
+	const FProgramResult Result = Editor->Wait();
+	EXPECT_EQ(Result.Code, 0);
+	EXPECT_NE(Result.Output.find("Shutting down and abandoning module TintmillEditor"), std::string::npos);
+}
+
+TEST_F(WindowRun, LeavesInTheEnginesOrderWhenTheWindowIsClosed)
+{
+	Start(WholeScreen);
+	ASSERT_TRUE(Desktop.CloseWindow("DemoProject - Tintmill Editor") || Desktop.CloseWindow("Project - Tintmill Editor"));
+	const FProgramResult Result = Editor->Wait();
+	EXPECT_EQ(Result.Code, 0);
+	EXPECT_NE(Result.Output.find("Shutting down and abandoning module TintmillEditor"), std::string::npos);
+}
+
+TEST_F(WindowRun, LeavesInTheEnginesOrderByTheMenu)
+{
+	Start(WholeScreen);
+	Click(Find("", "all File"));
+	WaitUntilStill();
+	Click(Find("click File", "all Exit"));
+	const FProgramResult Result = Editor->Wait();
+	EXPECT_EQ(Result.Code, 0);
+	EXPECT_NE(Result.Output.find("Shutting down and abandoning module TintmillEditor"), std::string::npos);
+}
+
+TEST_F(WindowRun, LeavesInTheEnginesOrderWhenTheDisplayGoesAway)
+{
+	Start(WholeScreen);
+	Desktop.Kill();
+	const FProgramResult Result = Editor->Wait();
+	EXPECT_EQ(Result.Code, 0);
+	EXPECT_NE(Result.Output.find("The display has gone away."), std::string::npos);
+	EXPECT_NE(Result.Output.find("Shutting down and abandoning module TintmillEditor"), std::string::npos);
+}
+
+TEST_F(WindowRun, UsesHardlyAnyProcessorTimeWhenNobodyUsesIt)
+{
+	Start(WholeScreen);
+	// Frames follow the last change for a while.
+	for (int Round = 0; Round < 4; ++Round)
+	{
+		WaitUntilStill();
+	}
+	const double Before = Editor->GetProcessorTime();
+	for (int Round = 0; Round < 6; ++Round)
+	{
+		WaitUntilStill();
+	}
+	// At least two seconds have passed.
+	EXPECT_LT(Editor->GetProcessorTime() - Before, 0.1);
+}
+
+TEST_F(WindowRun, FillsAWindowOf200By100)
+{
+	Start({"--window", "200x100"});
+	EXPECT_TRUE(Editor->IsRunning());
+}
+
+TEST_F(WindowRun, PicksALookByMouseAndKeyboardAndHasItAgainAfterARestart)
+{
+	Start(WholeScreen);
+	const FPlace View = Find("", "1 Lit");
+	Click({View.X + 100, View.Y + 100});
+	Click(View);
+	WaitUntilStill();
+	const std::string Open = "click-pane 1; open 1 View; hover Tintmill";
+	const FPlace Tintmill = Find("click-pane 1; open 1 View", "all Tintmill");
+	Hover(Tintmill);
+	const FPlace Row = Find(Open, "all WarmPrint");
+	Hover(Row);
+	const std::string Picker = Open + "; hover WarmPrint";
+	Desktop.Do("type bleach");
+	WaitUntilStill();
+	const FPlace Look = Find(Picker + "; type bleach", "all BleachBypass");
+	Desktop.Do("mousemove " + Look.Words());
+	EXPECT_EQ(WaitForPicture(Picker + "; type bleach; hover BleachBypass", Look), 0);
+	Click(Look);
+	ASSERT_TRUE(WaitUntil([this] { return ReadSettings().find("BleachBypass") != std::string::npos; }));
+	Desktop.Do("key Escape key Escape key Escape");
+	Desktop.Do("mousemove " + View.Words());
+	const std::string Picked = "click-pane 1; set 1 look BleachBypass; open 1 View; close-menus; tick 1";
+	EXPECT_EQ(WaitForPicture(Picked, View), 0);
+
+	Editor->Signal(SIGTERM);
+	EXPECT_EQ(Editor->Wait().Code, 0);
+	Start(WholeScreen);
+	Desktop.Do("mousemove " + View.Words());
+	EXPECT_EQ(WaitForPicture(Picked, View), 0);
+}
+
+TEST_F(WindowRun, DragsASplitterAndKeepsItForTheNextStart)
+{
+	Start(WholeScreen);
+	const FPicture Before = Desktop.TakePicture();
+	const FPlace Splitter = Find("", "all 'splitter 1'");
+	Desktop.Do("mousemove " + Splitter.Words() + " mousedown 1");
+	for (int Step = 1; Step <= 8; ++Step)
+	{
+		Desktop.Do("mousemove " + FPlace{Splitter.X - 10 * Step, Splitter.Y - 10 * Step}.Words());
+	}
+	Desktop.Do("mouseup 1 mousemove 2 2");
+	WaitUntilStill();
+	const FPicture After = Desktop.TakePicture();
+	EXPECT_GT(CountStrays(After, Before, {-100, -100}), 10000);
+
+	Editor->Signal(SIGTERM);
+	EXPECT_EQ(Editor->Wait().Code, 0);
+	Start(WholeScreen);
+	Desktop.Do("mousemove 2 2");
+	WaitUntilStill();
+	EXPECT_EQ(CountStrays(Desktop.TakePicture(), After, {-100, -100}), 0);
+}
+
+TEST_F(WindowRun, SaysInOneSentenceThatThereIsNoDisplayAndRunsWithoutAWindow)
+{
+	FWindowedEditor Program(":9999", {"--project", Folder.NativePath("Project").string(), "--out", Folder.NativePath("out").string(), "--list"});
+	const FProgramResult Result = Program.Wait();
+	EXPECT_EQ(Result.Code, 0);
+}
