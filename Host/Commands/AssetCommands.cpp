@@ -14,6 +14,7 @@
 #include "Factories/Factory.h"
 #include "IAssetTools.h"
 #include "StandIn/AssetActivation.h"
+#include "StandIn/AssetFiles.h"
 #include "StandIn/Notices.h"
 #include "TintmillObject.h"
 
@@ -68,7 +69,9 @@ void MakeNewLook(const FArguments& Words, std::ostream& Output)
 	const StandIn::FNewAssetMenuEntry Entry = FindNewLookEntry();
 	Output << "  " << ToUtf8(Entry.Category) << " > " << ToUtf8(Entry.Label) << '\n';
 	StandIn::FPendingNewAsset Pending;
-	if (!StandIn::BeginNewAsset(Entry.Factory, FromUtf8(Words.size() > 1 ? Words[1] : "/Game/Looks"), Pending))
+	FString Folder;
+	const std::string Otherwise = StandIn::FindAssetFolder(TEXT("/Game/Looks"), Folder) ? "/Game/Looks" : "/Game";
+	if (!StandIn::BeginNewAsset(Entry.Factory, FromUtf8(Words.size() > 1 ? Words[1] : Otherwise), Pending))
 	{
 		throw FCommandError("The factory canceled the new look.");
 	}
@@ -161,7 +164,7 @@ void AddAssetCommands(FConsole& Console, FHostProgram& Program)
 			Program.TickEditor(0.0);
 		});
 	Console.Add("new-look NAME [FOLDER]",
-		"make a look from the new-asset menu, in /Game/Looks if no folder is given; the builder opens on it",
+		"make a look from the new-asset menu, in /Game/Looks where there is such a folder and none is given; the builder opens on it",
 		{"new-look Fresh", "new-look Fresh /Game/Looks/Mine"}, [&Program](const FArguments& Words, std::ostream& Output) {
 			Program.GetWindow();
 			MakeNewLook(Words, Output);

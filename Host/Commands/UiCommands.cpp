@@ -27,7 +27,7 @@ namespace
 /** More Escapes than menus can be open, each after one that clears a text. */
 constexpr int MaxEscapes = 32;
 
-constexpr double MinWindowLength = 160.0;
+constexpr double MinWindowLength = 100.0;
 constexpr double MaxWindowLength = 8192.0;
 
 /** Time for the panes to take their new size and to be drawn in it. */

@@ -8,7 +8,7 @@ namespace TintmillHost
 {
 FFrameCommands::FFrameCommands()
 	: Context(MakeShared<FBindingContext>(
-		  TEXT("TintmillHost"), LOCTEXT("Commands", "Commands of the editor's window"), NAME_None, TEXT("TintmillHostStyle")))
+		TEXT("TintmillHost"), LOCTEXT("Commands", "Commands of the editor's window"), NAME_None, TEXT("TintmillHostStyle")))
 {
 	Add(ToggleLook, TEXT("ToggleLook"), LOCTEXT("ToggleLook", "Toggle Look of Active Viewport"),
 		LOCTEXT("ToggleLook_ToolTip", "Clicks 'Enable Display' in the View menu of the active viewport"),
@@ -25,9 +25,8 @@ FFrameCommands::FFrameCommands()
 		FInputChord(EModifierKey::Alt, EKeys::M));
 	Add(Play, TEXT("RepeatLastPlay"), LOCTEXT("Play", "Play"), LOCTEXT("Play_ToolTip", "Plays in the mode that was last used"),
 		FInputChord(EModifierKey::Alt, EKeys::P));
-	Add(Simulate, TEXT("Simulate"), LOCTEXT("Simulate", "Simulate"),
-		LOCTEXT("Simulate_ToolTip", "Simulates in the active viewport"), FInputChord(EModifierKey::Alt, EKeys::S),
-		EUserInterfaceActionType::RadioButton);
+	Add(Simulate, TEXT("Simulate"), LOCTEXT("Simulate", "Simulate"), LOCTEXT("Simulate_ToolTip", "Simulates in the active viewport"),
+		FInputChord(EModifierKey::Alt, EKeys::S), EUserInterfaceActionType::RadioButton);
 	Add(Stop, TEXT("StopPlaySession"), LOCTEXT("Stop", "Stop"), LOCTEXT("Stop_ToolTip", "Stops playing or simulating"),
 		FInputChord(EKeys::Escape));
 	Add(PlayInPane, TEXT("PlayInViewport"), LOCTEXT("PlayInViewport", "Selected Viewport"),

@@ -183,8 +183,7 @@ void RegisterMainMenu(const TSharedRef<SEditorFrame>& Frame)
 	Menus->RegisterMenu("LevelEditor.MainMenu.Help")
 		->AddSection("HelpBrowse", LOCTEXT("HelpBrowse", "Reference"))
 		.AddMenuEntry(Commands.Shortcuts);
-	Menus->RegisterMenu(FrameMenus::Levels)
-		->AddDynamicSection("Levels", FNewToolMenuDelegate::CreateStatic(&FillLevels, WeakFrame));
+	Menus->RegisterMenu(FrameMenus::Levels)->AddDynamicSection("Levels", FNewToolMenuDelegate::CreateStatic(&FillLevels, WeakFrame));
 }
 
 FName GetPlayIcon(const FWeakFrame& Frame)
@@ -207,8 +206,8 @@ FUIAction WhilePossible(const FWeakFrame& Frame, const TSharedPtr<FUICommandInfo
 			Pinned->GetCommandList()->ExecuteAction(Command.ToSharedRef());
 		}
 	};
-	return FUIAction(FExecuteAction::CreateLambda(Run), FCanExecuteAction(), FIsActionChecked(),
-		FIsActionButtonVisible::CreateLambda(IsPossible));
+	return FUIAction(
+		FExecuteAction::CreateLambda(Run), FCanExecuteAction(), FIsActionChecked(), FIsActionButtonVisible::CreateLambda(IsPossible));
 }
 
 FText WithKey(const FUICommandInfo& Command)
@@ -226,9 +225,9 @@ void RegisterToolBar(const TSharedRef<SEditorFrame>& Frame)
 		Bar->AddSection(Section).AddEntry(FToolMenuEntry::InitToolBarButton(
 			Command->GetCommandName(), WhilePossible(WeakFrame, Command), Label, WithKey(*Command), FFrameStyle::GetIcon(Icon)));
 	};
-	Bar->AddSection("File").AddEntry(FToolMenuEntry::InitComboButton("Levels", FToolUIActionChoice(),
-		FNewToolMenuDelegate::CreateStatic(&FillLevels, WeakFrame), LOCTEXT("LevelsButton", "Levels"), WithKey(*Commands.OpenLevel),
-		FFrameStyle::GetIcon("Map")));
+	Bar->AddSection("File").AddEntry(
+		FToolMenuEntry::InitComboButton("Levels", FToolUIActionChoice(), FNewToolMenuDelegate::CreateStatic(&FillLevels, WeakFrame),
+			LOCTEXT("LevelsButton", "Levels"), WithKey(*Commands.OpenLevel), FFrameStyle::GetIcon("Map")));
 	AddButton(TEXT("Content"), Commands.ContentBrowser, LOCTEXT("ContentButton", "Content"), "Folder");
 	AddButton(TEXT("Look"), Commands.ToggleLook, LOCTEXT("LookButton", "Look"), "Layers");
 	FToolMenuSection& Play = Bar->AddSection("Play");
@@ -242,11 +241,11 @@ void RegisterToolBar(const TSharedRef<SEditorFrame>& Frame)
 		Modes.AddMenuEntry(Commands.PlayInWindow, TAttribute<FText>(), TAttribute<FText>(), FFrameStyle::GetIcon("PlayInWindow"));
 		Modes.AddMenuEntry(Commands.Simulate, TAttribute<FText>(), TAttribute<FText>(), FFrameStyle::GetIcon("Simulate"));
 	};
-	Play.AddEntry(FToolMenuEntry::InitComboButton("PlayModes", WhilePossible(WeakFrame, Commands.Play),
-		FNewToolMenuDelegate::CreateLambda(FillModes), LOCTEXT("PlayModes", "Play Modes"),
-		LOCTEXT("PlayModes_ToolTip", "How to play"), FSlateIcon(), true, "Play Modes"));
-	Play.AddEntry(FToolMenuEntry::InitToolBarButton("Stop", WhilePossible(WeakFrame, Commands.Stop), Commands.Stop->GetLabel(),
-		WithKey(*Commands.Stop), FFrameStyle::GetIcon("Stop")));
+	Play.AddEntry(
+		FToolMenuEntry::InitComboButton("PlayModes", WhilePossible(WeakFrame, Commands.Play), FNewToolMenuDelegate::CreateLambda(FillModes),
+			LOCTEXT("PlayModes", "Play Modes"), LOCTEXT("PlayModes_ToolTip", "How to play"), FSlateIcon(), true, "Play Modes"));
+	Play.AddEntry(FToolMenuEntry::InitToolBarButton(
+		"Stop", WhilePossible(WeakFrame, Commands.Stop), Commands.Stop->GetLabel(), WithKey(*Commands.Stop), FFrameStyle::GetIcon("Stop")));
 }
 }
 

@@ -24,8 +24,7 @@ FFrameStyle::FFrameStyle()
 	using StandIn::EBrushShape;
 	const std::pair<const char*, EBrushShape> Icons[] = {{"Play", EBrushShape::Play}, {"Stop", EBrushShape::Stop},
 		{"PlayInWindow", EBrushShape::PlayInWindow}, {"Simulate", EBrushShape::Simulate}, {"Map", EBrushShape::Map},
-		{"Layers", EBrushShape::Layers}, {"Folder", EBrushShape::Folder},
-		{"Log", EBrushShape::Log}};
+		{"Layers", EBrushShape::Layers}, {"Folder", EBrushShape::Folder}, {"Log", EBrushShape::Log}};
 	for (const auto& [Name, Shape] : Icons)
 	{
 		Style->Set(Name, new StandIn::FShapeBrush(Shape, FVector2D(40.0f, 40.0f), FLinearColor::White));

@@ -31,8 +31,8 @@ FString GetLabel(const FName& MenuName, const FName& EntryName)
 	const FToolMenuEntry* const Entry = Menu ? Menu->FindEntry(EntryName) : nullptr;
 	if (!Entry)
 	{
-		throw FCommandError(
-			"The menu " + ToUtf8(MenuName.ToString()) + " has no entry " + ToUtf8(EntryName.ToString()) + ", so the look cannot be toggled.");
+		throw FCommandError("The menu " + ToUtf8(MenuName.ToString()) + " has no entry " + ToUtf8(EntryName.ToString())
+			+ ", so the look cannot be toggled.");
 	}
 	return Entry->Label.Get().ToString();
 }

@@ -19,8 +19,7 @@ namespace
 void PaintLine(FSlateWindowElementList& ElementList, int32 LayerId, const FGeometry& Place, const FLinearColor& Color)
 {
 	static const StandIn::FShapeBrush Frame(StandIn::EBrushShape::RoundedFrame, FVector2D(1.0f, 1.0f), FLinearColor::White);
-	FSlateDrawElement::MakeBox(
-		ElementList, static_cast<uint32>(LayerId), Place.ToPaintGeometry(), &Frame, ESlateDrawEffect::None, Color);
+	FSlateDrawElement::MakeBox(ElementList, static_cast<uint32>(LayerId), Place.ToPaintGeometry(), &Frame, ESlateDrawEffect::None, Color);
 }
 }
 

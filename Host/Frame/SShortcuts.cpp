@@ -23,7 +23,7 @@ namespace
 {
 constexpr float ListWidth = 380.0f;
 constexpr float RowHeight = 20.0f;
-constexpr float OtherHeight = 96.0f;
+constexpr float OtherHeight = 58.0f;
 
 TSharedRef<SWidget> MakeRow(const FText& Label, const FText& Keys)
 {

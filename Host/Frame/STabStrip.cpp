@@ -159,8 +159,7 @@ void STabStrip::Construct(const FArguments& InArgs, const std::vector<FTabLook>&
 	const TSharedRef<SHorizontalBox> Row = SNew(SHorizontalBox);
 	for (const FTabLook& Tab : Tabs)
 	{
-		const TSharedRef<STabHead> Head =
-			SNew(STabHead, Tab).Front(InArgs._Front).OnChosen(InArgs._OnChosen).OnClosed(InArgs._OnClosed);
+		const TSharedRef<STabHead> Head = SNew(STabHead, Tab).Front(InArgs._Front).OnChosen(InArgs._OnChosen).OnClosed(InArgs._OnClosed);
 		Heads.push_back(Head);
 		Row->AddSlot().AutoWidth().Padding(FMargin(0.0f, 0.0f, 2.0f, 0.0f))[Head];
 	}

@@ -6,6 +6,7 @@
 
 #include "Framework/Application/SlateApplication.h"
 #include "InputCoreTypes.h"
+#include "StandIn/TextLines.h"
 #include "Styling/CoreStyle.h"
 #include "Widgets/Input/SEditableTextBox.h"
 #include "Widgets/Input/SMenuAnchor.h"
@@ -24,8 +25,8 @@ namespace
 {
 constexpr float HintRowHeight = 20.0f;
 constexpr int32 MaxHintsInSight = 10;
-constexpr float HintListWidth = 560.0f;
-constexpr float UsageWidth = 220.0f;
+constexpr float WidestList = 760.0f;
+constexpr float UsageWidth = 270.0f;
 }
 
 void SConsoleLine::Construct(const FArguments& InArgs)
@@ -75,7 +76,7 @@ TSharedRef<SWidget> SConsoleLine::MakeList()
 		.Padding(2.0f)
 		[
 			SNew(SBox)
-			.WidthOverride(HintListWidth)
+			.WidthOverride(this, &SConsoleLine::GetListWidth)
 			.HeightOverride(this, &SConsoleLine::GetListHeight)
 			[
 				SAssignNew(List, SListView<FHintItem>)
@@ -90,6 +91,9 @@ TSharedRef<SWidget> SConsoleLine::MakeList()
 
 TSharedRef<ITableRow> SConsoleLine::MakeRow(FHintItem Hint, const TSharedRef<STableViewBase>& Owner)
 {
+	const TSharedRef<STextBlock> Summary =
+		SNew(STextBlock).Text(FText::FromString(FromUtf8(Hint->Summary))).ColorAndOpacity(FSlateColor::UseSubduedForeground());
+	Summary->AddMetadata(MakeShared<StandIn::FEllipsisMetaData>());
 	// clang-format off
 	return SNew(STableRow<FHintItem>, Owner)
 		[
@@ -113,10 +117,7 @@ TSharedRef<ITableRow> SConsoleLine::MakeRow(FHintItem Hint, const TSharedRef<STa
 				.FillWidth(1.0f)
 				.Padding(6.0f, 0.0f)
 				[
-					SNew(STextBlock)
-					.Text(FText::FromString(FromUtf8(Hint->Summary)))
-					.ColorAndOpacity(FSlateColor::UseSubduedForeground())
-					.Clipping(EWidgetClipping::ClipToBounds)
+					Summary
 				]
 			]
 		];
@@ -246,6 +247,11 @@ void SConsoleLine::ShowText(const std::string& Text)
 	TextBox->SetText(FText::FromString(FromUtf8(Text)));
 	HistoryPlace = History.size();
 	Anchor->SetIsOpen(false);
+}
+
+FOptionalSize SConsoleLine::GetListWidth() const
+{
+	return std::min(WidestList, std::max(0.0f, Anchor->GetCachedGeometry().GetLocalSize().X - 4.0f));
 }
 
 FOptionalSize SConsoleLine::GetListHeight() const

@@ -51,6 +51,7 @@ private:
 	void CompleteText(const FConsoleHint& Hint);
 	void GoThroughHistory(int Step);
 	void ShowText(const std::string& Text);
+	FOptionalSize GetListWidth() const;
 	FOptionalSize GetListHeight() const;
 
 	FConsoleLink Console;

@@ -17,7 +17,10 @@ namespace
 /** Longer lines go on in the next one, as in the editor's own log. */
 constexpr int32 MaxLineLength = 360;
 
-/** Where the first line of a text ends: at its line break, or where it is too long, but not within a character of two units. */
+/** Long lines are not broken within words up to this length. */
+constexpr int32 LongestWord = 60;
+
+/** Where the first line of a text ends: at its line break, or before it is too long, but not within a character of two units. */
 int32 FindLineEnd(const FString& Text, int32 Start)
 {
 	const int32 End = std::min(Text.Len(), Start + MaxLineLength);
@@ -28,7 +31,18 @@ int32 FindLineEnd(const FString& Text, int32 Start)
 			return Index;
 		}
 	}
-	const bool bWithinCharacter = End < Text.Len() && Text[End] >= 0xDC00 && Text[End] <= 0xDFFF;
+	if (End == Text.Len())
+	{
+		return End;
+	}
+	for (int32 Index = End; Index > End - LongestWord; --Index)
+	{
+		if (Text[Index - 1] == TEXT(' '))
+		{
+			return Index;
+		}
+	}
+	const bool bWithinCharacter = Text[End] >= 0xDC00 && Text[End] <= 0xDFFF;
 	return bWithinCharacter ? End - 1 : End;
 }
 }

@@ -109,10 +109,6 @@ void Write(const std::string& Key, const std::string& Text, bool bIsDefault)
 	{
 		Save();
 	}
-	else
-	{
-		TickState();
-	}
 }
 }
 

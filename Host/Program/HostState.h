@@ -44,7 +44,7 @@ void SetStateText(const std::string& Key, const std::string& Value, const std::s
 /** One of some words, in their spelling; the default if the saved one is none of them. */
 std::string GetStateWord(const std::string& Key, const std::vector<std::string>& Words, const std::string& Default);
 
-/** While it lives something is dragged: changes are saved once a second, and all of them at its end. */
+/** While it lives something is dragged: changes are saved by TickState, the first at once, and all of them at its end. */
 class FStateDrag
 {
 public:
@@ -54,7 +54,7 @@ public:
 	FStateDrag& operator=(const FStateDrag&) = delete;
 };
 
-/** Saves what has waited a second for it; to be called every frame. */
+/** Saves what waits, if the last save was a second ago or more; to be called every frame. */
 void TickState();
 
 /** Saves what waits. */

@@ -5,6 +5,8 @@
 #include "Host/Gallery/Packing.h"
 #include "Host/Program/Strings.h"
 
+#include "StandIn/AtomicFile.h"
+
 #include <fstream>
 #include <iterator>
 #include <system_error>
@@ -26,7 +28,9 @@ std::optional<std::string> ReadFile(const std::filesystem::path& File)
 
 void FKeptSettings::Keep(const std::filesystem::path& InFile)
 {
-	if (!bKept)
+	// Where nothing is saved there is nothing to put back, and others may save meanwhile.
+	FString Why;
+	if (!bKept && !StandIn::AreSavesRefused(PathToEngine(InFile), Why))
 	{
 		bKept = true;
 		File = InFile;

@@ -21,7 +21,7 @@ std::string MakeCaption(std::string Text)
 
 std::string MakeProjectRoad(const std::string& ProjectName, const std::vector<std::string>& Looks)
 {
-	std::string Road = "title The looks of " + MakeCaption(ProjectName) + "\npanes\n";
+	std::string Road = "title The looks of " + MakeCaption(ProjectName) + "\nkeep-settings\npanes\n";
 	if (!Looks.empty())
 	{
 		Road += "chapter Every look, without it and with it\n";

@@ -15,6 +15,8 @@
 #include "TintmillObject.h"
 
 #include <algorithm>
+#include <chrono>
+#include <iterator>
 
 namespace TintmillHost
 {
@@ -32,6 +34,12 @@ constexpr size_t MaxThumbnails = 512;
 
 /** Frames after which a thumbnail counts as not asked for, and a dropped brush as gone from the screen. */
 constexpr uint64 ManyFrames = 120;
+
+/** Frames after which something counts as out of sight. */
+constexpr uint64 FewFrames = 2;
+
+/** How long looks are loaded in one frame; the last one may take longer. */
+constexpr std::chrono::milliseconds LoadTime(6);
 
 /** Pictures of one thing in more sizes than these are made anew when they are needed. */
 constexpr size_t MaxSizes = 4;
@@ -142,16 +150,20 @@ const FSlateBrush* FLookThumbnails::RequestTexture(const FAssetData& Asset)
 void FLookThumbnails::Update()
 {
 	++Frame;
-	for (auto& [Path, Thumbnail] : Thumbnails)
+	for (auto It = Thumbnails.begin(); It != Thumbnails.end();)
 	{
+		FThumbnail& Thumbnail = It->second;
 		if (Thumbnail.bMade && StandIn::GetLookRevision(Thumbnail.Look.Get()) != Thumbnail.Revision)
 		{
 			// The file was changed, broken or mended.
 			Drop(Thumbnail);
-			Waiting.push_back(Path);
+			Waiting.push_back(It->first);
 		}
+		// What was scrolled out of sight before its turn came is not loaded.
+		It = !Thumbnail.bMade && Thumbnail.LastAsked + FewFrames < Frame ? Thumbnails.erase(It) : std::next(It);
 	}
-	if (!Waiting.empty())
+	const auto Start = std::chrono::steady_clock::now();
+	while (!Waiting.empty() && std::chrono::steady_clock::now() - Start < LoadTime)
 	{
 		// What was scrolled into sight last comes first.
 		const std::string Path = Waiting.back();
@@ -169,7 +181,8 @@ void FLookThumbnails::Update()
 void FLookThumbnails::Make(const std::string& Path)
 {
 	const auto Found = Thumbnails.find(Path);
-	UTintmillObject* const Look = Found == Thumbnails.end() ? nullptr : Cast<UTintmillObject>(Found->second.Asset.GetAsset());
+	const bool bWanted = Found != Thumbnails.end() && !Found->second.bMade;
+	UTintmillObject* const Look = bWanted ? Cast<UTintmillObject>(Found->second.Asset.GetAsset()) : nullptr;
 	if (Look == nullptr)
 	{
 		return;

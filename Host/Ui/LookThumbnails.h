@@ -18,7 +18,7 @@
 class UTintmillObject;
 
 // Thumbnails of assets in lists and tiles. That of a look is a small picture of the scene with the look: the look is loaded between
-// two frames, one at a time, after its row was painted; until then, and for a look that cannot be used, the row shows the thumbnail
+// two frames after its row was painted, as long as it is in sight, a few milliseconds' worth at a time; until then, and for a look that cannot be used, the row shows the thumbnail
 // of its class. A look that changes gets another thumbnail. That of a texture is the picture itself.
 
 namespace TintmillHost

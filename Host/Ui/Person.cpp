@@ -4,6 +4,8 @@
 
 #include "Framework/Application/SlateApplication.h"
 
+#include <utility>
+
 namespace TintmillHost
 {
 namespace
@@ -96,12 +98,38 @@ void FPerson::TurnWheel(float Notches)
 
 bool FPerson::Press(const FInputChord& Chord)
 {
-	const FModifierKeysState Keys(Chord.bShift, false, Chord.bCtrl, false, Chord.bAlt, false, Chord.bCmd, false, false);
+	// The fingers go down one after the other, the key last, and come up in the reverse order.
+	const FModifierKeysState Before = Modifiers;
 	FSlateApplication& Application = FSlateApplication::Get();
+	const FModifierKeysState Keys(Chord.bShift, false, Chord.bCtrl, false, Chord.bAlt, false, Chord.bCmd, false, false);
+	HoldModifiers(Keys);
 	const bool bDown = Application.ProcessKeyDownEvent(FKeyEvent(Chord.Key, Keys, 0, false, 0, 0));
 	const bool bUp = Application.ProcessKeyUpEvent(FKeyEvent(Chord.Key, Keys, 0, false, 0, 0));
+	HoldModifiers(Before);
 	Wait(0.0);
 	return bDown || bUp;
+}
+
+void FPerson::HoldModifiers(const FModifierKeysState& InModifiers)
+{
+	const std::pair<FKey, bool (FModifierKeysState::*)() const> Keys[] = {{EKeys::LeftControl, &FModifierKeysState::IsControlDown},
+		{EKeys::LeftShift, &FModifierKeysState::IsShiftDown}, {EKeys::LeftAlt, &FModifierKeysState::IsAltDown},
+		{EKeys::LeftCommand, &FModifierKeysState::IsCommandDown}};
+	const FModifierKeysState Before = Modifiers;
+	Modifiers = InModifiers;
+	for (const auto& [Key, IsDown] : Keys)
+	{
+		const bool bWas = (Before.*IsDown)();
+		const bool bIs = (InModifiers.*IsDown)();
+		if (bIs && !bWas)
+		{
+			FSlateApplication::Get().ProcessKeyDownEvent(FKeyEvent(Key, InModifiers, 0, false, 0, 0));
+		}
+		else if (bWas && !bIs)
+		{
+			FSlateApplication::Get().ProcessKeyUpEvent(FKeyEvent(Key, InModifiers, 0, false, 0, 0));
+		}
+	}
 }
 
 bool FPerson::Type(const FString& Text)

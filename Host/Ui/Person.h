@@ -34,8 +34,8 @@ public:
 	/** Presses a button at a place, moves the mouse to another in small steps, and releases the button there. */
 	void Drag(const FVector2D& From, const FVector2D& To, const FKey& Button = EKeys::LeftMouseButton);
 
-	/** Sets the modifier keys that are held while the mouse is used, until they are set anew. */
-	void HoldModifiers(const FModifierKeysState& InModifiers) { Modifiers = InModifiers; }
+	/** Presses and releases modifier keys so that these are held from now on, the left ones. */
+	void HoldModifiers(const FModifierKeysState& InModifiers);
 
 	/** Turns the wheel by notches, positive away from the person, where the mouse is. */
 	void TurnWheel(float Notches);

@@ -63,6 +63,10 @@ int32 TabNumber(FName Name)
 FText GetLevelName()
 {
 	const std::string Map = GetOpenMap();
+	if (Map.starts_with("/Temp/"))
+	{
+		return LOCTEXT("Untitled", "Untitled");
+	}
 	return FText::FromString(FromUtf8(Map.substr(Map.rfind('/') + 1)));
 }
 }
@@ -386,7 +390,8 @@ void SEditorFrame::SetState(const FFrameState& NewState)
 	State.bOutputLogOpen = NewState.bOutputLogOpen;
 	const FName Wanted(*FromUtf8(NewState.FrontTab));
 	const FName Other = Wanted == BrowserPanel ? LogPanel : BrowserPanel;
-	State.FrontTab = ToUtf8((IsPanelOpen(Wanted) || !IsPanelOpen(Other) ? (Panels.count(Wanted) ? Wanted : BrowserPanel) : Other).ToString());
+	State.FrontTab =
+		ToUtf8((IsPanelOpen(Wanted) || !IsPanelOpen(Other) ? (Panels.count(Wanted) ? Wanted : BrowserPanel) : Other).ToString());
 }
 
 void SEditorFrame::TogglePanel(FName Panel)

@@ -75,8 +75,7 @@ void SEditorFrame::Try(const char* What, const std::function<void()>& Action) co
 void SEditorFrame::BindCommands()
 {
 	const auto Map = [this](const TSharedPtr<FUICommandInfo>& Command, const char* Problem, auto Body) {
-		CommandList->MapAction(
-			Command, FExecuteAction::CreateLambda([this, Problem, Body]() { Try(Problem, Body); }), FCanExecuteAction());
+		CommandList->MapAction(Command, FExecuteAction::CreateLambda([this, Problem, Body]() { Try(Problem, Body); }), FCanExecuteAction());
 	};
 	Map(Commands.NewLevel, "No new level could be made", [] { GEditor->NewMap(); });
 	Map(Commands.OpenLevel, "The levels cannot be shown", [this] { OpenMapsMenu(); });

@@ -41,7 +41,8 @@ FName GetShortType(const SWidget& Widget)
 
 bool IsButton(const FName& Type)
 {
-	static const FName Types[] = {"SButton", "SComboButton", "SMenuBarHead", "STabHead", "SEditorViewportToolbarMenu", "SEditorViewportViewMenu", "SLevelEditorViewportViewMenu"};
+	static const FName Types[] = {"SButton", "SComboButton", "SMenuBarHead", "STabHead", "SEditorViewportToolbarMenu",
+		"SEditorViewportViewMenu", "SLevelEditorViewportViewMenu"};
 	return std::find(std::begin(Types), std::end(Types), Type) != std::end(Types);
 }
 

@@ -2,6 +2,8 @@
 
 #include "Host/Window/SdlWindow.h"
 
+#include "Host/Window/DisplayLoss.h"
+
 #include <algorithm>
 #include <cmath>
 #include <vector>
@@ -32,6 +34,7 @@ FSdlVideo::FSdlVideo()
 	SDL_SetHint(SDL_HINT_VIDEO_X11_NET_WM_BYPASS_COMPOSITOR, "0");
 	SDL_SetHint(SDL_HINT_MOUSE_FOCUS_CLICKTHROUGH, "1");
 	SDL_SetHint(SDL_HINT_FRAMEBUFFER_ACCELERATION, "0");
+	PassOverDisplayErrors();
 	if (SDL_InitSubSystem(SDL_INIT_VIDEO) != 0)
 	{
 		Problem = SDL_GetError();

@@ -12,29 +12,39 @@
 #include "Logging/LogMacros.h"
 
 #include <iostream>
+#include <memory>
+#include <utility>
 
 DEFINE_LOG_CATEGORY_STATIC(LogHostWindow, Log, All);
 
 namespace TintmillHost
 {
+namespace
+{
+/** What FindDisplay has opened stays open for the window: there is no need to greet a display twice. */
+std::unique_ptr<FSdlVideo> FoundVideo;
+}
+
 bool FindDisplay(std::string& OutWhy)
 {
-	const FSdlVideo Video;
-	if (!Video.GetProblem().empty())
+	FoundVideo = std::make_unique<FSdlVideo>();
+	if (const std::string Problem = FoundVideo->GetProblem(); !Problem.empty())
 	{
-		OutWhy = "No window can be opened: " + Video.GetProblem() + ".";
+		FoundVideo.reset();
+		OutWhy = "No window can be opened: " + Problem + ".";
+		return false;
 	}
-	return Video.GetProblem().empty();
+	return true;
 }
 
 int RunInWindow(FHostProgram& Program)
 {
-	FSdlVideo Video;
+	const std::unique_ptr<FSdlVideo> Video = FoundVideo ? std::move(FoundVideo) : std::make_unique<FSdlVideo>();
 	FEditorWindow& Editor = Program.GetWindow();
 	const FIntPoint Size = Editor.GetSlateWindow()->GetSizeInScreen().IntPoint();
 	FSdlWindow Display(
 		ToUtf8(Editor.GetSlateWindow()->GetTitle().ToString()), Program.GetOptions().bWindowSizeGiven ? Size : RestoreWindowSize(Size));
-	if (const std::string Problem = Video.GetProblem() + Display.GetProblem(); !Problem.empty())
+	if (const std::string Problem = Video->GetProblem() + Display.GetProblem(); !Problem.empty())
 	{
 		std::cerr << "The window cannot be opened: " << Problem << ".\n";
 		return 2;
@@ -48,7 +58,7 @@ int RunInWindow(FHostProgram& Program)
 	{
 		Loop.Abandon();
 		Display.Abandon();
-		Video.Abandon();
+		Video->Abandon();
 		std::cerr << "The display has gone away. The editor ends as if its window had been closed; nothing is lost.\n";
 	}
 	return 0;

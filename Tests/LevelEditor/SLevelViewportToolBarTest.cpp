@@ -229,7 +229,7 @@ TEST_F(FLevelViewportToolBarTest, EveryViewModeHasAnIconOfItsOwnInOneColumn)
 		if (Shape >= StandIn::EBrushShape::ViewLit && Shape <= StandIn::EBrushShape::ViewVisibilityCollision)
 		{
 			Icons.insert(Shape);
-			Columns.insert(Element.GetPosition().X);
+			Columns.insert(Element.GetRect().Left);
 		}
 	}
 	EXPECT_EQ(Icons.size(), 11u);

@@ -17,8 +17,9 @@ protected:
 	/** Shows a bar of a name, as wide as it wishes or of a fixed width. */
 	void ShowBar(const TCHAR* Name, const FToolMenuContext& Context = FToolMenuContext(), float Width = 0.0f)
 	{
-		const TSharedRef<SBox> Box =
-			SNew(SBox).HAlign(Width > 0.0f ? HAlign_Fill : HAlign_Left).VAlign(VAlign_Top)[UToolMenus::Get()->GenerateWidget(Name, Context)];
+		const TSharedRef<SBox> Box = SNew(SBox)
+										 .HAlign(Width > 0.0f ? HAlign_Fill : HAlign_Left)
+										 .VAlign(VAlign_Top)[UToolMenus::Get()->GenerateWidget(Name, Context)];
 		if (Width > 0.0f)
 		{
 			Box->SetWidthOverride(Width);
@@ -385,10 +386,9 @@ TEST_F(UToolMenusBarsTest, RunTheLegacyDelegateOfAToolBarsSection)
 TEST_F(UToolMenusBarsTest, ApplyTheContextsToolBarExtensions)
 {
 	const TSharedRef<FExtender> Extender = MakeShared<FExtender>();
-	Extender->AddToolBarExtension(
-		"Play", EExtensionHook::After, nullptr, FToolBarExtensionDelegate::CreateLambda([](FToolBarBuilder& Builder) {
-			Builder.AddToolBarButton(FUIAction(), NAME_None, FText::FromString(TEXT("Added")));
-		}));
+	Extender->AddToolBarExtension("Play", EExtensionHook::After, nullptr,
+		FToolBarExtensionDelegate::CreateLambda(
+			[](FToolBarBuilder& Builder) { Builder.AddToolBarButton(FUIAction(), NAME_None, FText::FromString(TEXT("Added"))); }));
 	RegisterToolBar().AddEntry(MakeButton(TEXT("Play")));
 	ShowBar(TEXT("Bar"), FToolMenuContext(nullptr, Extender));
 	EXPECT_TRUE(IsText(Read(), TEXT("Play|Added")));
@@ -397,10 +397,9 @@ TEST_F(UToolMenusBarsTest, ApplyTheContextsToolBarExtensions)
 TEST_F(UToolMenusBarsTest, ApplyTheContextsMenuBarExtensions)
 {
 	const TSharedRef<FExtender> Extender = MakeShared<FExtender>();
-	Extender->AddMenuBarExtension(
-		"File", EExtensionHook::After, nullptr, FMenuBarExtensionDelegate::CreateLambda([](FMenuBarBuilder& Builder) {
-			Builder.AddPullDownMenu(FText::FromString(TEXT("Added")), FText(), FNewMenuDelegate());
-		}));
+	Extender->AddMenuBarExtension("File", EExtensionHook::After, nullptr,
+		FMenuBarExtensionDelegate::CreateLambda(
+			[](FMenuBarBuilder& Builder) { Builder.AddPullDownMenu(FText::FromString(TEXT("Added")), FText(), FNewMenuDelegate()); }));
 	RegisterMainMenu();
 	ShowBar(TEXT("Main"), FToolMenuContext(nullptr, Extender));
 	EXPECT_TRUE(IsText(Read(), TEXT("File|Added|Edit")));

@@ -57,8 +57,8 @@ bool WaitUntil(const std::function<bool()>& Question)
 FDesktop::FDesktop()
 {
 	Server = std::make_unique<FRunningProgram>("/usr/bin/env",
-		std::vector<std::string>{"Xvfb", "-displayfd", "1", "-screen", "0", "1280x800x24", "-nolisten", "tcp", "-nocursor", "-noreset", "-fbdir",
-			Memory.NativePath("").string()});
+		std::vector<std::string>{"Xvfb", "-displayfd", "1", "-screen", "0", "1280x800x24", "-nolisten", "tcp", "-nocursor", "-noreset",
+			"-fbdir", Memory.NativePath("").string()});
 	Name = ":" + Server->ReadLine();
 }
 
@@ -134,9 +134,9 @@ bool FDesktop::CloseWindow(const std::string& Title) const
 	return bFound;
 }
 
-FWindowedEditor::FWindowedEditor(const std::string& Display, const std::vector<std::string>& Arguments)
+FWindowedEditor::FWindowedEditor(const std::string& DisplayName, const std::vector<std::string>& Arguments)
 {
-	std::vector<std::string> All = {"-u", "WAYLAND_DISPLAY", "DISPLAY=" + Display, "SDL_VIDEODRIVER=x11", TINTMILL_EDITOR};
+	std::vector<std::string> All = {"-u", "WAYLAND_DISPLAY", "DISPLAY=" + DisplayName, "SDL_VIDEODRIVER=x11", TINTMILL_EDITOR};
 	All.insert(All.end(), Arguments.begin(), Arguments.end());
 	Program = std::make_unique<FRunningProgram>("/usr/bin/env", All);
 }

@@ -46,7 +46,7 @@ class FWindowedEditor
 {
 public:
 	/** Starts it with arguments on a display of a name. */
-	FWindowedEditor(const std::string& Display, const std::vector<std::string>& Arguments);
+	FWindowedEditor(const std::string& DisplayName, const std::vector<std::string>& Arguments);
 	~FWindowedEditor();
 
 	/** Sends it a signal. */

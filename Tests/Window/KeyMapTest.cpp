@@ -26,7 +26,8 @@ std::string NameKey(SDL_Keycode Code, SDL_Scancode Place = SDL_SCANCODE_UNKNOWN,
 
 TEST(KeyMap, NamesLettersDigitsAndFunctionKeys)
 {
-	EXPECT_EQ(NameKey(SDLK_a) + NameKey(SDLK_z) + NameKey(SDLK_0) + NameKey(SDLK_9) + NameKey(SDLK_F1) + NameKey(SDLK_F12), "AZZeroNineF1F12");
+	EXPECT_EQ(
+		NameKey(SDLK_a) + NameKey(SDLK_z) + NameKey(SDLK_0) + NameKey(SDLK_9) + NameKey(SDLK_F1) + NameKey(SDLK_F12), "AZZeroNineF1F12");
 }
 
 TEST(KeyMap, NamesKeysThatEditTexts)
@@ -37,7 +38,8 @@ TEST(KeyMap, NamesKeysThatEditTexts)
 
 TEST(KeyMap, TellsLeftModifiersFromRightOnes)
 {
-	EXPECT_EQ(NameKey(SDLK_LSHIFT) + NameKey(SDLK_RSHIFT) + NameKey(SDLK_LCTRL) + NameKey(SDLK_RALT), "LeftShiftRightShiftLeftControlRightAlt");
+	EXPECT_EQ(
+		NameKey(SDLK_LSHIFT) + NameKey(SDLK_RSHIFT) + NameKey(SDLK_LCTRL) + NameKey(SDLK_RALT), "LeftShiftRightShiftLeftControlRightAlt");
 }
 
 TEST(KeyMap, NamesAKeyOfAnotherAlphabetByItsPlace)

@@ -57,7 +57,8 @@ public:
 
 	FReply OnKeyDown(const FGeometry&, const FKeyEvent& Event) override
 	{
-		return Note(std::string(Event.IsRepeat() ? "again " : "key ") + (Event.IsControlDown() ? "Ctrl+" : "") + ToStd(Event.GetKey().ToString()));
+		return Note(
+			std::string(Event.IsRepeat() ? "again " : "key ") + (Event.IsControlDown() ? "Ctrl+" : "") + ToStd(Event.GetKey().ToString()));
 	}
 
 	FReply OnKeyUp(const FGeometry&, const FKeyEvent& Event) override { return Note("free " + ToStd(Event.GetKey().ToString())); }

@@ -4,7 +4,7 @@
 
 #include <SDL_syswm.h>
 
-// Xlib ends the program when it loses its server, unless it is told what else to do. It is found at run time, as SDL finds it.
+// Xlib ends the program when a request fails or its server is lost, unless it is told what else to do. It is found at run time, as SDL finds it.
 
 namespace TintmillHost
 {
@@ -23,11 +23,30 @@ int IgnoreError(Display*)
 	return 0;
 }
 
-template <typename FunctionType>
-FunctionType FindFunction(void* Library, const char* Name)
+int IgnoreRequestError(Display*, XErrorEvent*)
 {
-	return reinterpret_cast<FunctionType>(SDL_LoadFunction(Library, Name));
+	// Such as one about a window of another program that has just gone.
+	return 0;
 }
+
+/** A function of Xlib; null where there is none. */
+template <typename FunctionType>
+FunctionType FindFunction(const char* Name)
+{
+	static void* const Library = SDL_LoadObject("libX11.so.6");
+	return Library != nullptr ? reinterpret_cast<FunctionType>(SDL_LoadFunction(Library, Name)) : nullptr;
+}
+#endif
+}
+
+void PassOverDisplayErrors()
+{
+#if defined(SDL_VIDEO_DRIVER_X11)
+	using FSetHandler = int (*(*)(int (*)(Display*, XErrorEvent*)))(Display*, XErrorEvent*);
+	if (const auto SetHandler = FindFunction<FSetHandler>("XSetErrorHandler"))
+	{
+		SetHandler(&IgnoreRequestError);
+	}
 #endif
 }
 
@@ -40,21 +59,16 @@ void WatchDisplay([[maybe_unused]] SDL_Window* Window)
 	{
 		return;
 	}
-	void* const Library = SDL_LoadObject("libX11.so.6");
-	if (Library == nullptr)
-	{
-		return;
-	}
-	using FExitHandler = void (*)(Display*, void (*)(Display*, void*), void*);
-	using FErrorHandler = int (*(*)(int (*)(Display*)))(Display*);
-	if (const auto SetExitHandler = FindFunction<FExitHandler>(Library, "XSetIOErrorExitHandler"))
+	using FSetExitHandler = void (*)(Display*, void (*)(Display*, void*), void*);
+	using FSetHandler = int (*(*)(int (*)(Display*)))(Display*);
+	if (const auto SetExitHandler = FindFunction<FSetExitHandler>("XSetIOErrorExitHandler"))
 	{
 		SetExitHandler(Info.info.x11.display, &NoteLoss, nullptr);
 	}
 	// The default one writes to the error output before it ends the program.
-	if (const auto SetErrorHandler = FindFunction<FErrorHandler>(Library, "XSetIOErrorHandler"))
+	if (const auto SetHandler = FindFunction<FSetHandler>("XSetIOErrorHandler"))
 	{
-		SetErrorHandler(&IgnoreError);
+		SetHandler(&IgnoreError);
 	}
 #endif
 }

@@ -4,6 +4,8 @@
 
 namespace TintmillHost
 {
+void PassOverDisplayErrors() {}
+
 void WatchDisplay(SDL_Window*) {}
 
 bool IsDisplayLost()

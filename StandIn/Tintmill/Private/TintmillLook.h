@@ -14,8 +14,12 @@
 struct FTintmillFileStamp
 {
 	bool bExists = false;
-	std::uintmax_t Size = 0;
-	std::filesystem::file_time_type Time;
+
+	/** In bytes. */
+	std::uint64_t Size = 0;
+
+	/** When it was changed last, in the smallest unit that the system counts in: the C++ library counts whole seconds on Windows. */
+	std::int64_t Time = 0;
 
 	/** The stamp of a file as it is now. */
 	static FTintmillFileStamp Of(const std::filesystem::path& Path);

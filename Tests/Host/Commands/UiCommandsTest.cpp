@@ -20,7 +20,7 @@ TEST_F(UiCommands, ViewIsAnotherNameForTheButtonThatReadsLit)
 
 TEST_F(UiCommands, AButtonWithoutAMenuMakesAComplaint)
 {
-	ExpectComplaint("open 1 Show", "The button 'Show' of pane 1 opens no menu here");
+	ExpectComplaint("open 1 Maximize", "The button 'Maximize' of pane 1 opens no menu here");
 }
 
 TEST_F(UiCommands, AnUnknownButtonMakesAComplaintWithTheButtonsThereAre)
@@ -81,7 +81,8 @@ TEST_F(UiCommands, ThePickerOpensWithTheSearchBoxFocused)
 
 TEST_F(UiCommands, TypingNarrowsTheList)
 {
-	ExpectDone(Panel + "hover Select a TML Asset; type gre; expect visible 1 item; expect visible Green; expect absent Red");
+	ExpectDone("click Output Log; " + Panel
+		+ "hover Select a TML Asset; type gre; expect visible 1 item; expect visible Green; expect absent Red");
 }
 
 TEST_F(UiCommands, AClickOnALookChoosesItAndClosesThePicker)
@@ -128,7 +129,8 @@ TEST_F(UiCommands, AClickOnAPicturesPaneMakesItActive)
 
 TEST_F(UiCommands, TheSearchBoxTakesChords)
 {
-	ExpectDone(Panel + "hover Select a TML Asset; type red; press Ctrl+A; type green; expect visible Green; expect absent Red");
+	ExpectDone("click Output Log; " + Panel
+		+ "hover Select a TML Asset; type red; press Ctrl+A; type green; expect visible Green; expect absent Red");
 }
 
 TEST_F(UiCommands, TextWithoutABoxMakesAComplaint)

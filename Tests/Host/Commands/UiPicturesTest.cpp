@@ -14,7 +14,7 @@ TEST_F(UiPictures, AShotHasTheSizeOfTheWindow)
 	TintmillHost::FPicture Picture;
 	ASSERT_EQ(TintmillHost::ReadPng(Folder.NativePath("out/one.png"), Picture), "");
 	EXPECT_EQ(Picture.Width, 1000);
-	EXPECT_EQ(Picture.Height, 560);
+	EXPECT_EQ(Picture.Height, 720);
 }
 
 TEST_F(UiPictures, AShotAtTwiceTheScaleHasFourTimesThePixels)
@@ -23,7 +23,7 @@ TEST_F(UiPictures, AShotAtTwiceTheScaleHasFourTimesThePixels)
 	TintmillHost::FPicture Picture;
 	ASSERT_EQ(TintmillHost::ReadPng(Folder.NativePath("out/two.png"), Picture), "");
 	EXPECT_EQ(Picture.Width, 2000);
-	EXPECT_EQ(Picture.Height, 1120);
+	EXPECT_EQ(Picture.Height, 1440);
 }
 
 TEST_F(UiPictures, AChosenLookChangesThePixelsOfItsPane)

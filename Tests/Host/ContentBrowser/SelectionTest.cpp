@@ -165,4 +165,36 @@ TEST_F(ContentSelection, TheWheelWithControlMakesTilesLarger)
 	Wait(0.1);
 	EXPECT_FLOAT_EQ(See("Cyan").Center.X - See("Amber").Center.X, Before + 16.0f);
 }
+
+/** With an asset of a class that nobody knows anything about. */
+class UnknownAsset : public FBrowserFixture
+{
+protected:
+	virtual void WriteProject() override
+	{
+		StandIn::FAssetFileType Type;
+		Type.Extension = TEXT("odd");
+		Type.ClassName = FName(TEXT("ToolMenu"));
+		StandIn::RegisterAssetFileType(Type);
+		Project.Write("Content/Strange.odd", "");
+	}
+
+	virtual void TearDown() override
+	{
+		FBrowserFixture::TearDown();
+		StandIn::UnregisterAssetFileType(TEXT("odd"));
+	}
+};
+
+TEST_F(UnknownAsset, IsOpenedWithoutHarmAndAWord)
+{
+	DoubleClick("Strange");
+	EXPECT_NE(ReadNotices().find("there is no editor for assets of the class ToolMenu here."), std::string::npos) << ReadNotices();
+}
+
+TEST_F(UnknownAsset, GoesByTheNameOfItsClass)
+{
+	Hover("Strange");
+	EXPECT_EQ(ReadToolTip(), "Strange|(ToolMenu)|Path:|/Game");
+}
 }

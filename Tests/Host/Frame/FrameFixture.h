@@ -129,8 +129,7 @@ protected:
 		{
 			Person.Click(TintmillHost::FollowPath(Person, Path.substr(0, End)).Center);
 		}
-		const TintmillHost::FSeen Thing =
-			TintmillHost::FollowPath(Person, End == std::string::npos ? Path : Path.substr(End + 3));
+		const TintmillHost::FSeen Thing = TintmillHost::FollowPath(Person, End == std::string::npos ? Path : Path.substr(End + 3));
 		Person.Click(Thing.Center);
 		Wait(0.05);
 	}

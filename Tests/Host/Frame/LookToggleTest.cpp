@@ -61,7 +61,8 @@ TEST_F(LookToggle, LeavesTheSameSettingsAsAPersonWithTheMouse)
 {
 	const auto ReadSettings = [] {
 		TArray<FString> Lines;
-		GConfig->GetArray(TEXT("/Script/TintmillEditor.TintmillLevelViewportSettings"), TEXT("ViewportsSettings"), Lines, GEditorPerProjectIni);
+		GConfig->GetArray(
+			TEXT("/Script/TintmillEditor.TintmillLevelViewportSettings"), TEXT("ViewportsSettings"), Lines, GEditorPerProjectIni);
 		FString Text;
 		for (const FString& Line : Lines)
 		{

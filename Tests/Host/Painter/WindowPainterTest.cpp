@@ -96,12 +96,13 @@ protected:
 			break;
 		case 2:
 			FSlateDrawElement::MakeText(List, Layer, Thing.Place, FString::Printf(TEXT("jQ%d \u00C5\u0329f"), Thing.Choice),
-				FCoreStyle::GetDefaultFontStyle(Thing.Choice % 2 ? "Bold" : "Italic", 7 + Thing.Choice), ESlateDrawEffect::None, Thing.Color);
+				FCoreStyle::GetDefaultFontStyle(Thing.Choice % 2 ? "Bold" : "Italic", 7 + Thing.Choice), ESlateDrawEffect::None,
+				Thing.Color);
 			break;
 		case 3:
 			FSlateDrawElement::MakeLines(List, Layer, Thing.Place,
-				{FVector2D(0, 0), FVector2D(30, 7), FVector2D(Thing.Choice, 4), FVector2D(25, 30)}, ESlateDrawEffect::None, Thing.Color, true,
-				1.0f + 0.25f * static_cast<float>(Thing.Choice));
+				{FVector2D(0, 0), FVector2D(30, 7), FVector2D(Thing.Choice, 4), FVector2D(25, 30)}, ESlateDrawEffect::None, Thing.Color,
+				true, 1.0f + 0.25f * static_cast<float>(Thing.Choice));
 			break;
 		default:
 			FSlateDrawElement::MakeViewport(List, Layer, Thing.Place, Viewport, ESlateDrawEffect::None, Thing.Color);

@@ -39,7 +39,7 @@ TEST_F(EditorState, TheActivePaneComesBack)
 
 TEST_F(EditorState, TheMapComesBack)
 {
-	Run("map Stage");
+	Run("map open Stage");
 	const std::string Output = Run("map").Output;
 	EXPECT_NE(Output.find("/Game/Maps/Stage"), std::string::npos) << Output;
 }
@@ -53,7 +53,7 @@ TEST_F(EditorState, AnUntouchedSessionLeavesTheSettingsByteForByte)
 
 TEST_F(EditorState, ASessionAsTheLastOneLeavesTheSettingsByteForByte)
 {
-	Run("layout TwoPanesHoriz; activate 0; map Stage");
+	Run("layout TwoPanesHoriz; activate 0; map open Stage");
 	const std::string Before = Project.ReadSettings();
 	Run("panes; tick 0.5");
 	EXPECT_EQ(Project.ReadSettings(), Before);
@@ -62,7 +62,9 @@ TEST_F(EditorState, ASessionAsTheLastOneLeavesTheSettingsByteForByte)
 TEST_F(EditorState, GoingBackLeavesTheSettingsByteForByte)
 {
 	const std::string Before = Project.ReadSettings();
-	Run("activate 3; activate 1");
+	const std::string Listed = Panes();
+	const std::string Active = Listed.substr(Listed.find("\n* ") + std::string("\n* FourPanes2x2.Viewport 1.Viewport").size(), 1);
+	Run("activate 3; tick; activate " + Active);
 	EXPECT_EQ(Project.ReadSettings(), Before);
 }
 

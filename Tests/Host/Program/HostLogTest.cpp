@@ -69,6 +69,13 @@ TEST(HostLog, AVeryLongLineGoesOnInTheNext)
 	EXPECT_EQ(Texts(Subject), (std::vector<std::string>{std::string(360, 'x'), "x"}));
 }
 
+TEST(HostLog, ALongLineIsBrokenBetweenWords)
+{
+	const FHostLog Subject;
+	GLog->Log(NAME_None, ELogVerbosity::Log, FromUtf8(std::string(340, 'x') + " " + std::string(30, 'y')));
+	EXPECT_EQ(Subject.GetLines()[1].Text, std::string(30, 'y'));
+}
+
 TEST(HostLog, ALongLineIsNotBrokenWithinACharacterOfTwoUnits)
 {
 	const FHostLog Subject;

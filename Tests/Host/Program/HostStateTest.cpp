@@ -182,6 +182,7 @@ TEST_F(HostState, WhileDraggingItSavesOnceASecond)
 {
 	const FStateDrag Drag;
 	SetStateNumber(Width, 1300.0);
+	TickState();
 	const std::string First = Saved();
 	Seconds += 0.5;
 	SetStateNumber(Width, 1400.0);
@@ -192,6 +193,15 @@ TEST_F(HostState, WhileDraggingItSavesOnceASecond)
 	EXPECT_NE(First.find("WindowWidth=1300"), std::string::npos) << First;
 	EXPECT_EQ(Second, First);
 	EXPECT_NE(Saved().find("WindowWidth=1400"), std::string::npos) << Saved();
+}
+
+TEST_F(HostState, AllThatChangesInOneFrameOfADragIsSavedTogether)
+{
+	const FStateDrag Drag;
+	SetStateNumber(Width, 1300.0);
+	SetStateText("Map", "Stage", "");
+	TickState();
+	EXPECT_EQ(Saved(), "[TintmillHost]\nWindowWidth=1300\nMap=Stage\n\n");
 }
 
 TEST_F(HostState, TheEndOfADragSavesWhatWaited)

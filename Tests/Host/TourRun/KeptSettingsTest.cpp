@@ -1,6 +1,7 @@
 // Copyright The Tintmill authors. All rights reserved.
 
 #include "Host/TourRun/KeptSettings.h"
+#include "StandIn/AtomicFile.h"
 #include "Support/TestFolder.h"
 
 #include <gtest/gtest.h>
@@ -32,6 +33,19 @@ TEST(KeptSettings, AFileThatWasNotThereIsTakenAway)
 	Folder.Write("a.ini", "new");
 	EXPECT_EQ(Kept.PutBack(), "");
 	EXPECT_TRUE(Folder.List().empty());
+}
+
+TEST(KeptSettings, WhereNothingIsSavedTheFileIsLeftToOthers)
+{
+	FTestFolder Folder;
+	Folder.Write("a.ini", "ours");
+	StandIn::RefuseSaves(Folder.Path(), TEXT("another editor has it open"));
+	FKeptSettings Kept;
+	Kept.Keep(Folder.NativePath("a.ini"));
+	Folder.Write("a.ini", "theirs");
+	EXPECT_EQ(Kept.PutBack(), "");
+	StandIn::AllowSaves();
+	EXPECT_EQ(Folder.Read("a.ini"), "theirs");
 }
 
 TEST(KeptSettings, AFileThatWasTakenAwayComesBack)

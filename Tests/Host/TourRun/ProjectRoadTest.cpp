@@ -41,6 +41,11 @@ TEST(ProjectRoad, SaysHowManyLooksOfALargeProjectItShows)
 	EXPECT_NE(Road.find("The first 40 of 20000 looks are shown"), std::string::npos);
 }
 
+TEST(ProjectRoad, LeavesTheSettingsAsTheyWere)
+{
+	EXPECT_EQ(CountCommands(MakeProjectRoad("Film", {"/Game/A"}), "keep-settings"), 1u);
+}
+
 TEST(ProjectRoad, TakesAnyNameOfAProject)
 {
 	EXPECT_EQ(SplitCommands(MakeProjectRoad("Mine; not #1's", {})).front(), "title The looks of Mine  not  1 s");

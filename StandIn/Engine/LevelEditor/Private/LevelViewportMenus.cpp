@@ -54,8 +54,7 @@ TSharedPtr<SLevelViewport> FindViewport(const UToolMenu* Menu)
 
 TSharedPtr<FLevelViewportTabContent> FindTab(const TWeakPtr<SLevelViewport>& Viewport)
 {
-	const TSharedPtr<SLevelEditor> LevelEditor =
-		FModuleManager::GetModuleChecked<FLevelEditorModule>("LevelEditor").GetLevelEditorWidget();
+	const TSharedPtr<SLevelEditor> LevelEditor = FModuleManager::GetModuleChecked<FLevelEditorModule>("LevelEditor").GetLevelEditorWidget();
 	return LevelEditor.IsValid() ? LevelEditor->FindTabOf(Viewport.Pin()) : nullptr;
 }
 
@@ -125,7 +124,8 @@ void FillOptions(UToolMenu* Menu)
 	{
 		FToolMenuSection& Section = Menu->AddSection(TEXT("LevelViewportLayouts"));
 		Section.AddSubMenu(TEXT("Configs"), LOCTEXT("ConfigsSubMenu", "Layouts"),
-			LOCTEXT("ConfigsSubMenu_ToolTip", "Select a layout of the panes of this tab"), FNewToolMenuDelegate::CreateStatic(&FillLayouts));
+			LOCTEXT("ConfigsSubMenu_ToolTip", "Select a layout of the panes of this tab"),
+			FNewToolMenuDelegate::CreateStatic(&FillLayouts));
 		const bool bMaximized = Viewport.IsValid() && Viewport.Pin()->IsMaximized();
 		Section.AddMenuEntry(TEXT("ToggleMaximize"),
 			bMaximized ? LOCTEXT("ToggleMaximizeMenu_Restore", "Restore Viewport")
@@ -174,9 +174,9 @@ void FillCameras(UToolMenu* Menu)
 
 void FillShow(UToolMenu* Menu)
 {
-	FToolMenuSection& Section = Menu->AddSection(TEXT("ShowFlagsMenuSectionCommon"), LOCTEXT("ShowFlagsMenuSectionCommon", "Common Show Flags"));
-	const TCHAR* const Labels[] = {
-		TEXT("Anti-aliasing"), TEXT("Atmosphere"), TEXT("Grid"), TEXT("Static Meshes"), TEXT("Skeletal Meshes")};
+	FToolMenuSection& Section =
+		Menu->AddSection(TEXT("ShowFlagsMenuSectionCommon"), LOCTEXT("ShowFlagsMenuSectionCommon", "Common Show Flags"));
+	const TCHAR* const Labels[] = {TEXT("Anti-aliasing"), TEXT("Atmosphere"), TEXT("Grid"), TEXT("Static Meshes"), TEXT("Skeletal Meshes")};
 	for (const TCHAR* Label : Labels)
 	{
 		Section.AddMenuEntry(

@@ -81,6 +81,7 @@ TSharedRef<SWidget> SLevelViewportToolBar::MakeMaximizeButton()
 	return SNew(SButton)
 		.ButtonStyle(&FCoreStyle::Get().GetWidgetStyle<FButtonStyle>("ViewportToolBar.Button"))
 		.ContentPadding(FMargin(4.0f, 3.0f))
+		.Tag("Maximize")
 		.ToolTip(TSharedPtr<IToolTip>(SNew(SToolTip).Text(this, &SLevelViewportToolBar::GetMaximizeToolTip)))
 		.OnClicked(this, &SLevelViewportToolBar::OnToggleMaximize)
 		[
@@ -120,8 +121,7 @@ FReply SLevelViewportToolBar::OnToggleMaximize()
 const FSlateBrush* SLevelViewportToolBar::GetMaximizeImage() const
 {
 	const TSharedPtr<SLevelViewport> Pinned = Viewport.Pin();
-	return FCoreStyle::Get().GetBrush(
-		Pinned.IsValid() && Pinned->IsMaximized() ? "ViewportToolBar.Restore" : "ViewportToolBar.Maximize");
+	return FCoreStyle::Get().GetBrush(Pinned.IsValid() && Pinned->IsMaximized() ? "ViewportToolBar.Restore" : "ViewportToolBar.Maximize");
 }
 
 FText SLevelViewportToolBar::GetMaximizeToolTip() const

@@ -23,8 +23,7 @@ void AddToolBars(FSlateStyleSet& Style)
 	Style.Set("WindowMenuBar.Padding", FMargin(0.0f));
 	Style.Set("WindowMenuBar.Block.Padding", FMargin(8.0f, 2.0f, 8.0f, 3.0f));
 	Style.Set("WindowMenuBar.Label", FTextBlockStyle(NormalText).SetFont(FCoreStyle::GetDefaultFontStyle("Regular", 9)));
-	Style.Set("WindowMenuBar.Button",
-		FButtonStyle().SetNormal(Nothing).SetHovered(Selected).SetPressed(Pressed).SetDisabled(Nothing));
+	Style.Set("WindowMenuBar.Button", FButtonStyle().SetNormal(Nothing).SetHovered(Selected).SetPressed(Pressed).SetDisabled(Nothing));
 
 	Style.Set("ViewportToolBar.Maximize", new FShapeBrush(EBrushShape::Maximize, FVector2D(14, 14), FSlateColor(GetForeground())));
 	Style.Set("ViewportToolBar.Restore", new FShapeBrush(EBrushShape::FourPanes, FVector2D(14, 14), FSlateColor(GetForeground())));

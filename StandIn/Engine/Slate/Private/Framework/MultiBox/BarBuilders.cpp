@@ -124,8 +124,8 @@ void FToolBarBuilder::AddButton(
 	Look.bCombo = bCombo;
 	Look.bSimpleCombo = bSimpleCombo;
 	Look.Tag = InTag;
-	AddBlock(MakeShared<FToolBarButtonBlock>(
-		MakeShared<FMenuEntryBlock>(Arguments, false, ExtenderStack.Last(), StyleSet, MenuName), Look));
+	AddBlock(
+		MakeShared<FToolBarButtonBlock>(MakeShared<FMenuEntryBlock>(Arguments, false, ExtenderStack.Last(), StyleSet, MenuName), Look));
 }
 
 void FToolBarBuilder::AddToolBarWidget(TSharedRef<SWidget> InWidget, const TAttribute<FText>& InLabel, FName, bool)

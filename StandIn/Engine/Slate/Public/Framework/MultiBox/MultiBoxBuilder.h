@@ -151,8 +151,8 @@ public:
 		FName InExtensionHook = NAME_None, FName InTutorialHighlightName = NAME_None);
 
 	/** Adds a head with a menu below it that the delegate makes at each opening. */
-	void AddPullDownMenu(const TAttribute<FText>& InMenuLabel, const TAttribute<FText>& InToolTip, const FOnGetContent& InMenuContentGenerator,
-		FName InExtensionHook = NAME_None, FName InTutorialHighlightName = NAME_None);
+	void AddPullDownMenu(const TAttribute<FText>& InMenuLabel, const TAttribute<FText>& InToolTip,
+		const FOnGetContent& InMenuContentGenerator, FName InExtensionHook = NAME_None, FName InTutorialHighlightName = NAME_None);
 
 private:
 	void AddHead(FMenuEntryArguments& Arguments);
@@ -215,8 +215,8 @@ public:
 private:
 	friend class UToolMenus;
 
-	void AddButton(FMenuEntryArguments& Arguments, const TAttribute<FSlateIcon>& Icon, const bool bCombo, const bool bSimpleCombo,
-		const FName InTag);
+	void AddButton(
+		FMenuEntryArguments& Arguments, const TAttribute<FSlateIcon>& Icon, const bool bCombo, const bool bSimpleCombo, const FName InTag);
 	void AddBlock(const TSharedRef<const FMultiBlock>& InBlock);
 	void ApplyHook(FName InExtensionHook, EExtensionHook::Position HookPosition);
 

@@ -76,8 +76,8 @@ private:
 		FName ExtensionHook, EExtensionHook::Position HookPosition, const TSharedPtr<FUICommandList>& CommandList);
 
 	template <typename BuilderType, typename DelegateType>
-	void ApplyTo(FName ExtensionHook, EExtensionHook::Position HookPosition, BuilderType& Builder,
-		DelegateType FExtensionBase::*Delegate) const;
+	void ApplyTo(
+		FName ExtensionHook, EExtensionHook::Position HookPosition, BuilderType& Builder, DelegateType FExtensionBase::*Delegate) const;
 
 	TArray<TSharedPtr<const FExtensionBase>> Extensions;
 };
