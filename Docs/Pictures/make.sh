@@ -1,10 +1,14 @@
 #!/usr/bin/env bash
-# Makes the README's pictures anew from the program as it is. Look at each before committing it.
+# Makes the README's pictures anew from the program as it is, on a copy of the demo project. Look at each before committing it.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/../.."
-work=$(mktemp -d)
+# The look builder shows where a look's file lies, so the folder has a name that may be seen.
+work=${TMPDIR:-/tmp}/tintmill-pictures
+rm -rf "$work"
+mkdir -p "$work"
 trap 'rm -rf "$work"' EXIT
-./run --headless --size 960x540 --tour Docs/Pictures/pictures.tour --out "$work"
+cp -r Host/DemoProject "$work/DemoProject"
+./run --headless --size 960x540 --project "$work/DemoProject" --tour Docs/Pictures/pictures.tour --out "$work/out"
 for picture in Panes Editor Menu Builder Broken; do
-    cp "$work/$picture.png" Docs/Pictures/
+    cp "$work/out/$picture.png" Docs/Pictures/
 done

@@ -42,6 +42,9 @@ struct FContentItem
 	/** The label in small letters, for sorting and searching. */
 	std::string SortKey;
 
+	/** Of assets: the path "/game/looks/teal.teal" in small letters. */
+	std::string PathKey;
+
 	/** Of assets: the class in small letters. */
 	std::string ClassKey;
 

@@ -176,7 +176,7 @@ TArray<FContentItemPtr> FContentModel::List(const FString& Path, const FString& 
 	const bool bEverywhere = Path == GetRoot();
 	for (const FContentItemPtr& Asset : Assets)
 	{
-		if (Fits(*Asset, Words) && (bEverywhere || IsBelow(MakeKey(Asset->Asset.PackageName.ToString()), Key)))
+		if (Fits(*Asset, Words) && (bEverywhere || IsBelow(Asset->PathKey, Key)))
 		{
 			Items.Add(Asset);
 		}
@@ -208,6 +208,7 @@ void FContentModel::OnAssetAdded(const FAssetData& Asset)
 	Item->Label = Asset.AssetName.ToString();
 	Item->Asset = Asset;
 	Item->SortKey = MakeKey(Item->Label);
+	Item->PathKey = Key;
 	Item->ClassKey = MakeKey(Asset.AssetClass.ToString());
 	++Revision;
 }

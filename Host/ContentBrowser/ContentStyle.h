@@ -24,6 +24,9 @@ constexpr float PlatePadding = 4.0f;
 /** Room for two lines of a name. */
 constexpr float NameHeight = 30.0f;
 
+/** The widest that what is wrong with a name is before it is broken into lines. */
+constexpr float ProblemWidth = 260.0f;
+
 /** Height of the strip in the color of the type. */
 float GetStripHeight(float Thumbnail);
 

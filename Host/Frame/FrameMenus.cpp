@@ -18,6 +18,8 @@ namespace TintmillHost
 const FName FrameMenus::MainMenu("LevelEditor.MainMenu");
 const FName FrameMenus::ToolBar("LevelEditor.LevelEditorToolBar");
 const FName FrameMenus::Levels("TintmillHost.Levels");
+const FName FrameMenus::BrowserPanel("ContentBrowser");
+const FName FrameMenus::LogPanel("OutputLog");
 
 namespace
 {

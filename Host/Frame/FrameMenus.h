@@ -18,6 +18,10 @@ extern const FName MainMenu;
 extern const FName ToolBar;
 extern const FName Levels;
 
+/** The panels below the level editor: the content browser and the output log. */
+extern const FName BrowserPanel;
+extern const FName LogPanel;
+
 /** Registers the menus of a frame, which must live until they are unregistered. */
 void Register(const TSharedRef<SEditorFrame>& Frame);
 

@@ -18,6 +18,11 @@ FLinearColor Gray(uint8 Level)
 }
 }
 
+EVisibility ShownIf(bool bShown)
+{
+	return bShown ? EVisibility::Visible : EVisibility::Collapsed;
+}
+
 FFrameStyle::FFrameStyle()
 	: Style(std::make_unique<FSlateStyleSet>(StyleName))
 {

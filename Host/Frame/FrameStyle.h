@@ -3,6 +3,7 @@
 #pragma once
 
 #include "CoreMinimal.h"
+#include "Layout/Visibility.h"
 #include "Styling/SlateStyle.h"
 #include "Textures/SlateIcon.h"
 
@@ -14,6 +15,9 @@ struct FSlateBrush;
 
 namespace TintmillHost
 {
+/** What is shown takes part in everything; what is not takes no room. */
+EVisibility ShownIf(bool bShown);
+
 /** The frame's icons as a style set; it is registered as long as the object lives, one object at a time. */
 class FFrameStyle
 {

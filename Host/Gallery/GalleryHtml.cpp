@@ -5,6 +5,7 @@
 #include "Host/Gallery/GalleryPictures.h"
 #include "Host/Gallery/GalleryStyle.h"
 #include "Host/Gallery/HtmlText.h"
+#include "Host/Program/Progress.h"
 
 #include <algorithm>
 #include <map>
@@ -163,6 +164,7 @@ void WriteLog(std::ostream& Page, const std::vector<FGalleryLogLine>& Log)
 void WriteGalleryHtml(
 	std::ostream& Page, const std::string& Title, const std::vector<FGalleryStep>& Steps, const std::vector<FGalleryLogLine>& Log)
 {
+	FProgress Progress("Writing the page", static_cast<int64_t>(Steps.size()));
 	FGalleryPictures Pictures;
 	std::ostringstream Body;
 	std::string Chapter;
@@ -179,6 +181,7 @@ void WriteGalleryHtml(
 		}
 		const FGalleryPicture Picture = Pictures.Add(Step.Picture);
 		WriteStep(Body, Index + 1, Step, Picture, Step.Without.empty() ? FGalleryPicture() : Pictures.Add(Step.Without));
+		Progress.Step();
 	}
 	Body << (bInChapter ? "</section>\n" : "");
 

@@ -10,29 +10,21 @@
 
 namespace TintmillHost
 {
-namespace
-{
-FText Label(const TCHAR* Text)
-{
-	return FText::FromString(Text);
-}
-}
-
 TSharedRef<SWidget> SOutputLog::MakeFilterMenu()
 {
 	FMenuBuilder Menu(true, nullptr);
-	Menu.BeginSection("OutputLogVerbosityEntries", Label(TEXT("Verbosity")));
+	Menu.BeginSection("OutputLogVerbosityEntries", FText::FromString(TEXT("Verbosity")));
 	const auto AddVerbosity = [&](const TCHAR* Name, const TCHAR* Hint, bool FLogFilter::*Which) {
 		AddToggle(
-			Menu, Label(Name), Label(Hint), [this, Which] { return Lines->GetFilter().*Which; },
+			Menu, FText::FromString(Name), FText::FromString(Hint), [this, Which] { return Lines->GetFilter().*Which; },
 			[this, Which] { ChangeFilter([Which](FLogFilter& Filter) { Filter.*Which = !(Filter.*Which); }); });
 	};
 	AddVerbosity(TEXT("Messages"), TEXT("Filter the Output Log to show messages"), &FLogFilter::bMessages);
 	AddVerbosity(TEXT("Warnings"), TEXT("Filter the Output Log to show warnings"), &FLogFilter::bWarnings);
 	AddVerbosity(TEXT("Errors"), TEXT("Filter the Output Log to show errors"), &FLogFilter::bErrors);
 	Menu.EndSection();
-	Menu.BeginSection("OutputLogMiscEntries", Label(TEXT("Miscellaneous")));
-	Menu.AddSubMenu(Label(TEXT("Categories")), Label(TEXT("Select Categories to display.")),
+	Menu.BeginSection("OutputLogMiscEntries", FText::FromString(TEXT("Miscellaneous")));
+	Menu.AddSubMenu(FText::FromString(TEXT("Categories")), FText::FromString(TEXT("Select Categories to display.")),
 		FNewMenuDelegate::CreateSP(this, &SOutputLog::FillCategoryMenu));
 	Menu.EndSection();
 	return Menu.MakeWidget();
@@ -40,9 +32,9 @@ TSharedRef<SWidget> SOutputLog::MakeFilterMenu()
 
 void SOutputLog::FillCategoryMenu(FMenuBuilder& Menu)
 {
-	Menu.BeginSection("OutputLogCategoriesEntries", Label(TEXT("Categories")));
+	Menu.BeginSection("OutputLogCategoriesEntries", FText::FromString(TEXT("Categories")));
 	AddToggle(
-		Menu, Label(TEXT("Show All")), Label(TEXT("Filter the Output Log to show all categories")),
+		Menu, FText::FromString(TEXT("Show All")), FText::FromString(TEXT("Filter the Output Log to show all categories")),
 		[this] { return Lines->GetFilter().HiddenCategories.empty(); },
 		[this] {
 			ChangeFilter([this](FLogFilter& Filter) {
@@ -67,28 +59,28 @@ TSharedRef<SWidget> SOutputLog::MakeViewMenu()
 {
 	FMenuBuilder Menu(true, nullptr);
 	AddToggle(
-		Menu, Label(TEXT("Show Timestamps")), Label(TEXT("Begin each line with the seconds since the start.")),
+		Menu, FText::FromString(TEXT("Show Timestamps")), FText::FromString(TEXT("Begin each line with the seconds since the start.")),
 		[this] { return Lines->bTimes; },
 		[this] {
 			Lines->bTimes = !Lines->bTimes;
 			LinesWidget->ClearSelection();
 		});
 	AddToggle(
-		Menu, Label(TEXT("Clear on PIE")), Label(TEXT("Clear the log when play begins.")), [this] { return bClearOnPlay; },
-		[this] { bClearOnPlay = !bClearOnPlay; });
+		Menu, FText::FromString(TEXT("Clear on PIE")), FText::FromString(TEXT("Clear the log when play begins.")),
+		[this] { return bClearOnPlay; }, [this] { bClearOnPlay = !bClearOnPlay; });
 	return Menu.MakeWidget();
 }
 
 TSharedRef<SWidget> SOutputLog::MakeContextMenu()
 {
 	FMenuBuilder Menu(true, nullptr);
-	Menu.AddMenuEntry(Label(TEXT("Copy")), Label(TEXT("Copy the selected text.")), FSlateIcon(),
+	Menu.AddMenuEntry(FText::FromString(TEXT("Copy")), FText::FromString(TEXT("Copy the selected text.")), FSlateIcon(),
 		FUIAction(FExecuteAction::CreateSP(LinesWidget.ToSharedRef(), &SLogLines::CopySelection),
 			FCanExecuteAction::CreateSP(LinesWidget.ToSharedRef(), &SLogLines::HasSelection)));
-	Menu.AddMenuEntry(Label(TEXT("Select All")), Label(TEXT("Select all lines.")), FSlateIcon(),
+	Menu.AddMenuEntry(FText::FromString(TEXT("Select All")), FText::FromString(TEXT("Select all lines.")), FSlateIcon(),
 		FUIAction(FExecuteAction::CreateSP(LinesWidget.ToSharedRef(), &SLogLines::SelectAll)));
 	Menu.AddMenuSeparator();
-	Menu.AddMenuEntry(Label(TEXT("Clear Log")), Label(TEXT("Clears all log messages.")), FSlateIcon(),
+	Menu.AddMenuEntry(FText::FromString(TEXT("Clear Log")), FText::FromString(TEXT("Clears all log messages.")), FSlateIcon(),
 		FUIAction(FExecuteAction::CreateSP(this, &SOutputLog::ClearLog)));
 	return Menu.MakeWidget();
 }

@@ -43,8 +43,8 @@ void KeepRising(std::vector<std::ptrdiff_t>& Matches)
 		{
 			continue;
 		}
-		const auto End = std::lower_bound(Ends.begin(), Ends.end(), Matches[Item],
-			[&Matches](size_t Other, std::ptrdiff_t Place) { return Matches[Other] < Place; });
+		const auto End = std::lower_bound(
+			Ends.begin(), Ends.end(), Matches[Item], [&Matches](size_t Other, std::ptrdiff_t Place) { return Matches[Other] < Place; });
 		if (End != Ends.begin())
 		{
 			Previous[Item] = static_cast<std::ptrdiff_t>(*(End - 1));
@@ -60,7 +60,7 @@ void KeepRising(std::vector<std::ptrdiff_t>& Matches)
 	}
 	std::vector<std::ptrdiff_t> Kept(Matches.size(), NoItem);
 	for (std::ptrdiff_t Item = Ends.empty() ? NoItem : static_cast<std::ptrdiff_t>(Ends.back()); Item != NoItem;
-		Item = Previous[static_cast<size_t>(Item)])
+		 Item = Previous[static_cast<size_t>(Item)])
 	{
 		Kept[static_cast<size_t>(Item)] = Matches[static_cast<size_t>(Item)];
 	}

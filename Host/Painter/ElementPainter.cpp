@@ -204,6 +204,17 @@ FPictureView FElementPainter::FindPicture(const FSlateDrawElement& Element, doub
 	return bNamed && BrushPictures ? BrushPictures(Element.GetBrush(), Size) : FPictureView();
 }
 
+bool FElementPainter::CanBePaintedInParts(const FSlateDrawElement& Element, double Scale) const
+{
+	if (Element.GetElementType() == EElementType::ET_Viewport)
+	{
+		const FPictureView Picture = FindPicture(Element, Scale);
+		return Picture.Pixels == nullptr || Picture.Size == SizeOf(ToDeviceRect(Element.GetRect(), Scale));
+	}
+	return Element.GetElementType() == EElementType::ET_Box && Element.GetBrush().GetResourceName().IsNone()
+		&& Element.GetBrush().GetResourceObject() == nullptr;
+}
+
 void FElementPainter::AddPicture(FFingerprint& InOutFingerprint, const FSlateDrawElement& Element, double Scale)
 {
 	const bool bViewport = Element.GetElementType() == EElementType::ET_Viewport;
@@ -224,7 +235,8 @@ void FElementPainter::AddPicture(FFingerprint& InOutFingerprint, const FSlateDra
 	InOutFingerprint.Add(Picture.Size.X).Add(Picture.Size.Y).Add(Picture.Revision);
 	if (Picture.Revision == 0)
 	{
-		InOutFingerprint.AddBytes(Picture.Pixels, static_cast<size_t>(Picture.Size.X) * static_cast<size_t>(Picture.Size.Y) * sizeof(FColor));
+		InOutFingerprint.AddBytes(
+			Picture.Pixels, static_cast<size_t>(Picture.Size.X) * static_cast<size_t>(Picture.Size.Y) * sizeof(FColor));
 	}
 }
 
@@ -237,8 +249,8 @@ FIntRect FElementPainter::FindTextBounds(const FSlateDrawElement& Element, doubl
 	PangoLayout* const Layout = Layouts->Find(ToUtf8(Element.GetText()), Font, FontScale);
 	pango_layout_line_get_extents(pango_layout_get_line_readonly(Layout, 0), &Ink, nullptr);
 	const FDeviceRect Rect{std::round(Position.X * Scale) + pango_units_to_double(Ink.x),
-		std::round(Position.Y * Scale) + Layouts->GetAscent(Font, FontScale) + pango_units_to_double(Ink.y), pango_units_to_double(Ink.width),
-		pango_units_to_double(Ink.height)};
+		std::round(Position.Y * Scale) + Layouts->GetAscent(Font, FontScale) + pango_units_to_double(Ink.y),
+		pango_units_to_double(Ink.width), pango_units_to_double(Ink.height)};
 	// The ink of hinted letters may lie a little beside that of their outlines.
 	return ToPixels(Rect.Shrunk(-2.0));
 }
@@ -253,14 +265,15 @@ FIntRect FElementPainter::FindBounds(const FSlateDrawElement& Element, double Sc
 	case EElementType::ET_Box:
 		if (const StandIn::EBrushShape Kind = StandIn::GetBrushShape(Element.GetBrush()); Kind != StandIn::EBrushShape::None)
 		{
-			Bounds = ToPixels(Rect.Shrunk(-ReachOfShape(Kind, UnitScale)));
+			Bounds = ToPixels(Rect.Shrunk(-ReachOfShape({Kind, Rect, {}, 0.0, UnitScale})));
 		}
 		break;
 	case EElementType::ET_Text:
 		Bounds = FindTextBounds(Element, Scale);
 		break;
 	case EElementType::ET_Line:
-		Bounds = FindLineBounds(Element.GetPoints(), Scale, std::max(1.0, std::round(static_cast<double>(Element.GetThickness()) * UnitScale)));
+		Bounds =
+			FindLineBounds(Element.GetPoints(), Scale, std::max(1.0, std::round(static_cast<double>(Element.GetThickness()) * UnitScale)));
 		break;
 	case EElementType::ET_Viewport:
 		break;

@@ -38,6 +38,9 @@ public:
 	/** The pixels of the surface that painting an element may touch. */
 	FIntRect FindBounds(const FSlateDrawElement& Element, double Scale);
 
+	/** Whether painting a part of an element gives the same pixels there as painting all of it; smoothed edges may differ a little. */
+	bool CanBePaintedInParts(const FSlateDrawElement& Element, double Scale) const;
+
 	/** Takes the picture that an element shows, if it shows one, into the element's fingerprint. */
 	void AddPicture(FFingerprint& InOutFingerprint, const FSlateDrawElement& Element, double Scale);
 

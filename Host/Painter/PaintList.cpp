@@ -115,8 +115,15 @@ void FPaintList::FindBounds(FPaintItem& Item) const
 	Item.Bounds = Item.Bounds - Origin;
 }
 
-void FPaintList::Paint(cairo_t* Context, const FPaintItem& Item) const
+void FPaintList::Paint(cairo_t* Context, const FPaintItem& Item, const FIntRect& Area) const
 {
+	cairo_save(Context);
+	if (Item.Element != nullptr && Painter.CanBePaintedInParts(*Item.Element, Shot.Scale))
+	{
+		cairo_rectangle(Context, Area.Min.X, Area.Min.Y, Area.Width(), Area.Height());
+		cairo_clip(Context);
+	}
+	cairo_translate(Context, -Origin.X, -Origin.Y);
 	if (Item.Element != nullptr)
 	{
 		Painter.Paint(Context, *Item.Element, Shot.Scale);
@@ -129,5 +136,6 @@ void FPaintList::Paint(cairo_t* Context, const FPaintItem& Item) const
 	{
 		PaintPointer(Context, Shot.Pointer.GetValue(), Shot.Scale);
 	}
+	cairo_restore(Context);
 }
 }

@@ -46,8 +46,8 @@ public:
 	/** Gives an item its bounds. */
 	void FindBounds(FPaintItem& Item) const;
 
-	/** Paints an item. */
-	void Paint(cairo_t* Context, const FPaintItem& Item) const;
+	/** Paints an item; what lies outside of an area it may leave out. */
+	void Paint(cairo_t* Context, const FPaintItem& Item, const FIntRect& Area) const;
 
 private:
 	FElementPainter& Painter;

@@ -170,11 +170,21 @@ void PaintCheckerboard(cairo_t* Context, const FShape& Shape)
 }
 }
 
-double ReachOfShape(EBrushShape Kind, double Scale)
+double ReachOfShape(const FShape& Shape)
 {
-	// Lines with round ends near an edge reach over it by half their width.
-	const double LineReach = std::ceil(2.0 * Scale) + 1.0;
-	return Kind == EBrushShape::Shadow ? ReachOfShadow({Kind, {}, {}, 0.0, Scale}, BrushShadowReach) : LineReach;
+	switch (Shape.Kind)
+	{
+	case EBrushShape::Shadow:
+		return ReachOfShadow(Shape, BrushShadowReach);
+	case EBrushShape::RoundedBox:
+	case EBrushShape::RoundedFrame:
+	case EBrushShape::FramedBox:
+	case EBrushShape::Checkerboard:
+		return 1.0;
+	default:
+		// Lines with round ends near an edge reach over it by half their width, and circles over the shorter side of a long area.
+		return std::ceil(2.0 * Shape.Scale) + 1.0 + std::fabs(Shape.Rect.Width - Shape.Rect.Height) / 2.0;
+	}
 }
 
 double ReachOfShadow(const FShape& Shape, double Reach)

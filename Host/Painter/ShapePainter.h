@@ -24,7 +24,7 @@ struct FShape
 void PaintShape(cairo_t* Context, const FShape& Shape);
 
 /** How far outside of its area a shape may draw, in pixels. */
-double ReachOfShape(StandIn::EBrushShape Kind, double Scale);
+double ReachOfShape(const FShape& Shape);
 
 /** How far outside of its area a shadow of Reach units draws, in pixels. */
 double ReachOfShadow(const FShape& Shape, double Reach);

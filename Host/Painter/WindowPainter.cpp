@@ -11,32 +11,37 @@ namespace TintmillHost
 {
 namespace
 {
-/** Paints what lies in an area, from nothing. */
+/** Paints what lies in an area, from nothing; around it may be anything then. */
 void PaintArea(const FPaintList& List, const FIntRect& Area, FPicture& Picture)
 {
 	const FCairoSurface Surface(cairo_image_surface_create_for_data(
 		reinterpret_cast<unsigned char*>(Picture.Pixels.GetData()), CAIRO_FORMAT_RGB24, Picture.Width, Picture.Height, Picture.Width * 4));
 	const FCairoContext Context(cairo_create(Surface.get()));
 	cairo_rectangle(Context.get(), Area.Min.X, Area.Min.Y, Area.Width(), Area.Height());
-	cairo_clip(Context.get());
 	cairo_set_source_rgb(Context.get(), 0.0, 0.0, 0.0);
-	cairo_paint(Context.get());
-	cairo_translate(Context.get(), -List.GetOrigin().X, -List.GetOrigin().Y);
+	cairo_fill(Context.get());
 	for (const FPaintItem& Item : List.GetItems())
 	{
 		if (Item.Bounds.Intersect(Area))
 		{
-			List.Paint(Context.get(), Item);
+			List.Paint(Context.get(), Item, Area);
 		}
 	}
 	cairo_surface_flush(Surface.get());
-	// The fourth byte is whatever Cairo left there.
+}
+
+/** Copies an area from one picture to another of the same size, opaque: the fourth byte is whatever Cairo left there. */
+void CopyArea(const FPicture& From, const FIntRect& Area, FPicture& To)
+{
 	for (int32 Row = Area.Min.Y; Row < Area.Max.Y; ++Row)
 	{
-		FColor* const Pixels = Picture.Pixels.GetData() + static_cast<size_t>(Row) * Picture.Width;
+		const size_t Start = static_cast<size_t>(Row) * static_cast<size_t>(From.Width);
+		const FColor* const Source = From.Pixels.GetData() + Start;
+		FColor* const Target = To.Pixels.GetData() + Start;
 		for (int32 Column = Area.Min.X; Column < Area.Max.X; ++Column)
 		{
-			Pixels[Column].A = 255;
+			Target[Column] = Source[Column];
+			Target[Column].A = 255;
 		}
 	}
 }
@@ -91,6 +96,9 @@ TArray<FIntRect> FKeptPicture::Update(const FWindowShot& Shot, FPicture& InOutPi
 		InOutPicture.Width = Width;
 		InOutPicture.Height = Height;
 		InOutPicture.Pixels.SetNumUninitialized(Width * Height);
+		Aside.Width = Width;
+		Aside.Height = Height;
+		Aside.Pixels.SetNumUninitialized(Width * Height);
 		Scale = Shot.Scale;
 		Origin = Shot.Origin;
 		Fingerprints.clear();
@@ -118,7 +126,9 @@ TArray<FIntRect> FKeptPicture::Update(const FWindowShot& Shot, FPicture& InOutPi
 	TArray<FIntRect> Painted;
 	for (const FIntRect& Area : JoinAreas(Changes))
 	{
-		PaintArea(List, Area, InOutPicture);
+		// Edges are smoothed a little differently where they are cut off, so nothing is: it is painted aside.
+		PaintArea(List, Area, Aside);
+		CopyArea(Aside, Area, InOutPicture);
 		Painted.Add(Area);
 	}
 	Fingerprints = std::move(Current);

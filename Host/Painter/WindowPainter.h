@@ -30,6 +30,9 @@ private:
 	double Scale = 0.0;
 	FIntPoint Origin = FIntPoint(0, 0);
 
+	/** A picture of the same size to paint in. */
+	FPicture Aside;
+
 	/** What the picture is made of: fingerprints and bounds of its items. */
 	std::vector<std::uint64_t> Fingerprints;
 	std::vector<FIntRect> Bounds;

@@ -151,7 +151,7 @@ private:
 	{
 		Progress.Step();
 		std::error_code Error;
-		if (std::filesystem::equivalent(File.parent_path(), Target, Error))
+		if (IsSameFolder(File.parent_path(), Target))
 		{
 			// It is there already, and so is its asset.
 			Result.Added.push_back(File);

@@ -15,7 +15,8 @@ constexpr double SecondsBetweenLooks = 1.0;
 }
 
 FFolderPoll::FFolderPoll(std::filesystem::path InRoot, FFolderFilter InIsLeftOut)
-	: Root(std::move(InRoot))
+	// Windows knows no folder under a name with a slash at its end.
+	: Root(InRoot.has_filename() ? std::move(InRoot) : InRoot.parent_path())
 	, IsLeftOut(std::move(InIsLeftOut))
 {
 	LookAtEverything();

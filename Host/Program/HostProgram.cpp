@@ -19,7 +19,6 @@
 #include "Host/Editor/Looks.h"
 #include "Host/Editor/Panes.h"
 #include "Host/Program/HostState.h"
-#include "Host/Program/Progress.h"
 #include "Host/Program/QuitRequest.h"
 #include "Host/Program/ScanProgress.h"
 #include "Host/TourRun/ProjectRoad.h"
@@ -76,7 +75,7 @@ int FHostProgram::Run()
 		return 2;
 	}
 
-	const bool bHasUser = HasUser();
+	bHasUser = HasUser();
 	bKeepsState = bHasUser || Options.bLastSession;
 	StartEditor();
 	RegisterCommands();
@@ -170,9 +169,13 @@ void FHostProgram::StartEditor()
 		EditorState.RestoreLevelEditor();
 	}
 	StartClock.EndPhase("level editor, panes restored");
-	ResizePanes();
+	// Panes that are about to be seen on a display are drawn there, once they have their size.
+	if (!bHasUser)
+	{
+		ResizePanes();
+	}
 	TickEditor(FrameSeconds);
-	StartClock.EndPhase("first frame, all panes drawn");
+	StartClock.EndPhase(bHasUser ? "first frame" : "first frame, all panes drawn");
 }
 
 void FHostProgram::ResizePanes()
@@ -197,8 +200,11 @@ FEditorWindow& FHostProgram::GetWindow()
 			FEditorState::RestoreFrame(Window->GetFrame());
 		}
 		ResizePanes();
-		// The first frame lays the panes out, the second draws them in their size.
-		TickEditor(2.0 * FrameSeconds);
+		if (!bHasUser)
+		{
+			// The first frame lays the panes out, the second draws them in their size.
+			TickEditor(2.0 * FrameSeconds);
+		}
 	}
 	return *Window;
 }
@@ -333,7 +339,6 @@ bool FHostProgram::WriteGallery()
 	{
 		return true;
 	}
-	const FProgress Progress("Writing the page");
 	const std::filesystem::path File = Options.OutDir / "index.html";
 	if (const std::string Problem = Gallery.Write(File, Project.GetName(), TourRun.MakeLog()); !Problem.empty())
 	{

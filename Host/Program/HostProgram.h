@@ -116,6 +116,9 @@ private:
 	FTextureFiles TextureFiles;
 	FEditorState EditorState;
 	bool bKeepsState = false;
+
+	/** Whether a person on a display uses the editor. */
+	bool bHasUser = false;
 	StandIn::FEngineLoop EngineLoop;
 	std::optional<FContentWatch> ContentWatch;
 	std::optional<FOtherAssets> OtherAssets;

@@ -37,7 +37,7 @@ FSaving& GetSaving()
 	return Saving;
 }
 
-double Now()
+double GetSavingTime()
 {
 	const std::function<double()>& Clock = GetSaving().Clock;
 	return Clock ? Clock() : std::chrono::duration<double>(std::chrono::steady_clock::now().time_since_epoch()).count();
@@ -80,7 +80,7 @@ void Save()
 {
 	FSaving& Saving = GetSaving();
 	Saving.bWaiting = false;
-	Saving.LastSave = Now();
+	Saving.LastSave = GetSavingTime();
 	if (GConfig != nullptr)
 	{
 		GConfig->Flush(false, GEditorPerProjectIni);
@@ -177,7 +177,7 @@ FStateDrag::FStateDrag()
 	if (Saving.NumDrags++ == 0)
 	{
 		// The first change is saved at once.
-		Saving.LastSave = Now() - SecondsBetweenSaves;
+		Saving.LastSave = GetSavingTime() - SecondsBetweenSaves;
 	}
 }
 
@@ -190,7 +190,7 @@ FStateDrag::~FStateDrag()
 void TickState()
 {
 	const FSaving& Saving = GetSaving();
-	if (Saving.bWaiting && Now() - Saving.LastSave >= SecondsBetweenSaves)
+	if (Saving.bWaiting && GetSavingTime() - Saving.LastSave >= SecondsBetweenSaves)
 	{
 		Save();
 	}

@@ -13,6 +13,16 @@ void FPhaseClock::EndPhase(const std::string& Name)
 	Last = Now;
 }
 
+double FPhaseClock::GetSeconds() const
+{
+	double Seconds = std::chrono::duration<double>(std::chrono::steady_clock::now() - Last).count();
+	for (const FPhase& Phase : Phases)
+	{
+		Seconds += Phase.Milliseconds / 1000.0;
+	}
+	return Seconds;
+}
+
 void FPhaseClock::Print(std::ostream& Output) const
 {
 	double Sum = 0.0;

@@ -22,6 +22,9 @@ public:
 	/** Ends the phase that runs, under this name; the next one begins. */
 	void EndPhase(const std::string& Name);
 
+	/** The time since its making, in seconds. */
+	double GetSeconds() const;
+
 	/** Prints every phase in milliseconds, one a line, and their sum. */
 	void Print(std::ostream& Output) const;
 

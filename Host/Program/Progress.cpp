@@ -33,7 +33,7 @@ FProgressState& GetState()
 	return State;
 }
 
-double Now()
+double GetProgressTime()
 {
 	const std::function<double()>& Clock = GetState().Clock;
 	return Clock ? Clock() : std::chrono::duration<double>(std::chrono::steady_clock::now().time_since_epoch()).count();
@@ -50,7 +50,7 @@ std::string InTenths(double Seconds)
 FProgress::FProgress(std::string InTitle, int64_t InTotal)
 	: Title(std::move(InTitle))
 	, Total(InTotal)
-	, StartSeconds(Now())
+	, StartSeconds(GetProgressTime())
 {}
 
 FProgress::~FProgress()
@@ -67,14 +67,14 @@ FProgress::~FProgress()
 	}
 	else
 	{
-		std::cerr << Title << ": done after " << InTenths(Now() - StartSeconds) << " s.\n";
+		std::cerr << Title << ": done after " << InTenths(GetProgressTime() - StartSeconds) << " s.\n";
 	}
 }
 
 void FProgress::SetDone(int64_t InDone)
 {
 	Done = InDone;
-	const double Seconds = Now();
+	const double Seconds = GetProgressTime();
 	const double Pause = GetState().Observer ? ObserverSeconds : LineSeconds;
 	if (bReported ? Seconds - LastReportSeconds >= Pause : Seconds - StartSeconds >= QuietSeconds)
 	{

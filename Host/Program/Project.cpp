@@ -96,8 +96,7 @@ void FProject::Close()
 
 bool FProject::IsDemo() const
 {
-	std::error_code Error;
-	return std::filesystem::equivalent(Folder, TINTMILL_DEMO_PROJECT, Error);
+	return IsSameFolder(Folder, TINTMILL_DEMO_PROJECT);
 }
 
 std::filesystem::path FProject::GetDemoTour()

@@ -21,7 +21,7 @@ std::filesystem::path FindPlace(const std::filesystem::path& Folder, const std::
 {
 	const std::filesystem::path Relative = PathFromUtf8(Name);
 	const bool bLeadsOut = std::find(Relative.begin(), Relative.end(), "..") != Relative.end();
-	if (Relative.empty() || Relative.is_absolute() || Relative.has_root_name() || bLeadsOut)
+	if (Relative.empty() || Relative.has_root_path() || bLeadsOut)
 	{
 		throw FCommandError("'" + Name + "' is no file below " + Folder.string() + "; give a name like Looks/Mine.cube.");
 	}

@@ -15,13 +15,6 @@ namespace TintmillHost
 {
 namespace
 {
-std::string Lowered(std::string Text)
-{
-	std::transform(
-		Text.begin(), Text.end(), Text.begin(), [](unsigned char Character) { return static_cast<char>(std::tolower(Character)); });
-	return Text;
-}
-
 /** Keys by their names in lower case. */
 const std::map<std::string, FKey>& KnownKeys()
 {
@@ -35,12 +28,12 @@ const std::map<std::string, FKey>& KnownKeys()
 		for (char Letter = 'A'; Letter <= 'Z'; ++Letter)
 		{
 			const std::string Name(1, Letter);
-			Result[Lowered(Name)] = FKey(Name.c_str());
+			Result[ToLowerCase(Name)] = FKey(Name.c_str());
 		}
 		for (int Number = 1; Number <= 12; ++Number)
 		{
 			const std::string Name = "F" + std::to_string(Number);
-			Result[Lowered(Name)] = FKey(Name.c_str());
+			Result[ToLowerCase(Name)] = FKey(Name.c_str());
 		}
 		return Result;
 	}();
@@ -51,7 +44,7 @@ const std::map<std::string, FKey>& KnownKeys()
 FInputChord ParseKeys(const std::string& Text)
 {
 	FInputChord Chord;
-	std::string Rest = Lowered(Text);
+	std::string Rest = ToLowerCase(Text);
 	for (size_t Plus = Rest.find('+'); Plus != std::string::npos; Plus = Rest.find('+'))
 	{
 		const std::string Modifier = Rest.substr(0, Plus);

@@ -23,8 +23,8 @@ namespace TintmillHost
 namespace
 {
 /** The picture of a list's row: twice as many pixels as it has units, for fine screens. Larger areas get pictures of their own size. */
-constexpr int32 RowWidth = 64;
-constexpr int32 RowHeight = 58;
+constexpr int32 PictureWidth = 64;
+constexpr int32 PictureHeight = 58;
 
 /** The widest picture that is made; wider areas stretch it. */
 constexpr int32 MaxLength = 512;
@@ -89,8 +89,8 @@ FPictureView FLookThumbnails::Find(const FSlateBrush& Brush, const FIntPoint& De
 		return {};
 	}
 	FThumbnail& Thumbnail = Found->second;
-	const FSize Size = DeviceSize.X <= RowWidth && DeviceSize.Y <= RowHeight
-		? FSize(RowWidth, RowHeight)
+	const FSize Size = DeviceSize.X <= PictureWidth && DeviceSize.Y <= PictureHeight
+		? FSize(PictureWidth, PictureHeight)
 		: FSize(std::clamp(DeviceSize.X, 1, MaxLength), std::clamp(DeviceSize.Y, 1, MaxLength));
 	const auto Known = Thumbnail.Pictures.find(Size);
 	if (Known != Thumbnail.Pictures.end())

@@ -241,11 +241,6 @@ private:
 	int SplitterCount = 0;
 };
 
-std::string Lowered(const std::string& Text)
-{
-	return ToUtf8(FromUtf8(Text).ToLower());
-}
-
 template <typename PredicateType>
 const FSeen* FindFirst(const std::vector<FSeen>& Things, PredicateType Matches)
 {
@@ -290,14 +285,14 @@ std::vector<FSeen> LookAt(const TSharedRef<SWidget>& Widget)
 
 const FSeen* FindSeen(const std::vector<FSeen>& Things, const std::string& Label)
 {
-	const std::string LoweredLabel = Lowered(Label);
+	const std::string LoweredLabel = ToLowerCase(Label);
 	for (const bool bAnyCase : {false, true})
 	{
 		for (const ESeenKind Kind : {ESeenKind::MenuRow, ESeenKind::AssetRow, ESeenKind::Tile, ESeenKind::Button, ESeenKind::TextBox,
 				 ESeenKind::Text, ESeenKind::Heading, ESeenKind::ToolTip, ESeenKind::Splitter})
 		{
 			const FSeen* const Thing = FindFirst(Things, [&](const FSeen& Candidate) {
-				return Candidate.Kind == Kind && (bAnyCase ? Lowered(Candidate.Label) == LoweredLabel : Candidate.Label == Label);
+				return Candidate.Kind == Kind && (bAnyCase ? ToLowerCase(Candidate.Label) == LoweredLabel : Candidate.Label == Label);
 			});
 			if (Thing != nullptr)
 			{

@@ -5,14 +5,18 @@
 #include "Host/Program/DropFiles.h"
 #include "Host/Program/HostProgram.h"
 #include "Host/Program/QuitRequest.h"
+#include "Host/Program/Strings.h"
 #include "Host/Window/DisplayLoss.h"
 #include "Host/Window/WindowSize.h"
 
 #include "CoreGlobals.h"
 #include "Framework/Application/SlateApplication.h"
+#include "Logging/LogMacros.h"
 
 #include <algorithm>
 #include <cmath>
+
+DEFINE_LOG_CATEGORY_STATIC(LogHostWindow, Log, All);
 
 namespace TintmillHost
 {
@@ -59,6 +63,7 @@ void FWindowLoop::Run()
 		WaitForEvents();
 	}
 	KeepSize();
+	UE_LOG(LogHostWindow, Log, TEXT("%s"), *FromUtf8(FrameTimes.Describe()));
 }
 
 void FWindowLoop::Abandon()
@@ -189,6 +194,12 @@ void FWindowLoop::RunFrame()
 	// A window that changes its size right now takes the picture with the next frame.
 	bShowAll = Areas.Num() > 0 && !Display.Show(Picture, Areas);
 	const double Shown = GetNow();
+	if (!bPictureShown && !bShowAll)
+	{
+		bPictureShown = true;
+		UE_LOG(
+			LogHostWindow, Log, TEXT("The window showed its first picture %.3f s after the start."), Program.GetStartClock().GetSeconds());
+	}
 
 	if (Pixels > CaretPixels)
 	{

@@ -27,9 +27,6 @@ public:
 	/** Runs until the window is closed in any way. */
 	void Run();
 
-	/** How long the frames took. */
-	const FFrameTimes& GetFrameTimes() const { return FrameTimes; }
-
 	/** Lets go of what the display had, without telling a display that went away. */
 	void Abandon();
 
@@ -57,5 +54,6 @@ private:
 	bool bCloseAsked = false;
 	bool bShowAll = true;
 	bool bSizeChanged = false;
+	bool bPictureShown = false;
 };
 }

@@ -9,13 +9,9 @@
 #include "Host/Window/WindowLoop.h"
 #include "Host/Window/WindowSize.h"
 
-#include "Logging/LogMacros.h"
-
 #include <iostream>
 #include <memory>
 #include <utility>
-
-DEFINE_LOG_CATEGORY_STATIC(LogHostWindow, Log, All);
 
 namespace TintmillHost
 {
@@ -53,7 +49,6 @@ int RunInWindow(FHostProgram& Program)
 
 	FWindowLoop Loop(Program, Display);
 	Loop.Run();
-	UE_LOG(LogHostWindow, Log, TEXT("%s"), *FromUtf8(Loop.GetFrameTimes().Describe()));
 	if (IsDisplayLost())
 	{
 		Loop.Abandon();

@@ -178,7 +178,7 @@ TEST_F(FFolderStampsTest, DoesNotRelyOnAFolderWithLinks)
 	std::filesystem::create_symlink(Folder.NativePath("Elsewhere.look"), Folder.NativePath("Content/Looks/Linked.look"), Error);
 	if (Error)
 	{
-		GTEST_SKIP() << "no links can be made here";
+		GTEST_SKIP() << "symbolic links cannot be made here; neither the C++ library for Windows nor Wine makes them";
 	}
 	LetAnHourPass();
 	Scan();

@@ -85,4 +85,20 @@ TEST(HostOptions, AnOptionWithoutItsValueEndsWithCodeTwo)
 {
 	EXPECT_EQ(Exit({"--exec"}).Code, 2);
 }
+
+TEST(HostOptions, TheHelpOfToursAndTheTimesAreAskedForByName)
+{
+	EXPECT_TRUE(Options({"--help-tours"}).bHelpTours);
+	EXPECT_TRUE(Options({"--tour", "a.tour", "--times"}).bTimes);
+	EXPECT_FALSE(Options({}).bHelpTours);
+	EXPECT_FALSE(Options({}).bTimes);
+}
+
+TEST(HostOptions, ARunThatGoesOnKnowsTheArgumentsOfTheFirst)
+{
+	const FHostOptions Second = Options({"--tour", "a.tour", "--resume", "out/state"});
+	EXPECT_EQ(Second.Resume, "out/state");
+	EXPECT_EQ(Second.Arguments, (std::vector<std::string>{"--tour", "a.tour"}));
+	EXPECT_EQ(Options(Second.Arguments).Arguments, Second.Arguments);
+}
 }

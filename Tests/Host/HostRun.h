@@ -28,6 +28,12 @@ public:
 	{
 		std::filesystem::copy(std::filesystem::path(REPOSITORY_DIR) / "Host/DemoProject", Folder.NativePath("Project"),
 			std::filesystem::copy_options::recursive);
+		// The demo project's user settings are those of Linux.
+		const std::filesystem::path Settings = Folder.NativePath(HostSettingsFile).parent_path();
+		if (!std::filesystem::exists(Settings))
+		{
+			std::filesystem::rename(Folder.NativePath("Project/Saved/Config/Linux"), Settings);
+		}
 	}
 
 	/** Runs the program without a window, with small panes; both streams come back as one text. */

@@ -114,6 +114,47 @@ TEST_F(LookFiles, SayWhenTheFileIsGone)
 	EXPECT_STREQ(TCHAR_TO_UTF8(*StandIn::GetLookProblem(Asset)), "Teal.cube: the file does not exist");
 }
 
+TEST_F(LookFiles, MakeNoNoticeOfAFileThatWasDeleted)
+{
+	UTintmillObject* const Asset = NewLook();
+	Load(Asset, InvertingCube);
+	std::filesystem::remove(Folder.At("Teal.cube"));
+	StandIn::PollLookFiles();
+	EXPECT_EQ(NoticeTexts(), "");
+}
+
+TEST_F(LookFiles, TakeTheNoticeOfABrokenFileBackWhenItIsDeleted)
+{
+	UTintmillObject* const Asset = NewLook();
+	Load(Asset, "LUT_1D_SIZE 2\n0 0 0\n");
+	std::filesystem::remove(Folder.At("Teal.cube"));
+	StandIn::PollLookFiles();
+	EXPECT_EQ(NoticeTexts(), "");
+}
+
+TEST_F(LookFiles, TellWhyALookCannotBeUsedWhenAsked)
+{
+	UTintmillObject* const Asset = NewLook();
+	Load(Asset, InvertingCube);
+	std::filesystem::remove(Folder.At("Teal.cube"));
+	StandIn::PollLookFiles();
+	StandIn::TellLookProblem(Asset);
+	StandIn::TellLookProblem(Asset);
+	EXPECT_EQ(NoticeTexts(), "Teal.cube: the file does not exist; the picture stays as it is until the file is mended.\n");
+}
+
+TEST_F(LookFiles, LookOnlyAtTheFilesThatAreNamed)
+{
+	UTintmillObject* const Asset = NewLook();
+	UTintmillObject* const Other = NewLook(TEXT("Other"));
+	Load(Asset, InvertingCube);
+	Folder.Write("Other.cube", InvertingCube);
+	StandIn::LoadLookFile(Other, StandIn::GetLookFileName(Asset).Replace(TEXT("Teal.cube"), TEXT("Other.cube")));
+	Folder.Write("Teal.cube", "LUT_1D_SIZE 2\n0 0 0\n1 1 0.5\n");
+	Folder.Write("Other.cube", "LUT_1D_SIZE 2\n0 0 0\n1 1 0.5\n");
+	EXPECT_EQ(StandIn::PollLookFiles({StandIn::GetLookFileName(Other)}), TArray<UTintmillObject*>({Other}));
+}
+
 TEST_F(LookFiles, NameTheAssetsWhoseLookChanged)
 {
 	UTintmillObject* const Asset = NewLook();

@@ -1,6 +1,6 @@
 // Copyright The Tintmill authors. All rights reserved.
 
-#include "TintmillLook.h"
+#include "Tintmill/Private/TintmillLook.h"
 
 #include "StandIn/LookFiles.h"
 #include "Support/FileTime.h"

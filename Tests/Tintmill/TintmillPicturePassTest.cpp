@@ -182,6 +182,16 @@ TEST_F(TintmillPicturePass, HasAnotherKeyAfterTheFileChanged)
 	EXPECT_NE(Pass.GetStateKey(&Client), Before);
 }
 
+TEST_F(TintmillPicturePass, SaysOnceThatTheFileOfALookThatIsShownWasDeleted)
+{
+	ShowInverted();
+	std::filesystem::remove(Folder.At("Teal.cube"));
+	StandIn::PollLookFiles();
+	EXPECT_EQ(Drawn(), (std::vector<int>{30, 20, 10, 40}));
+	Drawn();
+	EXPECT_EQ(NoticeTexts(), "Teal.cube: the file does not exist; the picture stays as it is until the file is mended.\n");
+}
+
 TEST_F(TintmillPicturePass, HasTheSameKeyWhileNothingChanges)
 {
 	ShowInverted();

@@ -320,6 +320,12 @@ TEST_F(FTintmillWidget, ShowsAnArrowForTheLookOnly)
 	EXPECT_TRUE(FindLookRow().bHasSubMenu);
 }
 
+TEST_F(FTintmillWidget, TheToggleDoesNotRepeatWhileItsKeyIsHeld)
+{
+	OpenNew();
+	EXPECT_FALSE(User->FindRow(TEXT("Enable Display")).bRepeats);
+}
+
 TEST_F(FTintmillWidget, BothRowsCanAlwaysBeUsed)
 {
 	OpenNew();

@@ -292,10 +292,32 @@ TEST_F(WindowRun, DragsASplitterAndKeepsItForTheNextStart)
 	EXPECT_TRUE(WaitUntil([&] { return CountStrays(Desktop.TakePicture(), After, Nowhere) < Moved / 3; }));
 }
 
+TEST_F(WindowRun, KeepsTheSizeThatItWasGivenForTheNextStart)
+{
+	Start();
+	Desktop.Do("search --onlyvisible --name Editor windowmove 0 0 windowsize 900 600");
+	const auto IsFilled = [this] {
+		const FPicture Screen = Desktop.TakePicture();
+		const auto IsLit = [&Screen](int X, int Y) {
+			const FColor& Pixel = Screen.Pixels[Y * Screen.Width + X];
+			return Pixel.R + Pixel.G + Pixel.B > 0;
+		};
+		return IsLit(5, 598) && IsLit(897, 598) && !IsLit(905, 300) && !IsLit(450, 605);
+	};
+	EXPECT_TRUE(WaitUntil(IsFilled));
+	Editor->Signal(SIGTERM);
+	EXPECT_EQ(Editor->Wait().Code, 0);
+	EXPECT_NE(ReadSettings().find("WindowWidth=900"), std::string::npos);
+	Start();
+	Desktop.Do("search --onlyvisible --name Editor windowmove 0 0");
+	EXPECT_TRUE(WaitUntil(IsFilled));
+}
+
 TEST_F(WindowRun, SaysInOneSentenceThatThereIsNoDisplayAndRunsWithoutAWindow)
 {
-	FWindowedEditor Program(
-		":9999", {"--project", Folder.NativePath("Project").string(), "--out", Folder.NativePath("out").string(), "--list"});
+	FWindowedEditor Program(":9999", {"--project", Folder.NativePath("Project").string(), "--out", Folder.NativePath("out").string()});
 	const FProgramResult Result = Program.Wait();
 	EXPECT_EQ(Result.Code, 0) << Result.Output;
+	EXPECT_NE(Result.Output.find("No window can be opened: "), std::string::npos);
+	EXPECT_NE(Result.Output.find(" Running without a window.\n"), std::string::npos);
 }

@@ -14,7 +14,7 @@ imports_only()
         grep -qxF "$name" <<<"$found" || { echo "$library does not import $name."; status=1; }
     done
     while read -r name; do
-        case " $* KERNEL32.dll msvcrt.dll " in
+        case " $* KERNEL32.dll msvcrt.dll SHELL32.dll " in
             *" $name "*) ;;
             *) echo "$library imports $name, which is neither the engine nor the system."; status=1 ;;
         esac
@@ -44,6 +44,8 @@ has_no_engine_state()
 imports_only "$build_dir/Engine/Binaries/Win64/UE4Editor-Engine.dll"
 imports_only "$binaries/UE4Editor-Tintmill.dll" UE4Editor-Engine.dll
 imports_only "$binaries/UE4Editor-TintmillEditor.dll" UE4Editor-Engine.dll UE4Editor-Tintmill.dll
+imports_only "$build_dir/Engine/Binaries/Win64/tintmill-editor.exe" UE4Editor-Engine.dll
+has_no_engine_state "$build_dir/Engine/Binaries/Win64/tintmill-editor.exe"
 has_no_engine_state "$binaries/UE4Editor-Tintmill.dll"
 has_no_engine_state "$binaries/UE4Editor-TintmillEditor.dll"
 exit $status

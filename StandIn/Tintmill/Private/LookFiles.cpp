@@ -32,21 +32,31 @@ static FString FromUtf8(const std::string& Text)
 	return FString(UTF8_TO_TCHAR(Text.c_str()));
 }
 
-/** Takes the look away and tells the person why; a problem that has been told already is not told again. */
-static void MakeUnusable(const UTintmillObject* Asset, FTintmillLook& Look, const std::string& Sentence)
+/** Takes the look away. */
+static void MakeUnusable(FTintmillLook& Look, const FString& Problem)
 {
-	const FString Problem = FromUtf8(Sentence);
-	const bool bNews = Look.State != StandIn::ELookState::Unusable || !Look.Problem.Equals(Problem);
 	Look.State = StandIn::ELookState::Unusable;
 	Look.Problem = Problem;
 	Look.Grader.reset();
 	Look.ContentHash = 0;
 	Look.Revision = NextRevision();
+}
+
+/** Takes the look away and tells the person why; a problem that has been told already is not told again. */
+static void Refuse(const UTintmillObject* Asset, FTintmillLook& Look, const std::string& Sentence)
+{
+	const FString Problem = FromUtf8(Sentence);
+	const bool bNews = Look.State != StandIn::ELookState::Unusable || !Look.Problem.Equals(Problem);
+	// Whoever deletes a file knows it; a pane that shows the look still says so when it is drawn.
+	const bool bDeleted = Look.State != StandIn::ELookState::None && !Look.Stamp.bExists;
+	MakeUnusable(Look, Problem);
 	if (bNews)
 	{
-		const FString Key = StandIn::GetLookNoticeKey(Asset);
-		StandIn::ClearNotice(Key);
-		StandIn::AddNotice(Key, Problem + TEXT("; the picture stays as it is until the file is mended."));
+		StandIn::ClearNotice(StandIn::GetLookNoticeKey(Asset));
+	}
+	if (bNews && !bDeleted)
+	{
+		StandIn::TellLookProblem(Asset);
 	}
 }
 
@@ -75,7 +85,7 @@ static void ReadFile(const UTintmillObject* Asset, FTintmillLook& Look)
 	LookFile::FProblem Problem;
 	if (!LookFile::CheckFile(Look.Path, File, Problem))
 	{
-		MakeUnusable(Asset, Look, LookFile::Sentence(Look.Path, Problem));
+		Refuse(Asset, Look, LookFile::Sentence(Look.Path, Problem));
 		return;
 	}
 	if (Look.State == StandIn::ELookState::Ready && Look.ContentHash == File.ContentHash)
@@ -87,7 +97,7 @@ static void ReadFile(const UTintmillObject* Asset, FTintmillLook& Look)
 	if (Grader == nullptr)
 	{
 		LookFile::Refuse(Problem, 0, Reason);
-		MakeUnusable(Asset, Look, LookFile::Sentence(Look.Path, Problem));
+		Refuse(Asset, Look, LookFile::Sentence(Look.Path, Problem));
 		return;
 	}
 	MakeReady(Asset, Look, std::move(Grader), File.ContentHash);
@@ -165,6 +175,14 @@ FString GetLookProblem(const UTintmillObject* Asset)
 {
 	const FTintmillLook* Look = LookFilesPrivate::LookOf(Asset);
 	return Look != nullptr ? Look->Problem : FString();
+}
+
+void TellLookProblem(const UTintmillObject* Asset)
+{
+	if (GetLookState(Asset) == ELookState::Unusable)
+	{
+		AddNotice(GetLookNoticeKey(Asset), GetLookProblem(Asset) + TEXT("; the picture stays as it is until the file is mended."));
+	}
 }
 
 FString GetLookFileName(const UTintmillObject* Asset)

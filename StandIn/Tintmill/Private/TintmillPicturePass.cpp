@@ -33,6 +33,7 @@ void FTintmillPicturePass::Apply(FViewportClient* Client, const FIntPoint& Size,
 			static_cast<std::size_t>(Size.X) * static_cast<std::size_t>(Size.Y), LookGrading::EByteOrder::BlueFirst);
 		return;
 	}
+	StandIn::TellLookProblem(Configuration->LookAsset);
 	if (StandIn::GetLookState(Configuration->LookAsset) == StandIn::ELookState::None)
 	{
 		// Whoever switches on a new, empty look would otherwise wait for a change that cannot come.

@@ -25,7 +25,7 @@ TEST_F(UiCommands, AButtonWithoutAMenuMakesAComplaint)
 
 TEST_F(UiCommands, AnUnknownButtonMakesAComplaintWithTheButtonsThereAre)
 {
-	ExpectComplaint("open 1 Snap", "Nothing in sight is labeled 'Snap'; there is '\u25BC', 'Perspective', 'Lit', 'Show'.");
+	ExpectComplaint("open 1 Snap", "Nothing in sight is labeled 'Snap'; there is '\u25BC', 'Perspective', 'Lit', 'Show', 'Maximize'.");
 }
 
 TEST_F(UiCommands, RestingOnTintmillOpensItsPanel)

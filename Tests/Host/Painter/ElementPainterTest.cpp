@@ -165,8 +165,7 @@ TEST_F(ElementPainter, ARoundedFrameIsFreeInside)
 
 TEST_F(ElementPainter, EveryShapeDrawsSomething)
 {
-	for (int Kind = static_cast<int>(StandIn::EBrushShape::RoundedBox); Kind <= static_cast<int>(StandIn::EBrushShape::Checkerboard);
-		 ++Kind)
+	for (int Kind = static_cast<int>(StandIn::EBrushShape::RoundedBox); Kind <= static_cast<int>(StandIn::EBrushShape::Log); ++Kind)
 	{
 		List.ResetElementList();
 		const FLinearColor Color = Kind == static_cast<int>(StandIn::EBrushShape::Shadow) ? FLinearColor(1, 1, 1, 1) : FLinearColor::White;

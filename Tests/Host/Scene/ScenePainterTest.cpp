@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cstdlib>
 #include <vector>
 
 namespace ScenePainterTest
@@ -33,6 +34,34 @@ TEST(ScenePainter, PaintsTheSameBytesTwice)
 TEST(ScenePainter, PaintsTheSameBytesWithAnyNumberOfThreads)
 {
 	EXPECT_TRUE(Painted(DefaultSceneCamera(1), 160, 90, 1) == Painted(DefaultSceneCamera(1), 160, 90, 5));
+}
+
+TEST(ScenePainter, PaintsCoarselyWhatIsNearlyTheFinePicture)
+{
+	const std::vector<FColor> Fine = Painted(DefaultSceneCamera(1));
+	std::vector<FColor> Coarse(Fine.size());
+	PaintSceneCoarsely(DefaultSceneCamera(1), FIntPoint(160, 90), Coarse.data(), 2, 2);
+	double Difference = 0.0;
+	for (std::size_t Index = 0; Index < Fine.size(); ++Index)
+	{
+		Difference += std::abs(Fine[Index].G - Coarse[Index].G);
+	}
+	EXPECT_GT(Difference, 0.0);
+	EXPECT_LT(Difference / static_cast<double>(Fine.size()), 16.0);
+}
+
+TEST(ScenePainter, PaintsTheFinePictureWhereNothingIsToBeCoarse)
+{
+	std::vector<FColor> Pixels(160 * 90);
+	PaintSceneCoarsely(DefaultSceneCamera(1), FIntPoint(160, 90), Pixels.data(), 1, 2);
+	EXPECT_TRUE(Pixels == Painted(DefaultSceneCamera(1)));
+}
+
+TEST(ScenePainter, PaintsCoarselyInSizesThatCannotBeParted)
+{
+	std::vector<FColor> Pixels(3 * 5, FColor(0, 0, 0, 0));
+	PaintSceneCoarsely(DefaultSceneCamera(1), FIntPoint(3, 5), Pixels.data(), 2, 2);
+	EXPECT_TRUE(std::all_of(Pixels.begin(), Pixels.end(), [](const FColor& Color) { return Color.A == 255; }));
 }
 
 class ScenePane : public testing::TestWithParam<int>

@@ -7,7 +7,7 @@
 
 // Looks come from LUT files: .cube, .clf, .ctf, .3dl, .spi1d, .spi3d, .csp. A file is read when its asset is loaded and again when
 // a poll finds that it changed, never while a picture is drawn. A file that cannot be used makes one notice and leaves every
-// picture as it is; when it has been mended, the next poll takes it.
+// picture as it is; when it has been mended, the next poll takes it. A file that is deleted makes one only where the look is shown.
 
 class UTintmillObject;
 
@@ -41,6 +41,9 @@ TINTMILL_API uint64 GetLookRevision(const UTintmillObject* Asset);
 
 /** Returns why the asset's look cannot be used, "Teal.cube(17): reason"; empty when it can. */
 TINTMILL_API FString GetLookProblem(const UTintmillObject* Asset);
+
+/** Makes the notice of why the asset's look cannot be used, unless it stands already; none when it can. */
+TINTMILL_API void TellLookProblem(const UTintmillObject* Asset);
 
 /** Returns the file that the asset's look is read from; empty when it has none. */
 TINTMILL_API FString GetLookFileName(const UTintmillObject* Asset);

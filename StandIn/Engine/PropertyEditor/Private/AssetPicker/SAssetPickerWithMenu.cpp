@@ -147,27 +147,28 @@ void SAssetPickerWithMenu::FillList(const FOnShouldFilterAsset& OnShouldFilterAs
 		Filter.ClassNames.Add(Class->GetFName());
 	}
 	Filter.bRecursiveClasses = true;
-	TArray<FAssetData> Assets;
-	if (Filter.ClassNames.Num() > 0)
-	{
-		Registry.GetAssets(Filter, Assets);
-	}
-	else
-	{
-		Registry.GetAllAssets(Assets);
-	}
-
 	TArray<SAssetPickerList::FItem> Items;
-	Items.Reserve(Assets.Num());
-	for (const FAssetData& Asset : Assets)
-	{
+	const auto AddItem = [this, &Items, &OnShouldFilterAsset](const FAssetData& Asset) {
 		const bool bHidden = OnShouldFilterAsset.IsBound() && OnShouldFilterAsset.Execute(Asset);
 		if (!bHidden && (DisallowedClasses.Num() == 0 || IsAllowed(Asset.GetClass())))
 		{
-			SAssetPickerList::FItem Item;
+			SAssetPickerList::FItem& Item = Items.AddDefaulted_GetRef();
 			Item.Asset = Asset;
 			Item.Label = Asset.AssetName.ToString();
-			Items.Add(Item);
+		}
+		return true;
+	};
+	if (Filter.ClassNames.Num() > 0)
+	{
+		Registry.EnumerateAssets(Filter, AddItem);
+	}
+	else
+	{
+		TArray<FAssetData> Assets;
+		Registry.GetAllAssets(Assets);
+		for (const FAssetData& Asset : Assets)
+		{
+			AddItem(Asset);
 		}
 	}
 	List->SetItems(MoveTemp(Items));

@@ -45,6 +45,7 @@ TArray<StandIn::FMenuRow> StandIn::ListMenuRows(const TSharedRef<SWidget>& Root)
 		Row.bHighlighted = Widget->IsHighlighted();
 		Row.bHasCheck = Widget->HasCheck();
 		Row.CheckState = Widget->GetCheckState();
+		Row.bRepeats = Widget->GetBlock().GetAction().CanRepeat();
 		Row.bHasSubMenu = Widget->HasSubMenu();
 		Row.bSubMenuOpen = Widget->IsSubMenuOpen();
 		Rows.Add(Row);

@@ -44,6 +44,9 @@ struct FMenuRow
 	/** Check state as it is drawn. */
 	ECheckBoxState CheckState;
 
+	/** True if the row's action runs again while its key is held. */
+	bool bRepeats;
+
 	/** True if the row opens a submenu. */
 	bool bHasSubMenu;
 

@@ -238,8 +238,8 @@ void FMenuStack::RemoveMenusFrom(int32 FirstIndex, bool bRestoreFocus)
 	if (bHadFocus && bRestoreFocus)
 	{
 		const TSharedPtr<SWidget> OldFocus = Removed.Last()->GetFocusBefore();
-		const bool bRestored = OldFocus.IsValid()
-			&& (Stack.Num() == 0 || FindMenuOfWidget(OldFocus.ToSharedRef()) == Stack.Last()) && Application.SetKeyboardFocus(OldFocus);
+		const bool bRestored = OldFocus.IsValid() && (Stack.Num() == 0 || FindMenuOfWidget(OldFocus.ToSharedRef()) == Stack.Last())
+			&& Application.SetKeyboardFocus(OldFocus);
 		if (!bRestored && (Stack.Num() == 0 || !Application.SetKeyboardFocus(Stack.Last()->GetOwnedWindow()->GetContent())))
 		{
 			Application.ClearKeyboardFocus();

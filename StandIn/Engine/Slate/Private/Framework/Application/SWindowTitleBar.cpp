@@ -25,7 +25,11 @@ void SWindowTitleBar::Construct(const FArguments&, const TSharedRef<SWindow>& In
 		// clang-format on
 	}
 	const TSharedRef<SHorizontalBox> Bar = SNew(SHorizontalBox);
-	Bar->AddSlot().FillWidth(1.0f).VAlign(VAlign_Center).HAlign(InCenterContentAlignment).Padding(FMargin(6.0f, 0.0f))[Center.ToSharedRef()];
+	Bar->AddSlot()
+		.FillWidth(1.0f)
+		.VAlign(VAlign_Center)
+		.HAlign(InCenterContentAlignment)
+		.Padding(FMargin(6.0f, 0.0f))[Center.ToSharedRef()];
 	if (InWindow->HasCloseBox())
 	{
 		// clang-format off
