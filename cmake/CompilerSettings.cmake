@@ -32,8 +32,9 @@ if(TINTMILL_SANITIZE)
 endif()
 
 if(TINTMILL_FUZZ)
-    # As in the engine, flags are sums of enumerators, and generated code calls functions through pointers to what they return a base of.
-    add_compile_options(-fsanitize=fuzzer-no-link,address,undefined -fno-sanitize=vptr,enum,function -fno-sanitize-recover=undefined)
+    # As in the engine, flags are sums of enumerators, generated code calls functions through pointers to what they return a base of,
+    # and ANY_PACKAGE is no address.
+    add_compile_options(-fsanitize=fuzzer-no-link,address,undefined -fno-sanitize=vptr,enum,function,alignment -fno-sanitize-recover=undefined)
     add_link_options(-fsanitize=address,undefined)
 endif()
 

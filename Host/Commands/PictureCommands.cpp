@@ -114,7 +114,8 @@ void CompareLook(const FArguments& Words, FHostProgram& Program, std::ostream& O
 	const FPicture With = DrawPaneWithLook(*Pane, true);
 	Record = Before;
 
-	const std::filesystem::path WithoutFile = Save(Without, File.parent_path() / PathFromUtf8(File.stem().string() + "-without-look.png"), Output);
+	const std::filesystem::path WithoutFile =
+		Save(Without, File.parent_path() / PathFromUtf8(File.stem().string() + "-without-look.png"), Output);
 	const std::string Caption = JoinWordsFrom(Words, 3);
 	const std::string Problem = ToUtf8(StandIn::GetLookProblem(Look));
 	Program.GetGallery().AddComparison(
@@ -130,7 +131,8 @@ void SavePictures(FHostProgram& Program, std::ostream& Output)
 		const std::string Caption = ToUtf8(Pane->GetConfigKey().ToString()) + ": " + DescribeRecord(GetPaneRecord(*Pane));
 		const std::filesystem::path Without =
 			Save(DrawPaneWithLook(*Pane, false), Program.GetOutDir() / PathFromUtf8(Stem + "-without-look.png"), Output);
-		const std::filesystem::path With = Save(DrawPaneWithLook(*Pane, true), Program.GetOutDir() / PathFromUtf8(Stem + "-with-look.png"), Output);
+		const std::filesystem::path With =
+			Save(DrawPaneWithLook(*Pane, true), Program.GetOutDir() / PathFromUtf8(Stem + "-with-look.png"), Output);
 		Program.GetGallery().AddComparison(Caption, Without, With);
 	}
 }

@@ -53,7 +53,8 @@ void FLookBuilderWindows::Open(const StandIn::FLookBuilderRequest& Request)
 				.Look(Request.Asset)
 			];
 		// clang-format on
-		Builder.Window->SetOnWindowClosed(FOnWindowClosed::CreateLambda([this, Path](const TSharedRef<SWindow>&) { Builders.erase(Path); }));
+		Builder.Window->SetOnWindowClosed(
+			FOnWindowClosed::CreateLambda([this, Path](const TSharedRef<SWindow>&) { Builders.erase(Path); }));
 		FSlateApplication::Get().AddWindow(Builder.Window.ToSharedRef());
 	}
 	Builder.Content->SetPicture(FBuilderPicture(Request));

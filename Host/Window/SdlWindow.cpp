@@ -24,6 +24,14 @@ FIntPoint LimitToDisplay(const FIntPoint& Size)
 	}
 	return FIntPoint(std::min(Size.X, Room.w), std::min(Size.Y, Room.h));
 }
+
+/** Whether the library has fallen back to windows that nobody can see; not if the user has asked for such. */
+bool IsNobodyWatching()
+{
+	const char* const Driver = SDL_GetCurrentVideoDriver();
+	return !SDL_getenv("SDL_VIDEODRIVER") && Driver
+		&& (SDL_strcmp(Driver, "offscreen") == 0 || SDL_strcmp(Driver, "dummy") == 0 || SDL_strcmp(Driver, "evdev") == 0);
+}
 }
 
 FSdlVideo::FSdlVideo()
@@ -38,6 +46,11 @@ FSdlVideo::FSdlVideo()
 	if (SDL_InitSubSystem(SDL_INIT_VIDEO) != 0)
 	{
 		Problem = SDL_GetError();
+	}
+	else if (IsNobodyWatching())
+	{
+		Problem = "there is no display";
+		SDL_QuitSubSystem(SDL_INIT_VIDEO);
 	}
 }
 

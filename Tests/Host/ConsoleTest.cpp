@@ -16,8 +16,8 @@ class Console : public testing::Test
 protected:
 	Console()
 	{
-		Subject.Add("echo FIRST [SECOND]", "repeat the words", [](const FArguments& Words, std::ostream& Output) {
-			for (const std::string& Word : Words)
+		Subject.Add("echo FIRST [SECOND]", "repeat the words", [](const FArguments& Given, std::ostream& Output) {
+			for (const std::string& Word : Given)
 			{
 				Output << '<' << Word << '>';
 			}

@@ -28,11 +28,17 @@ public:
 	{
 		std::filesystem::copy(std::filesystem::path(REPOSITORY_DIR) / "Host/DemoProject", Folder.NativePath("Project"),
 			std::filesystem::copy_options::recursive);
-		// The demo project's user settings are those of Linux.
+		// The demo project's user settings are those of Linux, in their folder and their line ends.
 		const std::filesystem::path Settings = Folder.NativePath(HostSettingsFile).parent_path();
 		if (!std::filesystem::exists(Settings))
 		{
 			std::filesystem::rename(Folder.NativePath("Project/Saved/Config/Linux"), Settings);
+			std::string Text;
+			for (const char Character : ReadSettings())
+			{
+				Text += Character == '\n' ? std::string("\r\n") : std::string(1, Character);
+			}
+			Folder.Write(HostSettingsFile, Text);
 		}
 	}
 

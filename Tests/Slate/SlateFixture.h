@@ -24,7 +24,11 @@ protected:
 	/** Shows a widget in the window and paints it. */
 	void Show(const TSharedRef<SWidget>& Content)
 	{
-		Window = SNew(SWindow).CreateTitleBar(false).AutoCenter(EAutoCenter::None).ClientSize(FVector2D(400, 300)).ScreenPosition(FVector2D(0, 0))[Content];
+		Window = SNew(SWindow)
+					 .CreateTitleBar(false)
+					 .AutoCenter(EAutoCenter::None)
+					 .ClientSize(FVector2D(400, 300))
+					 .ScreenPosition(FVector2D(0, 0))[Content];
 		FSlateApplication::Get().AddWindow(Window.ToSharedRef());
 		StandIn::AdvanceTime(0.0f);
 	}

@@ -34,7 +34,8 @@ public:
 			FSlateApplication::Create();
 		}
 		Anchor = SNew(SBox);
-		Window = SNew(SWindow).CreateTitleBar(false).ClientSize(FVector2D(1200.0f, 900.0f)).AutoCenter(EAutoCenter::None)[Anchor.ToSharedRef()];
+		Window =
+			SNew(SWindow).CreateTitleBar(false).ClientSize(FVector2D(1200.0f, 900.0f)).AutoCenter(EAutoCenter::None)[Anchor.ToSharedRef()];
 		FSlateApplication::Get().AddWindow(Window.ToSharedRef());
 		Wait(0.0f);
 	}

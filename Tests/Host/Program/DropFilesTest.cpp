@@ -17,7 +17,7 @@ namespace
 {
 using namespace TintmillHost;
 
-const char* const Identity = "LUT_1D_SIZE 2\n0 0 0\n1 1 1\n";
+const char* const DroppedLook = "LUT_1D_SIZE 2\n0 0 0\n1 1 1\n";
 
 using FNames = std::vector<std::string>;
 
@@ -29,8 +29,8 @@ protected:
 	{
 		StandIn::StartObjectSystem();
 		StandIn::ClearNotices();
-		Folder.Write("Content/Warm.cube", Identity);
-		Folder.Write("From/Cold.cube", Identity);
+		Folder.Write("Content/Warm.cube", DroppedLook);
+		Folder.Write("From/Cold.cube", DroppedLook);
 		StandIn::RegisterMountPoint(TEXT("/Game/"), Folder.Path("Content"));
 		FAssetRegistryModule::GetRegistry().SearchAllAssets(true);
 	}
@@ -58,7 +58,7 @@ protected:
 TEST_F(DropFiles, ALookFileIsCopiedIntoTheContentFolder)
 {
 	EXPECT_EQ(Drop("From/Cold.cube"), "");
-	EXPECT_EQ(Folder.Read("Content/Cold.cube"), Identity);
+	EXPECT_EQ(Folder.Read("Content/Cold.cube"), DroppedLook);
 }
 
 TEST_F(DropFiles, TheNewLookIsAnAssetAtOnce)
@@ -69,7 +69,7 @@ TEST_F(DropFiles, TheNewLookIsAnAssetAtOnce)
 
 TEST_F(DropFiles, ANameThatIsTakenGetsANumber)
 {
-	Folder.Write("From/Warm.cube", Identity);
+	Folder.Write("From/Warm.cube", DroppedLook);
 	Folder.Write("From/WARM.clf", "<x/>");
 	Drop("From/Warm.cube");
 	Drop("From/WARM.clf");
@@ -78,14 +78,14 @@ TEST_F(DropFiles, ANameThatIsTakenGetsANumber)
 
 TEST_F(DropFiles, ANameThatAssetsMayNotHaveIsMadeOneThatTheyMay)
 {
-	Folder.Write("From/Film stock (v2).CUBE", Identity);
+	Folder.Write("From/Film stock (v2).CUBE", DroppedLook);
 	EXPECT_EQ(Drop("From/Film stock (v2).CUBE"), "");
 	EXPECT_EQ(Content(), (FNames{"Film_stock_v2.cube", "Warm.cube"}));
 }
 
 TEST_F(DropFiles, ANameBeyondAsciiIsKept)
 {
-	Folder.Write("From/Gr\xc3\xbcn.cube", Identity);
+	Folder.Write("From/Gr\xc3\xbcn.cube", DroppedLook);
 	EXPECT_EQ(Drop("From/Gr\xc3\xbcn.cube"), "");
 	EXPECT_EQ(Content(), (FNames{"Gr\xc3\xbcn.cube", "Warm.cube"}));
 }

@@ -11,7 +11,7 @@ namespace
 {
 using namespace TintmillHost;
 
-using FPaths = std::vector<std::filesystem::path>;
+using FFoundFiles = std::vector<std::filesystem::path>;
 
 /** A folder of old files. */
 class FolderPoll : public testing::Test
@@ -50,7 +50,7 @@ TEST_F(FolderPoll, TellsOfFilesThatComeAndGo)
 	Folder.Write("Content/New.cube", "n");
 	std::filesystem::remove(Path("Deep/B.cube"));
 	const FFolderChanges Changes = Watch.Take(1.0);
-	EXPECT_EQ(Changes.Files, (FPaths{Path("New.cube"), Path("Deep/B.cube")}));
+	EXPECT_EQ(Changes.Files, (FFoundFiles{Path("New.cube"), Path("Deep/B.cube")}));
 	EXPECT_FALSE(Changes.bEverything);
 }
 
@@ -59,7 +59,7 @@ TEST_F(FolderPoll, LooksOnceASecond)
 	FFolderPoll Watch(Folder.NativePath("Content"), {});
 	Folder.Write("Content/New.cube", "n");
 	EXPECT_TRUE(Watch.Take(0.6).Files.empty());
-	EXPECT_EQ(Watch.Take(0.6).Files, (FPaths{Path("New.cube")}));
+	EXPECT_EQ(Watch.Take(0.6).Files, (FFoundFiles{Path("New.cube")}));
 }
 
 TEST_F(FolderPoll, TellsAChangeOnce)
@@ -78,7 +78,7 @@ TEST_F(FolderPoll, TellsOfNewFoldersThatAnythingMayHaveChangedAndWatchesThemFrom
 	SetChangedHoursAgo(Path("More"), 1);
 	Watch.Take(1.0);
 	Folder.Write("Content/More/C.cube", "c");
-	EXPECT_EQ(Watch.Take(1.0).Files, (FPaths{Path("More/C.cube")}));
+	EXPECT_EQ(Watch.Take(1.0).Files, (FFoundFiles{Path("More/C.cube")}));
 }
 
 TEST_F(FolderPoll, TellsNothingOfFoldersThatAreLeftOut)

@@ -67,11 +67,12 @@ TEST_F(WindowsHostProgram, ReadsSettingsWithTheLineEndsOfWindows)
 	EXPECT_NE(Result.Output.find("Red"), std::string::npos) << Result.Output;
 }
 
-TEST_F(WindowsHostProgram, FindsALookUnderAnotherCase)
+TEST_F(WindowsHostProgram, TakesAPathInAnotherCase)
 {
 	MakeProject("Project");
-	const FProgramResult Result = RunProject("--exec 'describe-look /game/looks/RED'");
+	const FProgramResult Result = Run("--project '" + Folder.NativePath("PROJECT").string() + "' --exec looks");
 	EXPECT_EQ(Result.Code, 0) << Result.Output;
+	EXPECT_NE(Result.Output.find("/Game/Looks/Red"), std::string::npos) << Result.Output;
 }
 
 TEST_F(WindowsHostProgram, SaysThatPicturesNeedWhatItWasBuiltWithout)

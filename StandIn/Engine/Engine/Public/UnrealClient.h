@@ -159,8 +159,8 @@ public:
 		FViewport* Viewport, int32 ControllerId, FKey Key, EInputEvent Event, float AmountDepressed = 1.f, bool bGamepad = false);
 
 	/** Handles a moved axis, such as EKeys::MouseX by pixels to the right or EKeys::MouseY upwards; true when nobody else should. */
-	virtual bool InputAxis(FViewport* Viewport, int32 ControllerId, FKey Key, float Delta, float DeltaTime, int32 NumSamples = 1,
-		bool bGamepad = false);
+	virtual bool InputAxis(
+		FViewport* Viewport, int32 ControllerId, FKey Key, float Delta, float DeltaTime, int32 NumSamples = 1, bool bGamepad = false);
 
 	/** Is told that the viewport lost the keyboard. */
 	virtual void LostFocus(FViewport* Viewport);

@@ -38,14 +38,14 @@ protected:
 	FTestFolder Folder;
 };
 
-using FNames = std::set<std::filesystem::path>;
+using FWatchedFiles = std::set<std::filesystem::path>;
 
 TEST_F(LinuxFolderWatch, TellsOfWritesAtOnce)
 {
 	const auto Watch = Start();
 	Folder.Write("Content/A.cube", "another");
 	EXPECT_TRUE(Watch->TellsOfWrites());
-	EXPECT_EQ(Files(*Watch), (FNames{Path("A.cube")}));
+	EXPECT_EQ(Files(*Watch), (FWatchedFiles{Path("A.cube")}));
 }
 
 TEST_F(LinuxFolderWatch, TellsNothingTwice)
@@ -62,7 +62,7 @@ TEST_F(LinuxFolderWatch, TellsOfFilesThatComeGoAndAreRenamedInAnyFolder)
 	Folder.Write("Content/Deep/New.cube", "n");
 	std::filesystem::remove(Path("A.cube"));
 	std::filesystem::rename(Path("Deep/B.cube"), Path("Deep/C.cube"));
-	EXPECT_EQ(Files(*Watch), (FNames{Path("A.cube"), Path("Deep/B.cube"), Path("Deep/C.cube"), Path("Deep/New.cube")}));
+	EXPECT_EQ(Files(*Watch), (FWatchedFiles{Path("A.cube"), Path("Deep/B.cube"), Path("Deep/C.cube"), Path("Deep/New.cube")}));
 }
 
 TEST_F(LinuxFolderWatch, WatchesNewFoldersToo)
@@ -71,7 +71,7 @@ TEST_F(LinuxFolderWatch, WatchesNewFoldersToo)
 	Folder.Write("Content/More/Deeper/D.cube", "d");
 	EXPECT_TRUE(Watch->Take(0.0).bEverything);
 	Folder.Write("Content/More/Deeper/E.cube", "e");
-	EXPECT_EQ(Files(*Watch), (FNames{Path("More/Deeper/E.cube")}));
+	EXPECT_EQ(Files(*Watch), (FWatchedFiles{Path("More/Deeper/E.cube")}));
 }
 
 TEST_F(LinuxFolderWatch, FindsFilesOfAMovedFolderUnderTheirNewNames)
@@ -80,7 +80,7 @@ TEST_F(LinuxFolderWatch, FindsFilesOfAMovedFolderUnderTheirNewNames)
 	std::filesystem::rename(Path("Deep"), Path("Moved"));
 	EXPECT_TRUE(Watch->Take(0.0).bEverything);
 	Folder.Write("Content/Moved/B.cube", "another");
-	EXPECT_EQ(Files(*Watch), (FNames{Path("Moved/B.cube")}));
+	EXPECT_EQ(Files(*Watch), (FWatchedFiles{Path("Moved/B.cube")}));
 }
 
 TEST_F(LinuxFolderWatch, TellsNothingOfFoldersThatAreLeftOut)

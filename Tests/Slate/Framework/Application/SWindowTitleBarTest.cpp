@@ -40,10 +40,7 @@ protected:
 	}
 
 	/** The middle of the button in the title bar's right corner. */
-	FVector2D GetCloseButton() const
-	{
-		return FVector2D(Titled->GetRectInScreen().Right - 18.0f, Titled->GetRectInScreen().Top + 12.0f);
-	}
+	FVector2D GetCloseButton() const { return FVector2D(Titled->GetRectInScreen().Right - 18.0f, Titled->GetRectInScreen().Top + 12.0f); }
 
 	TSharedPtr<SWindow> Titled;
 	TSharedPtr<SWidget> Content;

@@ -91,9 +91,9 @@ FSlateRect SWindow::GetClientRectInScreen() const
 
 FVector2D SWindow::GetWindowSizeFromClientSize(FVector2D InClientSize) const
 {
-	return HasTitleBar()
-		? InClientSize + FVector2D(2.0f * SWindowDefs::BorderSize, SWindowDefs::DefaultTitleBarSize + SWindowDefs::BorderSize) * DPIScaleFactor
-		: InClientSize;
+	return HasTitleBar() ? InClientSize
+			+ FVector2D(2.0f * SWindowDefs::BorderSize, SWindowDefs::DefaultTitleBarSize + SWindowDefs::BorderSize) * DPIScaleFactor
+						 : InClientSize;
 }
 
 FGeometry SWindow::GetWindowGeometryInScreen() const

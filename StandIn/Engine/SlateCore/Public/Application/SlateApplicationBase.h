@@ -46,8 +46,8 @@ public:
 	virtual TSharedRef<IToolTip> MakeToolTip(const FText& ToolTipText) = 0;
 
 	/** Makes the bar with title and close button for a window; a center content takes the title's place. */
-	virtual TSharedRef<SWidget> MakeWindowTitleBar(const TSharedRef<SWindow>& Window, const TSharedPtr<SWidget>& CenterContent,
-		EHorizontalAlignment CenterContentAlignment) const = 0;
+	virtual TSharedRef<SWidget> MakeWindowTitleBar(
+		const TSharedRef<SWindow>& Window, const TSharedPtr<SWidget>& CenterContent, EHorizontalAlignment CenterContentAlignment) const = 0;
 
 	/** Returns the active window, or null. */
 	virtual TSharedPtr<SWindow> GetActiveTopLevelWindow() const = 0;

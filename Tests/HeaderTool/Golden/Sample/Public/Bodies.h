@@ -6,7 +6,11 @@
 #include "Bodies.generated.h"
 
 class UUnreflected;
-template <typename T> struct TUnreflected { T Value; };
+template <typename T>
+struct TUnreflected
+{
+	T Value;
+};
 
 UCLASS(minimalapi, abstract, config = Engine, defaultconfig, meta = (ShortToolTip = "Short"))
 class UMinimal : public UObject
@@ -38,8 +42,7 @@ private:
 };
 
 UCLASS(hidecategories = (Object, "A|B"), notplaceable)
-class UWithInitializer
-	: public UMinimal
+class UWithInitializer : public UMinimal
 {
 	GENERATED_BODY()
 
@@ -53,9 +56,7 @@ class UInside final : public UWithInitializer, public TUnreflected<TUnreflected<
 	GENERATED_BODY()
 };
 
-UCLASS(
-	Transient
-)
+UCLASS(Transient)
 class UAfterDefault : public UMinimal
 {
 	GENERATED_BODY()
