@@ -97,6 +97,12 @@ function(ue_join_sources target)
     set_target_properties(${target} PROPERTIES UNITY_BUILD ON UNITY_BUILD_BATCH_SIZE 12)
     # Seen from the file that joins them, an unnamed namespace of a source is one of a header.
     target_compile_options(${target} PRIVATE $<$<CXX_COMPILER_ID:GNU>:-Wno-subobject-linkage> $<$<BOOL:${WIN32}>:-Wa,-mbig-obj>)
+    # The system's headers make macros of names that other files use, GetEnvironmentVariable for one.
+    get_target_property(platform_sources ${target} SOURCES)
+    list(FILTER platform_sources INCLUDE REGEX "/(Linux|Windows)/")
+    if(platform_sources)
+        set_source_files_properties(${platform_sources} PROPERTIES SKIP_UNITY_BUILD_INCLUSION ON)
+    endif()
     if("BY_FOLDER" IN_LIST ARGN)
         set_target_properties(${target} PROPERTIES UNITY_BUILD_MODE GROUP)
         get_target_property(sources ${target} SOURCES)

@@ -5,6 +5,7 @@
 #include "Brushes/SlateColorBrush.h"
 #include "Brushes/SlateImageBrush.h"
 #include "Fonts/FontMeasure.h"
+#include "Misc/Paths.h"
 #include "Rendering/DrawElements.h"
 #include "StandIn/LookBuilder.h"
 #include "StandIn/LookFiles.h"
@@ -33,6 +34,13 @@ const FSlateBrush* White()
 {
 	static const FSlateColorBrush Brush(FLinearColor::White);
 	return &Brush;
+}
+
+/** A file as people know it: from the project's folder on. */
+FString FromProject(const FString& File)
+{
+	const FString Folder = FPaths::ConvertRelativePathToFull(FPaths::ProjectDir());
+	return File.StartsWith(Folder) ? File.RightChop(Folder.Len()) : File;
 }
 
 /** The size of the picture's area in a widget of this size. */
@@ -88,7 +96,7 @@ FString SLookBuilder::GetTitle() const
 		return TEXT("The look is gone.");
 	}
 	const FString Problem = StandIn::GetLookProblem(Asset);
-	const FString File = StandIn::GetLookFileName(Asset);
+	const FString File = FromProject(StandIn::GetLookFileName(Asset));
 	return Problem.IsEmpty() ? (File.IsEmpty() ? FString(TEXT("no file")) : File) : Problem;
 }
 

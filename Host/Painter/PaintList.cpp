@@ -57,7 +57,7 @@ FPaintList::FPaintList(FElementPainter& InPainter, const FWindowShot& InShot)
 {
 	for (const TSharedRef<SWindow>& Window : Shot.Windows)
 	{
-		if (!Window->IsRegularWindow())
+		if (!Window->IsRegularWindow() || Window->HasTitleBar())
 		{
 			Items.push_back({nullptr, &Window.Get(), 0, FIntRect()});
 		}

@@ -6,9 +6,9 @@
 
 // Pictures of the windows that look assets open.
 
-TEST(FAssetPictures, ThePictureOfABuilderIsSaved)
+TEST(FAssetPictures, ThePictureOfABuilderShowsItsWindowWithTheBorder)
 {
 	const FHostRun Host;
 	Host.Execute("open-look TealOrange; shot-builder TealOrange builder.png");
-	EXPECT_EQ(Host.ReadPicture("builder.png").Width, 960);
+	EXPECT_EQ(Host.ReadPicture("builder.png").Width, 4 + 960 + 4);
 }

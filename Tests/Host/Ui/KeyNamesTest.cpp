@@ -11,7 +11,7 @@ using namespace TintmillHost;
 
 namespace
 {
-std::string Complaint(const std::string& Text)
+std::string ComplaintAbout(const std::string& Text)
 {
 	try
 	{
@@ -47,11 +47,11 @@ TEST(KeyNames, ModifiersStandBeforeThem)
 
 TEST(KeyNames, AnUnknownKeyIsNamedInTheComplaint)
 {
-	EXPECT_EQ(Complaint("Hyper").substr(0, 27), "There is no key 'Hyper': th");
+	EXPECT_EQ(ComplaintAbout("Hyper").substr(0, 27), "There is no key 'Hyper': th");
 }
 
 TEST(KeyNames, AnUnknownModifierIsNamedInTheComplaint)
 {
-	EXPECT_EQ(Complaint("Meta+A"), "'meta' in 'Meta+A' is no key that is held: there are Ctrl, Shift, Alt and Cmd.");
+	EXPECT_EQ(ComplaintAbout("Meta+A"), "'meta' in 'Meta+A' is no key that is held: there are Ctrl, Shift, Alt and Cmd.");
 }
 }

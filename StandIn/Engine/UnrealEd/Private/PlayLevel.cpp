@@ -171,6 +171,9 @@ void UEditorEngine::CreatePIEViewport(
 		Window->SetContent(ViewportWidget);
 		Window->SetOnWindowClosed(FOnWindowClosed::CreateWeakLambda(this, [this](const TSharedRef<SWindow>&) { RequestEndPlayMap(); }));
 		FSlateApplication::Get().AddWindow(Window);
+		const FSlateRect Area = FSlateApplication::Get().GetWorkArea(Window->GetRectInScreen());
+		const FVector2D Corner = Area.GetCenter() - Window->GetSizeInScreen() / 2.0f;
+		Window->MoveWindowTo(FVector2D(FMath::Max(Corner.X, Area.Left), FMath::Max(Corner.Y, Area.Top)));
 		Info.SlatePlayInEditorWindow = Window;
 		Info.SlatePlayInEditorWindowViewport->SetFixedViewportSize(0, 0);
 	}

@@ -25,7 +25,7 @@ struct FSettingPair
 /**
 * List of things with an identifier
 */
-UCLASS(config = EditorPerProjectUserSettings)
+UCLASS(config=EditorPerProjectUserSettings)
 class USampleSettings : public UObject
 {
 	GENERATED_BODY()

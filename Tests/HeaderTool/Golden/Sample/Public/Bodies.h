@@ -6,11 +6,7 @@
 #include "Bodies.generated.h"
 
 class UUnreflected;
-template <typename T>
-struct TUnreflected
-{
-	T Value;
-};
+template <typename T> struct TUnreflected { T Value; };
 
 UCLASS(minimalapi, abstract, config = Engine, defaultconfig, meta = (ShortToolTip = "Short"))
 class UMinimal : public UObject
@@ -42,7 +38,8 @@ private:
 };
 
 UCLASS(hidecategories = (Object, "A|B"), notplaceable)
-class UWithInitializer : public UMinimal
+class UWithInitializer
+	: public UMinimal
 {
 	GENERATED_BODY()
 
@@ -56,7 +53,9 @@ class UInside final : public UWithInitializer, public TUnreflected<TUnreflected<
 	GENERATED_BODY()
 };
 
-UCLASS(Transient)
+UCLASS(
+	Transient
+)
 class UAfterDefault : public UMinimal
 {
 	GENERATED_BODY()

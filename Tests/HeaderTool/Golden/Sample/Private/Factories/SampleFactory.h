@@ -7,7 +7,7 @@
 /**
  * Implements a factory for samples.
  */
-UCLASS(hidecategories = Object)
+UCLASS(hidecategories=Object)
 class USampleFactory : public UFactory
 {
 	GENERATED_UCLASS_BODY()
