@@ -4,6 +4,7 @@
 
 #include "Host/Program/DropFiles.h"
 #include "Host/Program/HostProgram.h"
+#include "Host/Program/Progress.h"
 #include "Host/Program/QuitRequest.h"
 #include "Host/Program/Strings.h"
 #include "Host/Window/DisplayLoss.h"
@@ -31,9 +32,10 @@ double GetNow()
 /** A frame is not waited for that is due within this time, in seconds: waits are in whole milliseconds. */
 constexpr double DueSeconds = 0.001;
 
-/** Between two looks at the files, in seconds; where a look takes long, many times as long as it takes. */
+/** Between two looks at the files, in seconds; where a look takes long, many times as long as it takes, but no longer than a person waits. */
 constexpr double PollSeconds = 0.5;
 constexpr double PollRestFactor = 50.0;
+constexpr double MaxPollSeconds = 2.0;
 
 /** A blinking caret changes fewer pixels at once than this, and needs no frames between its blinks. */
 constexpr int64 CaretPixels = 1024;
@@ -105,7 +107,7 @@ void FWindowLoop::Handle(const SDL_Event& Event)
 		if (const std::vector<std::string> Files = Input.TakeDroppedFiles(); !Files.empty())
 		{
 			// What cannot be added makes a notice.
-			AddDroppedFiles(Files);
+			WorkInSight([&Files]() { AddDroppedFiles(Files); });
 			NextPoll = GetNow();
 		}
 	}
@@ -166,9 +168,10 @@ void FWindowLoop::PollFiles()
 	const double Start = GetNow();
 	if (Start >= NextPoll)
 	{
-		Program.PollFiles(Start - LastPoll);
+		WorkInSight([this, Start]() { Program.PollFiles(Start - LastPoll); });
 		LastPoll = Start;
-		NextPoll = Start + std::max(PollSeconds, PollRestFactor * (GetNow() - Start));
+		const double End = GetNow();
+		NextPoll = End + std::clamp(PollRestFactor * (End - Start), PollSeconds, MaxPollSeconds);
 	}
 }
 
@@ -209,6 +212,25 @@ void FWindowLoop::RunFrame()
 	else if (!Pacer.IsAwake(Shown))
 	{
 		KeepSize();
+	}
+}
+
+void FWindowLoop::WorkInSight(const std::function<void()>& Work)
+{
+	const FProgressObserver Before = SetProgressObserver([this](const FProgress*) { ShowProgress(); });
+	Work();
+	SetProgressObserver(Before);
+}
+
+void FWindowLoop::ShowProgress()
+{
+	FSlateApplication::Get().Tick(0.0f);
+	// Without a look at its events the system takes the program for dead. They are handled after the work.
+	SDL_PumpEvents();
+	const TArray<FIntRect> Areas = Editor.UpdatePicture(Picture);
+	if (Areas.Num() > 0 && !Display.Show(Picture, Areas))
+	{
+		bShowAll = true;
 	}
 }
 }

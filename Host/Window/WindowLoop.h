@@ -10,6 +10,8 @@
 #include "Host/Window/SystemCursors.h"
 #include "Host/Window/WindowInput.h"
 
+#include <functional>
+
 // The program and its window on the display while they run together.
 
 namespace TintmillHost
@@ -38,6 +40,12 @@ private:
 	void FitToDisplay();
 	void PollFiles();
 	void RunFrame();
+
+	/** Does work that may take long with its progress in sight; only between frames, as it paints them. */
+	void WorkInSight(const std::function<void()>& Work);
+
+	/** Paints what Slate shows now and puts it on the display; no editor frame is run. */
+	void ShowProgress();
 	void KeepSize();
 
 	FHostProgram& Program;

@@ -17,6 +17,9 @@ namespace TintmillHost
 {
 namespace
 {
+/** The window's size in pixels before a person has chosen one; less where the display is smaller. */
+const FIntPoint FirstSize(1600, 900);
+
 /** What FindDisplay has opened stays open for the window: there is no need to greet a display twice. */
 std::unique_ptr<FSdlVideo> FoundVideo;
 }
@@ -38,8 +41,8 @@ int RunInWindow(FHostProgram& Program)
 	const std::unique_ptr<FSdlVideo> Video = FoundVideo ? std::move(FoundVideo) : std::make_unique<FSdlVideo>();
 	FEditorWindow& Editor = Program.GetWindow();
 	const FIntPoint Size = Editor.GetSlateWindow()->GetSizeInScreen().IntPoint();
-	FSdlWindow Display(
-		ToUtf8(Editor.GetSlateWindow()->GetTitle().ToString()), Program.GetOptions().bWindowSizeGiven ? Size : RestoreWindowSize(Size));
+	FSdlWindow Display(ToUtf8(Editor.GetSlateWindow()->GetTitle().ToString()),
+		Program.GetOptions().bWindowSizeGiven ? Size : RestoreWindowSize(FirstSize));
 	if (const std::string Problem = Video->GetProblem() + Display.GetProblem(); !Problem.empty())
 	{
 		std::cerr << "The window cannot be opened: " << Problem << ".\n";

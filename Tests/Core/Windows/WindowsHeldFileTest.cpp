@@ -56,7 +56,8 @@ protected:
 	{
 		Holder.emplace(std::filesystem::path(TEST_PROGRAMS_DIR) / "FileHolder.exe",
 			std::vector<std::string>{Folder.NativePath("User.ini").string(), Others});
-		ASSERT_EQ("held", Holder->ReadLine());
+		const std::string Answer = Holder->ReadLine();
+		ASSERT_EQ("held", Answer) << "exit code " << (Answer.empty() ? Holder->Wait().Code : 0);
 	}
 
 	bool Save()
