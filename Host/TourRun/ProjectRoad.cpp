@@ -29,7 +29,7 @@ std::string MakeProjectRoad(const std::string& ProjectName, const std::vector<st
 	for (size_t Index = 0; Index < std::min(Looks.size(), MaxRoadLooks); ++Index)
 	{
 		// The perspective pane sees the most.
-		Road += "compare-look \"" + Looks[Index] + "\"\n";
+		Road += "compare-look \"" + Looks[Index] + "\" 1\n";
 	}
 	if (Looks.size() > MaxRoadLooks)
 	{

@@ -27,6 +27,11 @@ TEST(ProjectRoad, ShowsEveryLookAndEveryPane)
 	EXPECT_EQ(CountCommands(Road, "pictures"), 1u);
 }
 
+TEST(ProjectRoad, ShowsLooksInThePerspectivePane)
+{
+	EXPECT_EQ(CountCommands(MakeProjectRoad("Film", {"/Game/A"}), "compare-look \"/Game/A\" 1"), 1u);
+}
+
 TEST(ProjectRoad, ShowsThePanesOfAProjectWithoutLooks)
 {
 	const std::string Road = MakeProjectRoad("Empty", {});
