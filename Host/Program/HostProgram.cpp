@@ -229,7 +229,7 @@ void FHostProgram::RegisterCommands()
 
 bool FHostProgram::HasUser() const
 {
-	if (Options.bHeadless || Options.bList || Options.Exec || !Options.Tour.empty())
+	if (Options.bHeadless || Options.bList || Options.Exec || !Options.Tour.empty() || !Options.Resume.empty())
 	{
 		return false;
 	}

@@ -25,6 +25,16 @@ FIntPoint LimitToDisplay(const FIntPoint& Size)
 	return FIntPoint(std::min(Size.X, Room.w), std::min(Size.Y, Room.h));
 }
 
+/** Whether the environment names any place where windows could be; the library complains on its own where none is. */
+bool IsAnythingToAsk()
+{
+	const auto IsSet = [](const char* Name) {
+		const char* const Value = SDL_getenv(Name);
+		return Value && *Value;
+	};
+	return IsSet("SDL_VIDEODRIVER") || IsSet("DISPLAY") || IsSet("WAYLAND_DISPLAY") || IsSet("XDG_RUNTIME_DIR");
+}
+
 /** Whether the library has fallen back to windows that nobody can see; not if the user has asked for such. */
 bool IsNobodyWatching()
 {
@@ -43,6 +53,11 @@ FSdlVideo::FSdlVideo()
 	SDL_SetHint(SDL_HINT_MOUSE_FOCUS_CLICKTHROUGH, "1");
 	SDL_SetHint(SDL_HINT_FRAMEBUFFER_ACCELERATION, "0");
 	PassOverDisplayErrors();
+	if (!IsAnythingToAsk())
+	{
+		Problem = "there is no display";
+		return;
+	}
 	if (SDL_InitSubSystem(SDL_INIT_VIDEO) != 0)
 	{
 		Problem = SDL_GetError();

@@ -136,7 +136,15 @@ bool FDesktop::CloseWindow(const std::string& Title) const
 
 FWindowedEditor::FWindowedEditor(const std::string& DisplayName, const std::vector<std::string>& Arguments)
 {
-	std::vector<std::string> All = {"-u", "WAYLAND_DISPLAY", "DISPLAY=" + DisplayName, "SDL_VIDEODRIVER=x11", TINTMILL_EDITOR};
+	std::vector<std::string> All = {"-u", "WAYLAND_DISPLAY", "-u", "XDG_RUNTIME_DIR"};
+	if (DisplayName.empty())
+	{
+		All.insert(All.end(), {"-u", "DISPLAY", "-u", "SDL_VIDEODRIVER", TINTMILL_EDITOR});
+	}
+	else
+	{
+		All.insert(All.end(), {"DISPLAY=" + DisplayName, "SDL_VIDEODRIVER=x11", TINTMILL_EDITOR});
+	}
 	All.insert(All.end(), Arguments.begin(), Arguments.end());
 	Program = std::make_unique<FRunningProgram>("/usr/bin/env", All);
 }

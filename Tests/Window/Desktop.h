@@ -45,7 +45,7 @@ private:
 class FWindowedEditor
 {
 public:
-	/** Starts it with arguments on a display of a name. */
+	/** Starts it with arguments on a display of a name, or where no display is named at all. */
 	FWindowedEditor(const std::string& DisplayName, const std::vector<std::string>& Arguments);
 	~FWindowedEditor();
 

@@ -313,6 +313,16 @@ TEST_F(WindowRun, KeepsTheSizeThatItWasGivenForTheNextStart)
 	EXPECT_TRUE(WaitUntil(IsFilled));
 }
 
+TEST_F(WindowRun, SaysOnceThatThereIsNoDisplayWhereTheEnvironmentNamesNone)
+{
+	FWindowedEditor Program("", {"--out", Folder.NativePath("out").string(), "--project", Folder.NativePath("Project").string()});
+	const std::string Output = Program.Wait().Output;
+	const std::string Sentence = "No window can be opened: there is no display. Running without a window.\n";
+	EXPECT_NE(Output.find(Sentence), std::string::npos) << Output;
+	EXPECT_EQ(Output.find("No window"), Output.rfind("No window"));
+	EXPECT_EQ(Output.find("XDG_RUNTIME_DIR"), std::string::npos);
+}
+
 TEST_F(WindowRun, SaysInOneSentenceThatThereIsNoDisplayAndRunsWithoutAWindow)
 {
 	FWindowedEditor Program(":9999", {"--project", Folder.NativePath("Project").string(), "--out", Folder.NativePath("out").string()});
