@@ -23,7 +23,7 @@
 #include "Widgets/SOverlay.h"
 #include "Widgets/Text/STextBlock.h"
 
-// The parts of the window, from top to bottom.
+// What the window is made of, from top to bottom.
 
 #define LOCTEXT_NAMESPACE "TintmillHost"
 

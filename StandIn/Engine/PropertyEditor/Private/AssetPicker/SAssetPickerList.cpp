@@ -14,7 +14,7 @@ TSharedPtr<IAssetTypeActions> AssetPickerListPrivate::FindActions(const FAssetDa
 
 namespace AssetPickerListPrivate
 {
-/** Sorts by merging the parts that are in order already: assets come folder by folder, each in order. */
+/** Sorts by merging the runs that are in order already: assets come folder by folder, each in order. */
 template <typename LessType>
 void SortRuns(TArray<int32>& Places, LessType Less)
 {
