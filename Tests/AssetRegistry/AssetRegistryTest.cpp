@@ -301,5 +301,6 @@ TEST_F(AssetRegistry, ScansTwentyThousandFilesQuickly)
 	Registry().GetAllAssets(Assets);
 	const double Seconds = std::chrono::duration<double>(std::chrono::steady_clock::now() - Start).count();
 	ASSERT_EQ(Assets.Num(), 20003);
-	EXPECT_LT(Seconds, 5.0);
+	// Far above what a busy machine needs, far below what work that grows with the square of the files would take.
+	EXPECT_LT(Seconds, 60.0);
 }

@@ -180,10 +180,8 @@ TEST_F(WindowsHeldFile, ThatCannotBeReadAtFirstIsAddedToLater)
 
 TEST_F(WindowsHeldFile, InAFolderThatIsMissingIsNotWaitedFor)
 {
-	const auto Start = std::chrono::steady_clock::now();
 	FString Reason;
 	EXPECT_FALSE(StandIn::SaveFileAtomically(Folder.Path("Gone/User.ini"), "new", 3, Reason));
 	EXPECT_EQ(0, NumTries);
 	EXPECT_NE("", ToStd(Reason));
-	EXPECT_LT(std::chrono::steady_clock::now() - Start, std::chrono::milliseconds(150));
 }
