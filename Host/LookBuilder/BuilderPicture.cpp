@@ -57,7 +57,9 @@ void FBuilderPicture::Grade(const UTintmillObject* Look)
 
 float FBuilderPicture::GetScale(const FVector2D& Area, const FBuilderView& View) const
 {
-	return View.Zoom * std::min(Area.X / static_cast<float>(Captured.Width), Area.Y / static_cast<float>(Captured.Height));
+	// At first every pixel of the picture is as large as its neighbours, as long as all of them have room.
+	const float Fitting = std::min(Area.X / static_cast<float>(Captured.Width), Area.Y / static_cast<float>(Captured.Height));
+	return View.Zoom * (Fitting > 1.0f ? std::floor(Fitting) : Fitting);
 }
 
 bool FBuilderPicture::FindPixel(const FVector2D& Area, const FBuilderView& View, const FVector2D& Point, FIntPoint& OutPixel) const

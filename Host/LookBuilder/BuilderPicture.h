@@ -21,7 +21,7 @@ struct FBuilderView
 	/** The share of the area, from the left, that shows the picture without the look; 0 to 1. */
 	float Split = 0.5f;
 
-	/** How many times larger than "all of it fits" the picture is; 1 to 64. */
+	/** How many times larger than at first the picture is; 1 to 64. At first all of it fits, a whole number of times its size if it can. */
 	float Zoom = 1.0f;
 
 	/** The point of the picture in the middle of the area, as shares of its width and height. */

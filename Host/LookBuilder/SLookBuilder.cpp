@@ -128,7 +128,7 @@ FVector2D SLookBuilder::GetShare(const FVector2D& Area, const FVector2D& Point) 
 {
 	const FIntPoint Size = Picture->GetSize();
 	const FVector2D Pixels(static_cast<float>(Size.X), static_cast<float>(Size.Y));
-	const float Scale = View.Zoom * std::min(Area.X / Pixels.X, Area.Y / Pixels.Y);
+	const float Scale = Picture->GetScale(Area, View);
 	return FVector2D(
 		View.Center.X + (Point.X - Area.X / 2.0f) / Scale / Pixels.X, View.Center.Y + (Point.Y - Area.Y / 2.0f) / Scale / Pixels.Y);
 }

@@ -82,6 +82,16 @@ TEST(FBuilderPicture, FitsIntoTheArea)
 	EXPECT_EQ(MakePicture().Compose(FIntPoint(8, 4), FBuilderView()).Pixels[8 * 3 + 7].R, 70);
 }
 
+TEST(FBuilderPicture, IsAWholeNumberOfTimesItsSizeAtFirst)
+{
+	EXPECT_EQ(MakePicture().GetScale(FVector2D(11.0f, 7.0f), FBuilderView()), 2.0f);
+}
+
+TEST(FBuilderPicture, ShrinksWhereItHasNoRoom)
+{
+	EXPECT_EQ(MakePicture().GetScale(FVector2D(2.0f, 2.0f), FBuilderView()), 0.5f);
+}
+
 TEST(FBuilderPicture, IsOpaqueWhereItIsShown)
 {
 	EXPECT_EQ(MakePicture().Compose(FIntPoint(8, 4), FBuilderView()).Pixels[0].A, 255);
